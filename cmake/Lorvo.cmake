@@ -1,0 +1,29 @@
+# Warnings and compile definitions that every target of the project takes on.
+add_library(lorvo_options INTERFACE)
+target_compile_options(lorvo_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_compile_definitions(lorvo_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_CONTEXTLESS_CONNECT
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_include_directories(lorvo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+# lorvo_library(NAME SOURCES file... LINKS target...)
+# A static library. What it links is public, so that a floor sees the floors below it and a
+# library that must not see the widgets fails to link when it tries.
+function(lorvo_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC lorvo_options ${ARG_LINKS})
+endfunction()
+
+# lorvo_test(NAME SOURCES file... LINKS target...)
+# A GoogleTest program that runs as one entry of ctest, on the offscreen platform.
+function(lorvo_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE lorvo_options ${ARG_LINKS} GTest::gtest)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 240
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LORVO_SOURCE_DIR=${PROJECT_SOURCE_DIR}")
+endfunction()

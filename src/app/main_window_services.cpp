@@ -1,0 +1,21 @@
+#include "app/main_window_services.h"
+
+#include "platform/values/errors.h"
+
+namespace lorvo {
+
+namespace {
+MainWindowServices* theMainWindow = nullptr;
+}
+
+MainWindowServices& TheMainWindow() {
+    if (!theMainWindow)
+        throw Error("Hlavní okno není otevřené.");
+    return *theMainWindow;
+}
+
+void SetTheMainWindow(MainWindowServices* window) {
+    theMainWindow = window;
+}
+
+} // namespace lorvo

@@ -1,0 +1,55 @@
+#pragma once
+// What every window but the main one is made of.
+
+#include <QDialog>
+
+namespace lorvo {
+
+/// A modal window: named as its class, its layout restored when it is shown first and stored when
+/// it closes. A subclass builds its controls in the constructor, fills them in Load and refills in
+/// Activated what must be fresh each time the window comes back to the front.
+class Form : public QDialog {
+    Q_OBJECT
+  public:
+    enum class Border { Sizable, Fixed };
+
+    Form(const char* name, const QString& caption, Border border, QWidget* parent);
+
+    /// Run by OpenModal after a window that was opened over this one has closed, and once when this
+    /// one has been opened.
+    virtual void Activated() {}
+
+    Border BorderStyle() const { return border_; }
+
+  protected:
+    /// Fills the window; runs once, before it is shown. The layout has been restored.
+    virtual void Load() {}
+    /// Runs once when the window closes by whatever road, before its layout is stored. False keeps
+    /// it open.
+    virtual bool QueryUnload() { return true; }
+
+    void done(int result) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    friend void OpenModal(Form& form);
+    Border border_;
+    bool unloaded_ = false;
+};
+
+/// What the window below is told when a modal one over it has closed.
+class Activatable {
+  public:
+    virtual ~Activatable() = default;
+    virtual void Activate() = 0;
+};
+/// Names the window that is told when the last modal window has closed: the main one.
+void SetActivatedBelow(Activatable* mainWindow);
+
+/// The one way to open a window: shows it modally over the one that is open, and when it has closed
+/// lets the window below know exactly once, with or without a window manager.
+void OpenModal(Form& form);
+/// Whether any modal window is open.
+bool IsModalOpen();
+
+} // namespace lorvo

@@ -1,0 +1,69 @@
+#pragma once
+// Recording stand-ins for everything that the logic asks of the desktop. A message that nobody
+// expected fails the test, and so does an expected one that never came.
+
+#include "platform/platform.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <deque>
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace lorvo::test {
+
+struct RecordedMessage {
+    QString text;
+    MessageIcon icon;
+    MessageButtons buttons;
+    QString title;
+};
+
+/// Installed as the platform for the lifetime of the object; the program folder is a fresh
+/// temporary one. Czech locale (decimal comma, d.M.yyyy, "Kč"), settings in memory, ini files real.
+class RecordingPlatform {
+  public:
+    RecordingPlatform();
+    ~RecordingPlatform(); ///< fails the test on expectations that were not met
+
+    QString ProgramFolder() const { return folder_.path(); }
+
+    /// The next message box must have this text (and icon, buttons, title where given); it is
+    /// answered so. `whileOpen` runs while the box is open.
+    void ExpectMessage(const QString& text, MessageAnswer answer = MessageAnswer::Ok,
+                       std::optional<MessageIcon> icon = {},
+                       std::optional<MessageButtons> buttons = {},
+                       std::optional<QString> title = {});
+    std::vector<RecordedMessage> messages; ///< all that came
+
+    /// The next pop-up menu is answered by this number; `inspect` sees its entries.
+    void ExpectMenu(int number, std::function<void(const std::vector<MenuEntry>&)> inspect = {});
+    /// Numbers, texts and marks of the last menu, one line an entry: "606 [x] První uzávěrka";
+    /// greyed ones with "(-)" behind, separators "---", submenus indented by two blanks.
+    QStringList LastMenuLines() const;
+
+    QStringList openedFiles;
+    QStringList openedAddresses;
+    std::map<QString, QString> settings; ///< "Sys\\ShowClasses" below the program's key -> text
+    DateValue now;                       ///< what the clock answers
+    QString currencySymbol = QStringLiteral("Kč");
+    int waitCursorDepth = 0;
+    std::function<void()> onProcessEvents; ///< runs at each ProcessEvents
+
+    /// Operations of all word processors so far, one line each, such as `TypeText "Rex "`,
+    /// `SetFontSize 12`, `AddTabStop 28.35`.
+    QStringList wordOperations;
+    int shownDocuments = 0;
+
+  private:
+    friend struct Doubles;
+    struct ExpectedMessage;
+    struct ExpectedMenu;
+    QTemporaryDir folder_;
+    std::deque<ExpectedMessage> expectedMessages_;
+    std::deque<ExpectedMenu> expectedMenus_;
+    std::vector<MenuEntry> lastMenu_;
+};
+
+} // namespace lorvo::test
