@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing. Usage: install_packages.sh run|test
+# "run" is what building and starting the program takes, "test" adds what its tests and
+# measurements take. Quick when nothing is missing: it then asks the package database alone.
+set -euo pipefail
+
+packages=(
+  ca-certificates ccache cmake g++ git ninja-build pkg-config
+  qt6-base-dev libqt6svg6-dev libqt6svg6 libgl-dev
+  libsqlitecpp-dev libsqlite3-dev libicu-dev libzip-dev
+  fp-utils             # chmcmd, which compiles the help file
+  fonts-dejavu-core
+)
+if [ "${1:-run}" = test ]; then
+  packages+=(libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
+fi
+if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [ "${1:-run}" = run ]; then
+  packages+=(xvfb xdotool scrot) # a virtual display and a picture of it
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+if ! command -v apt-get >/dev/null; then
+  echo "This machine has no apt-get. Please install: ${missing[*]}" >&2
+  exit 1
+fi
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || { echo "Please install as root: ${missing[*]}" >&2; exit 1; }
+  as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
