@@ -15,7 +15,7 @@ if [ "${1:-run}" = test ]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
 fi
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [ "${1:-run}" = run ]; then
-  packages+=(xvfb xdotool scrot) # a virtual display and a picture of it
+  packages+=(xvfb xauth xdotool scrot) # a virtual display and a picture of it
 fi
 
 missing=()
