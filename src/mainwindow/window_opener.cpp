@@ -1,0 +1,61 @@
+#include "mainwindow/window_opener.h"
+
+#include "forms/form.h"
+#include "platform/values/errors.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace lorvo {
+
+namespace {
+
+template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
+    return std::make_unique<Window>(parent);
+}
+
+std::map<QString, WindowFactory>& Windows() {
+    // One line for each window, by name: {QStringLiteral("fm_Dog"), Make<fm_Dog>}.
+    static std::map<QString, WindowFactory> windows;
+    return windows;
+}
+
+/// The window that the next one opens over.
+QWidget* WindowInFront() {
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    // Without a window manager no window may be active; the main one is then the one in front.
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto main = std::ranges::find_if(
+        windows, [](QWidget* window) { return qobject_cast<QMainWindow*>(window); });
+    return main == windows.end() ? nullptr : *main;
+}
+
+} // namespace
+
+bool CanOpen(const QString& name) {
+    return Windows().contains(name);
+}
+
+void Open(const QString& name) {
+    const auto found = Windows().find(name);
+    if (found == Windows().end())
+        throw Error("Okno " + name.toStdString() + " neexistuje.");
+    const std::unique_ptr<Form> window = found->second(WindowInFront());
+    OpenModal(*window);
+}
+
+WindowFactory SetWindow(const QString& name, WindowFactory factory) {
+    const auto found = Windows().find(name);
+    WindowFactory before = found == Windows().end() ? WindowFactory() : found->second;
+    if (factory)
+        Windows()[name] = std::move(factory);
+    else
+        Windows().erase(name);
+    return before;
+}
+
+} // namespace lorvo
