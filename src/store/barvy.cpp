@@ -1,0 +1,28 @@
+#include "store/barvy.h"
+
+#include "store/data_module.h"
+#include "store/rows.h"
+
+namespace lorvo {
+
+namespace {
+
+RecordSet& Table() {
+    return TheDataModule().rsBarvy;
+}
+
+Barvy ReadBarvy(const RecordSet& row) {
+    return {row.Field("ID").ToInt(), row.Field("Nazev").ToText()};
+}
+
+} // namespace
+
+std::optional<Barvy> ColourByID(int barvaID) {
+    return ReadFirst(Table(), "SELECT * FROM Barvy WHERE ID = " + Number(barvaID), ReadBarvy);
+}
+
+std::vector<Barvy> Colours() {
+    return ReadRows(Table(), "SELECT * FROM Barvy", ReadBarvy);
+}
+
+} // namespace lorvo

@@ -1,0 +1,41 @@
+#include "store/kruhy.h"
+
+#include "store/data_module.h"
+#include "store/rows.h"
+
+namespace lorvo {
+
+namespace {
+
+RecordSet& Table() {
+    return TheDataModule().rsKruhy;
+}
+
+Kruhy ReadKruhy(const RecordSet& row) {
+    return {row.Field("ID").ToInt(), row.Field("Nazev").ToText(),
+            row.Field("JmenoRozhodciho").ToText()};
+}
+
+} // namespace
+
+std::optional<Kruhy> RingByID(int kruhID) {
+    return ReadFirst(Table(), "SELECT * FROM Kruhy WHERE ID = " + Number(kruhID), ReadKruhy);
+}
+
+std::vector<Kruhy> RingsByName() {
+    return ReadRows(Table(), "SELECT * FROM Kruhy ORDER BY Nazev", ReadKruhy);
+}
+
+int InsertRing(const QString& nazev) {
+    return InsertRow(Table(), "Kruhy", {{"Nazev", nazev}});
+}
+
+void RenameRing(int kruhID, const QString& nazev) {
+    ChangeRow(Table(), "Kruhy", kruhID, {{"Nazev", nazev}});
+}
+
+void DeleteRing(int kruhID) {
+    DeleteRows(Table(), "Kruhy", "ID", kruhID);
+}
+
+} // namespace lorvo

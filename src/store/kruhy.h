@@ -1,0 +1,26 @@
+#pragma once
+// Kruhy: the rings. Every routine raises StoreError when the store refuses.
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+namespace lorvo {
+
+/// Null texts read as empty.
+struct Kruhy {
+    int ID = 0;
+    QString Nazev;
+    QString JmenoRozhodciho;
+};
+
+std::optional<Kruhy> RingByID(int kruhID);
+/// All rings in Czech order of Nazev.
+std::vector<Kruhy> RingsByName();
+
+/// Stores a new ring and returns its ID.
+int InsertRing(const QString& nazev);
+void RenameRing(int kruhID, const QString& nazev);
+void DeleteRing(int kruhID);
+
+} // namespace lorvo

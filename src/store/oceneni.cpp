@@ -1,0 +1,28 @@
+#include "store/oceneni.h"
+
+#include "store/data_module.h"
+#include "store/rows.h"
+
+namespace lorvo {
+
+namespace {
+
+RecordSet& Table() {
+    return TheDataModule().rsOceneni;
+}
+
+Oceneni ReadOceneni(const RecordSet& row) {
+    return {row.Field("ID").ToInt(), row.Field("Nazev").ToText()};
+}
+
+} // namespace
+
+std::optional<Oceneni> AwardByID(int oceneniID) {
+    return ReadFirst(Table(), "SELECT * FROM Oceneni WHERE ID = " + Number(oceneniID), ReadOceneni);
+}
+
+std::vector<Oceneni> Awards() {
+    return ReadRows(Table(), "SELECT * FROM Oceneni", ReadOceneni);
+}
+
+} // namespace lorvo

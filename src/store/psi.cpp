@@ -1,0 +1,209 @@
+#include "store/psi.h"
+
+#include "store/data_module.h"
+#include "store/rows.h"
+
+namespace lorvo {
+
+namespace {
+
+constexpr const char* kOrderInBreed = "PohlaviPes ASC, Trida ASC, Jmeno ASC";
+constexpr const char* kTreeDogs = "SELECT PrvniPes, PrvniUzaverka, ID, Jmeno, Cislo, PlemenoID, "
+                                  "PohlaviPes, Trida FROM Psi ";
+
+RecordSet& Table() {
+    return TheDataModule().rsPsi;
+}
+
+Psi ReadPsi(const RecordSet& row) {
+    Psi dog;
+    dog.ID = row.Field("ID").ToInt();
+    dog.Jmeno = row.Field("Jmeno").ToText();
+    dog.ChovnaStanice = row.Field("ChovnaStanice").ToText();
+    dog.Cislo = ToOptionalInt(row.Field("Cislo"));
+    dog.PlemenoID = row.Field("PlemenoID").ToInt();
+    dog.MajitelID = row.Field("MajitelID").ToInt();
+    dog.BarvaID = row.Field("BarvaID").ToInt();
+    dog.PohlaviPes = row.Field("PohlaviPes").ToBool();
+    dog.DatumNar = ToOptionalDate(row.Field("DatumNar"));
+    dog.Trida = row.Field("Trida").ToInt();
+    dog.Otec = row.Field("Otec").ToText();
+    dog.Matka = row.Field("Matka").ToText();
+    dog.PK = row.Field("PK").ToText();
+    dog.Poznamka = row.Field("Poznamka").ToText();
+    dog.Chovatel = row.Field("Chovatel").ToText();
+    dog.PrvniUzaverka = row.Field("PrvniUzaverka").ToBool();
+    dog.PrvniPes = row.Field("PrvniPes").ToBool();
+    return dog;
+}
+
+TreeDog ReadTreeDog(const RecordSet& row) {
+    TreeDog dog;
+    dog.PrvniPes = row.Field(0).ToBool();
+    dog.PrvniUzaverka = row.Field(1).ToBool();
+    dog.ID = row.Field(2).ToInt();
+    dog.Jmeno = row.Field(3).ToText();
+    dog.Cislo = row.Field(4).ToInt();
+    dog.PlemenoID = row.Field(5).ToInt();
+    dog.PohlaviPes = row.Field(6).ToBool();
+    dog.Trida = row.Field(7).ToInt();
+    return dog;
+}
+
+std::string OrderClause(DogOrder order) {
+    switch (order) {
+    case DogOrder::ByName:
+        return " ORDER BY Jmeno ASC";
+    case DogOrder::ByNameDescending:
+        return " ORDER BY Jmeno DESC";
+    case DogOrder::ByID:
+        break;
+    }
+    return {};
+}
+
+Assignments EditedFields(const Psi& dog) {
+    return {
+        {"Jmeno", dog.Jmeno.left(kJmenoWidth)},
+        {"BarvaID", dog.BarvaID},
+        {"PohlaviPes", dog.PohlaviPes},
+        {"DatumNar", FromOptional(dog.DatumNar)},
+        {"ChovnaStanice", dog.ChovnaStanice.left(kDogTextWidth)},
+        {"Otec", dog.Otec.left(kParentWidth)},
+        {"Matka", dog.Matka.left(kParentWidth)},
+        {"PK", dog.PK.left(kDogTextWidth)},
+        {"Poznamka", dog.Poznamka.left(kDogTextWidth)},
+        {"Chovatel", dog.Chovatel.left(kDogTextWidth)},
+        {"PrvniUzaverka", dog.PrvniUzaverka},
+        {"MajitelID", dog.MajitelID},
+        {"Trida", dog.Trida},
+    };
+}
+
+std::vector<QString> DistinctTexts(const std::string& field) {
+    return ReadTexts(Table(), "SELECT DISTINCT " + field + " FROM Psi ORDER BY " + field);
+}
+
+int CountWhere(const std::string& condition) {
+    return ReadCount(Table(), "SELECT COUNT (*) FROM Psi WHERE " + condition);
+}
+
+} // namespace
+
+std::optional<Psi> DogByID(int psiID) {
+    return ReadFirst(Table(), "SELECT * FROM Psi WHERE ID = " + Number(psiID), ReadPsi);
+}
+
+std::vector<Psi> DogsOfOwner(int majitelID, DogOrder order) {
+    return ReadRows(Table(),
+                    "SELECT * FROM Psi WHERE MajitelID = " + Number(majitelID) + OrderClause(order),
+                    ReadPsi);
+}
+
+std::vector<Psi> DogsOfBreed(int plemenoID) {
+    return ReadRows(Table(),
+                    "SELECT * FROM Psi WHERE PlemenoID = " + Number(plemenoID) + " ORDER BY " +
+                        kOrderInBreed,
+                    ReadPsi);
+}
+
+std::vector<Psi> DogsByBreed() {
+    return ReadRows(Table(), std::string("SELECT * FROM Psi ORDER BY PlemenoID, ") + kOrderInBreed,
+                    ReadPsi);
+}
+
+std::vector<TreeDog> TreeDogsOfBreed(int plemenoID) {
+    return ReadRows(Table(),
+                    std::string(kTreeDogs) + "WHERE Psi!PlemenoID = " + Number(plemenoID) +
+                        " ORDER BY " + kOrderInBreed,
+                    ReadTreeDog);
+}
+
+std::vector<TreeDog> TreeDogsByBreed() {
+    return ReadRows(Table(), std::string(kTreeDogs) + "ORDER BY PlemenoID, " + kOrderInBreed,
+                    ReadTreeDog);
+}
+
+std::optional<int> OwnerOfDog(int psiID) {
+    return ReadFirst(Table(), "SELECT MajitelID FROM Psi WHERE ID=" + Number(psiID),
+                     [](const RecordSet& row) { return row.Field(0).ToInt(); });
+}
+
+std::optional<int> NumberOfFirstRow() {
+    return ReadFirst(Table(), "SELECT TOP 1 Cislo FROM Psi",
+                     [](const RecordSet& row) { return row.Field(0).ToInt(); });
+}
+
+std::vector<QString> DistinctKennels() {
+    return DistinctTexts("ChovnaStanice");
+}
+
+std::vector<QString> DistinctFathers() {
+    return DistinctTexts("Otec");
+}
+
+std::vector<QString> DistinctMothers() {
+    return DistinctTexts("Matka");
+}
+
+int CountDogs() {
+    return ReadCount(Table(), "SELECT COUNT (*) FROM Psi");
+}
+
+int CountNumberedDogs() {
+    return CountWhere("Cislo>0");
+}
+
+int CountDogsOfBreed(int plemenoID) {
+    return CountWhere("PlemenoID = " + Number(plemenoID));
+}
+
+int CountDogsOfClass(int plemenoID, int trida) {
+    return CountWhere("PlemenoID = " + Number(plemenoID) + " AND Trida = " + Number(trida));
+}
+
+int CountDogsOfRing(int kruhID) {
+    return ReadCount(Table(), "SELECT COUNT (*) FROM Plemena, Psi WHERE Plemena!ID_Kruhu = " +
+                                  Number(kruhID) + " AND Psi!PlemenoID = Plemena!ID");
+}
+
+int CountDogsOfFci(int fci) {
+    return CountWhere("PlemenoID IN (SELECT ID FROM Plemena WHERE FCI = " + Number(fci) + ")");
+}
+
+int CountDogsOfOwner(int majitelID) {
+    return CountWhere("MajitelID = " + Number(majitelID));
+}
+
+int InsertDog(const Psi& dog) {
+    Assignments fields = EditedFields(dog);
+    fields.emplace_back("PlemenoID", dog.PlemenoID);
+    return InsertRow(Table(), "Psi", fields);
+}
+
+void UpdateDog(const Psi& dog) {
+    ChangeRow(Table(), "Psi", dog.ID, EditedFields(dog));
+}
+
+void DeleteDog(int psiID) {
+    DeleteRows(Table(), "Psi", "ID", psiID);
+}
+
+void MoveDogToBreed(int psiID, int plemenoID) {
+    ChangeRow(Table(), "Psi", psiID, {{"PlemenoID", plemenoID}});
+}
+
+void SetFirstClosing(int psiID, bool prvniUzaverka) {
+    ChangeRow(Table(), "Psi", psiID, {{"PrvniUzaverka", prvniUzaverka}});
+}
+
+void MarkFirstDog(int psiID) {
+    ChangeRow(Table(), "Psi", psiID, {{"PrvniPes", true}});
+}
+
+void ClearFirstDogs(int majitelID) {
+    ChangeRows(Table(), "SELECT * FROM Psi WHERE MajitelID = " + Number(majitelID),
+               {{"PrvniPes", false}});
+}
+
+} // namespace lorvo

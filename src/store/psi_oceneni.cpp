@@ -1,0 +1,52 @@
+#include "store/psi_oceneni.h"
+
+#include "store/data_module.h"
+#include "store/rows.h"
+
+namespace lorvo {
+
+namespace {
+
+constexpr const char* kAwardNames =
+    "SELECT PsiOceneni.IDPsa, PsiOceneni.IDOceneni, Oceneni.ID, Oceneni.Nazev FROM PsiOceneni, "
+    "Oceneni WHERE ";
+constexpr const char* kJoined = "PsiOceneni.IDOceneni = Oceneni.ID";
+
+RecordSet& Table() {
+    return TheDataModule().rsPsiOceneni;
+}
+
+} // namespace
+
+std::vector<int> AwardsOfDog(int psiID) {
+    return ReadNumbers(Table(), "SELECT IDOceneni FROM PsiOceneni WHERE IDPsa = " + Number(psiID));
+}
+
+QStringList AwardNamesOfDog(int psiID) {
+    QStringList names;
+    Table().Open(std::string(kAwardNames) + "PsiOceneni.IDPsa = " + Number(psiID) + " AND " +
+                 kJoined);
+    for (; !Table().Eof(); Table().MoveNext())
+        names << Table().Field(3).ToText();
+    Table().Close();
+    return names;
+}
+
+std::unordered_map<int, QStringList> AwardNamesByDog() {
+    std::unordered_map<int, QStringList> names;
+    Table().Open(std::string(kAwardNames) + kJoined);
+    for (; !Table().Eof(); Table().MoveNext())
+        names[Table().Field(0).ToInt()] << Table().Field(3).ToText();
+    Table().Close();
+    return names;
+}
+
+void AddAwardsToDog(int psiID, const std::vector<int>& oceneniIDs) {
+    InsertLinks(Table(), "PsiOceneni", "IDPsa", psiID, "IDOceneni", oceneniIDs);
+}
+
+void DeleteAwardsOfDog(int psiID) {
+    DeleteRows(Table(), "PsiOceneni", "IDPsa", psiID);
+}
+
+} // namespace lorvo

@@ -1,0 +1,54 @@
+#include "store/psi_ve_vystavach.h"
+
+#include "store/data_module.h"
+#include "store/rows.h"
+
+namespace lorvo {
+
+namespace {
+
+RecordSet& Table() {
+    return TheDataModule().rsPsiVeVystavach;
+}
+
+/// The lowest show above `vystavaID` in which any dog stands; nullopt when there is none.
+std::optional<int> NextShowWithDogs(int vystavaID) {
+    return ToOptionalInt(
+        ReadScalar(Table(), "SELECT MIN(VystavaID) FROM PsiVeVystavach WHERE VystavaID > " +
+                                Number(vystavaID)));
+}
+
+bool HasOtherDog(int vystavaID, int psiID) {
+    return ReadFirst(Table(),
+                     "SELECT TOP 1 PesID FROM PsiVeVystavach WHERE VystavaID = " +
+                         Number(vystavaID) + " AND PesID <> " + Number(psiID),
+                     [](const RecordSet& row) { return row.Field(0).ToInt(); })
+        .has_value();
+}
+
+} // namespace
+
+std::vector<int> ShowsOfDog(int psiID) {
+    return ReadNumbers(Table(),
+                       "SELECT VystavaID FROM PsiVeVystavach WHERE PesID = " + Number(psiID));
+}
+
+std::vector<int> ShowsOfOtherDogs(int psiID) {
+    // Steps from show to show through the index: there are few shows and many thousand rows.
+    std::vector<int> shows;
+    for (auto show = NextShowWithDogs(0); show; show = NextShowWithDogs(*show)) {
+        if (HasOtherDog(*show, psiID))
+            shows.push_back(*show);
+    }
+    return shows;
+}
+
+void AddDogToShows(int psiID, const std::vector<int>& vystavaIDs) {
+    InsertLinks(Table(), "PsiVeVystavach", "PesID", psiID, "VystavaID", vystavaIDs);
+}
+
+void DeleteShowsOfDog(int psiID) {
+    DeleteRows(Table(), "PsiVeVystavach", "PesID", psiID);
+}
+
+} // namespace lorvo

@@ -1,0 +1,98 @@
+#include "store/rows.h"
+
+#include "store/data_module.h"
+
+namespace lorvo {
+
+namespace {
+
+void Assign(RecordSet& set, const Assignments& fields) {
+    for (const auto& [field, value] : fields)
+        set.Set(field, value);
+}
+
+} // namespace
+
+Value ReadScalar(RecordSet& set, const std::string& statement) {
+    set.Open(statement);
+    const Value value = set.Field(0);
+    set.Close();
+    return value;
+}
+
+int ReadCount(RecordSet& set, const std::string& statement) {
+    return ReadScalar(set, statement).ToInt();
+}
+
+std::vector<int> ReadNumbers(RecordSet& set, const std::string& statement) {
+    return ReadRows(set, statement, [](const RecordSet& row) { return row.Field(0).ToInt(); });
+}
+
+std::vector<QString> ReadTexts(RecordSet& set, const std::string& statement) {
+    return ReadRows(set, statement, [](const RecordSet& row) { return row.Field(0).ToText(); });
+}
+
+int InsertRow(RecordSet& set, const std::string& table, const Assignments& fields) {
+    // A new row needs none of the old ones, so the set is opened on no row at all.
+    set.Open("SELECT * FROM " + table + " WHERE ID = 0");
+    set.AddNew();
+    Assign(set, fields);
+    set.Update();
+    const int ID = set.Field("ID").ToInt();
+    set.Close();
+    return ID;
+}
+
+void InsertLinks(RecordSet& set, const std::string& table, const char* owner, int ownerID,
+                 const char* target, const std::vector<int>& targetIDs) {
+    EditRun run(TheDataModule().Conn1);
+    set.Open("SELECT * FROM " + table + " WHERE " + owner + " = " + Number(ownerID));
+    for (const int targetID : targetIDs) {
+        set.AddNew();
+        set.Set(owner, ownerID);
+        set.Set(target, targetID);
+        set.Update();
+    }
+    set.Close();
+    run.Finish();
+}
+
+void ChangeRow(RecordSet& set, const std::string& table, int ID, const Assignments& fields) {
+    set.Open("SELECT * FROM " + table + " WHERE ID = " + Number(ID));
+    Assign(set, fields);
+    set.Update();
+    set.Close();
+}
+
+void ChangeRows(RecordSet& set, const std::string& statement, const Assignments& fields) {
+    EditRun run(TheDataModule().Conn1);
+    set.Open(statement);
+    for (; !set.Eof(); set.MoveNext()) {
+        Assign(set, fields);
+        set.Update();
+    }
+    set.Close();
+    run.Finish();
+}
+
+void DeleteRows(RecordSet& set, const std::string& table, const std::string& field, int number) {
+    set.Open("DELETE * FROM " + table + " WHERE " + field + " = " + Number(number));
+}
+
+std::optional<int> ToOptionalInt(const Value& value) {
+    return value.IsNull() ? std::nullopt : std::optional(value.ToInt());
+}
+
+std::optional<Currency> ToOptionalCurrency(const Value& value) {
+    return value.IsNull() ? std::nullopt : std::optional(value.ToCurrency());
+}
+
+std::optional<DateValue> ToOptionalDate(const Value& value) {
+    return value.IsNull() ? std::nullopt : std::optional(value.ToDate());
+}
+
+std::optional<QString> ToOptionalText(const Value& value) {
+    return value.IsNull() ? std::nullopt : std::optional(value.ToText());
+}
+
+} // namespace lorvo

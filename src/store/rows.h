@@ -1,0 +1,78 @@
+#pragma once
+// What the routines of all tables share: reading and writing rows through a record set.
+// For src/store alone.
+
+#include "store/record_set.h"
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace lorvo {
+
+/// All rows of `statement`, each read by `read(const RecordSet&)`.
+template<class Reader> auto ReadRows(RecordSet& set, const std::string& statement, Reader read) {
+    std::vector<decltype(read(set))> rows;
+    set.Open(statement);
+    rows.reserve(static_cast<std::size_t>(set.RecordCount()));
+    for (; !set.Eof(); set.MoveNext())
+        rows.push_back(read(set));
+    set.Close();
+    return rows;
+}
+
+/// The first row of `statement`; nullopt when there is none.
+template<class Reader> auto ReadFirst(RecordSet& set, const std::string& statement, Reader read) {
+    std::optional<decltype(read(set))> row;
+    set.Open(statement);
+    if (!set.Eof())
+        row = read(set);
+    set.Close();
+    return row;
+}
+
+/// A field and what to store in it.
+using Assignment = std::pair<const char*, Value>;
+using Assignments = std::vector<Assignment>;
+
+/// Column 0 of the first row. StoreError when there is no row.
+Value ReadScalar(RecordSet& set, const std::string& statement);
+/// Column 0 of the first row as a whole number, for COUNT.
+int ReadCount(RecordSet& set, const std::string& statement);
+/// Column 0 of every row.
+std::vector<int> ReadNumbers(RecordSet& set, const std::string& statement);
+std::vector<QString> ReadTexts(RecordSet& set, const std::string& statement);
+
+/// Stores a new row of `table` with these fields, the others at the table's defaults.
+/// Returns its ID.
+int InsertRow(RecordSet& set, const std::string& table, const Assignments& fields);
+/// The same for a table of links, which has no ID; `owner` is one of its fields.
+void InsertLinks(RecordSet& set, const std::string& table, const char* owner, int ownerID,
+                 const char* target, const std::vector<int>& targetIDs);
+/// Changes fields of the row with this ID. StoreError when there is no such row.
+void ChangeRow(RecordSet& set, const std::string& table, int ID, const Assignments& fields);
+/// Assigns the same to every row of `statement` and stores row by row.
+void ChangeRows(RecordSet& set, const std::string& statement, const Assignments& fields);
+/// Removes the rows of `table` whose `field` is `number`; the set stays shut.
+void DeleteRows(RecordSet& set, const std::string& table, const std::string& field, int number);
+
+/// Null stays nullopt.
+std::optional<int> ToOptionalInt(const Value& value);
+std::optional<Currency> ToOptionalCurrency(const Value& value);
+std::optional<DateValue> ToOptionalDate(const Value& value);
+std::optional<QString> ToOptionalText(const Value& value);
+
+/// Nullopt becomes Null.
+template<class T> Value FromOptional(const std::optional<T>& value) {
+    return value ? Value(*value) : Value();
+}
+/// Adds the assignment unless `value` is nullopt.
+template<class T>
+void AssignIfGiven(Assignments& fields, const char* field, const std::optional<T>& value) {
+    if (value)
+        fields.emplace_back(field, Value(*value));
+}
+
+} // namespace lorvo
