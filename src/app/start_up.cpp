@@ -1,0 +1,86 @@
+#include "app/start_up.h"
+
+#include "app/common_routines.h"
+#include "app/module_values.h"
+#include "platform/platform.h"
+#include "store/data_module.h"
+#include "store/meny.h"
+#include "store/vystavy.h"
+
+namespace lorvo {
+
+namespace {
+
+const QString kSys = QStringLiteral("Sys");
+const QString kRememberTree = QStringLiteral("RememberTree");
+
+/// Rows of a statement that may fail; a failed one counts as none.
+std::vector<Meny> RowsIfReadable(std::vector<Meny> (*read)()) {
+    std::vector<Meny> rows;
+    SkipFailure([&] { rows = read(); });
+    return rows;
+}
+
+/// The currency that becomes the main one when none is marked.
+std::optional<Meny> CurrencyToMark() {
+    // The locale has no item 0, so that this finds only a currency without an abbreviation.
+    std::vector<Meny> rows;
+    SkipFailure([&] { rows = CurrenciesAbbreviated(GetLocaleText(0)); });
+    if (rows.empty())
+        rows = RowsIfReadable(Currencies);
+    if (rows.empty())
+        return std::nullopt;
+    return rows.front();
+}
+
+void MarkSomeCurrency() {
+    if (const std::optional<Meny> money = CurrencyToMark())
+        SkipFailure([&] { SetMainMark(money->ID, true); });
+}
+
+} // namespace
+
+void OpenDatabase() {
+    TheDataModule().Conn1.Open(ThePlatform().programFolder + QStringLiteral("/data.mdb"));
+}
+
+void ReadShowClasses() {
+    Module().ShowClassesOn = ReadRegValue(kSys, QStringLiteral("ShowClasses")) == u"1";
+}
+
+bool ShowGridPreferred() {
+    return ReadRegValue(kSys, QStringLiteral("ShowGrid")) == u"1";
+}
+
+void EnsureShow() {
+    if (CountShows() == 0)
+        InsertShow(QStringLiteral("Hlavní výstava"));
+}
+
+void EnsureMainCurrency() {
+    if (RowsIfReadable(MainCurrencies).empty())
+        MarkSomeCurrency();
+    const std::vector<Meny> marked = RowsIfReadable(MainCurrencies);
+    Module().MainCurrency = marked.empty() ? QStringLiteral("Kč") : marked.front().Zkratka;
+    for (const Meny& money : marked)
+        if (money.Zkratka != Module().MainCurrency)
+            SkipFailure([&] { SetMainMark(money.ID, false); });
+}
+
+QString RememberedNode() {
+    const QString key = ReadRegValue(kSys, kRememberTree);
+    Module().RememberTreeOn = !key.isEmpty();
+    return key.startsWith(u"TR") ? QString() : key;
+}
+
+void StoreTreeState(const QString& selected, const QStringList& expanded) {
+    if (!Module().RememberTreeOn) {
+        WriteRegValue(kSys, kRememberTree, QString());
+        return;
+    }
+    if (!selected.isEmpty())
+        WriteRegValue(kSys, kRememberTree, selected);
+    WriteRegValue(kSys, QStringLiteral("ExpandedItems"), expanded.join(u'|'));
+}
+
+} // namespace lorvo

@@ -1,0 +1,35 @@
+#pragma once
+// What the program does with the store and the settings when it starts and ends; the main window
+// calls it step by step between its own.
+
+#include <QString>
+#include <QStringList>
+
+namespace lorvo {
+
+/// Opens the database file of the program's own folder. Raises StoreError that names the file and
+/// the reason.
+void OpenDatabase();
+
+/// Reads the preference `ShowClasses` into the module value `ShowClassesOn`.
+void ReadShowClasses();
+/// Whether lists show grid lines.
+bool ShowGridPreferred();
+
+/// Gives a database without shows its main one, "Hlavní výstava". Raises StoreError.
+void EnsureShow();
+
+/// Sees to exactly one main currency and puts its abbreviation into the module value
+/// `MainCurrency`, "Kč" when there is no currency at all. Of several marked ones the first wins;
+/// rows that bear the winner's abbreviation keep their mark. Failing statements are skipped.
+void EnsureMainCurrency();
+
+/// Reads the node that was selected when the program last ended and sets the module value
+/// `RememberTreeOn`. Empty when nothing is to be selected: remembering is off, or the node was one
+/// of a class.
+QString RememberedNode();
+/// Stores what is to be found at the next start, as far as remembering is on. `selected` is empty
+/// when no node is selected, `expanded` holds the keys of the expanded nodes in tree order.
+void StoreTreeState(const QString& selected, const QStringList& expanded);
+
+} // namespace lorvo

@@ -1,0 +1,87 @@
+#include "mainwindow/about_panel.h"
+
+#include "app/version.h"
+#include "forms/controls.h"
+#include "platform/platform.h"
+
+#include <QEvent>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kPictureSize = 256;
+
+QString MailAddress() {
+    return QStringLiteral("lorvo@hollowpeak.example");
+}
+
+QString VersionText(const QString& pattern) {
+    return pattern.arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision);
+}
+
+} // namespace
+
+AboutPanel::AboutPanel(QWidget* parent)
+    : QWidget(parent), imgBkg(Named(new QLabel(this), QStringLiteral("imgBkg"))),
+      lbl_About(Named(new QLabel(this), QStringLiteral("lbl_About"))),
+      lbl_Ver(Named(new QLabel(this), QStringLiteral("lbl_Ver"))),
+      lbl_copyright(Named(new QLabel(QStringLiteral("© 2026 Hollow Peak"), this),
+                          QStringLiteral("lbl_copyright"))),
+      lbl_Mailto(Named(new LinkLabel(QStringLiteral("Tým Lorvo, Hollow Peak"), this),
+                       QStringLiteral("lbl_Mailto"))),
+      Label9(Named(
+          new QLabel(QStringLiteral("Věnováno všem, kdo v kanceláři výstavy drží pořádek."), this),
+          QStringLiteral("Label9"))) {
+    setObjectName(QStringLiteral("picAbout"));
+    imgBkg->setPixmap(ProgramIcon(QStringLiteral("lorvo"))
+                          .pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+    imgBkg->resize(kPictureSize, kPictureSize);
+    LayOut();
+    lbl_Mailto->installEventFilter(this);
+    Label9->installEventFilter(this);
+    connect(lbl_Mailto, &LinkLabel::Clicked, this, &AboutPanel::WriteToAuthor);
+}
+
+void AboutPanel::LayOut() {
+    QFont large = lbl_About->font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    large.setBold(true);
+    lbl_About->setFont(large);
+    auto* lines = new QVBoxLayout(this);
+    for (QWidget* line : std::initializer_list<QWidget*>{lbl_About, lbl_Ver, lbl_copyright})
+        lines->addWidget(line);
+    lines->addSpacing(fontMetrics().height());
+    lines->addWidget(lbl_Mailto, 0, Qt::AlignLeft);
+    lines->addWidget(Label9);
+    lines->addStretch();
+}
+
+void AboutPanel::ShowVersion() {
+    lbl_About->setText(QStringLiteral("Lorvo"));
+    lbl_Ver->setText(VersionText(QStringLiteral("Verze %1.%2 build %3")));
+}
+
+void AboutPanel::WriteToAuthor() {
+    const QString subject = VersionText(QStringLiteral("Lorvo_%1.%2.%3"));
+    ThePlatform().opener->OpenAddress(
+        QStringLiteral("mailto:%1?subject=%2").arg(MailAddress(), subject));
+}
+
+bool AboutPanel::eventFilter(QObject* watched, QEvent* event) {
+    const bool overLink = watched == lbl_Mailto;
+    if (overLink && event->type() == QEvent::Enter)
+        Q_EMIT MailAddressShown(MailAddress());
+    else if (event->type() == (overLink ? QEvent::Leave : QEvent::Enter))
+        Q_EMIT MailAddressHidden();
+    return QWidget::eventFilter(watched, event);
+}
+
+void AboutPanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    imgBkg->move((width() - imgBkg->width()) / 2, (height() - imgBkg->height()) / 2);
+    imgBkg->lower();
+}
+
+} // namespace lorvo
