@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+class DateValue;
+
 /// Gives a control its name: objectName as the window's code knows it.
 template<typename T> T* Named(T* control, const QString& name) {
     control->setObjectName(name);
@@ -39,6 +41,9 @@ class LinkLabel : public QLabel {
   protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -51,15 +56,14 @@ void SetNumberStyle(QLineEdit& box);
 
 /// A date picker with a calendar: range 1.1.1601 to 31.12.9999, the system's short date.
 QDateEdit* DatePicker(const QString& name, QWidget* parent);
-class DateValue;
 DateValue PickedDate(const QDateEdit& picker);
 void SetPickedDate(QDateEdit& picker, DateValue value);
 
-/// A row of buttons at the right end of a window; the first is the default button.
+/// A row of buttons, in the order given, at the right end of a window; the first is the default.
 QLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);
 
-/// An icon of the program's family, from the resources: crisp at any scale, readable on a dark
-/// palette too.
+/// An icon of the program's family by the name of its picture ("ring", "dog", "sort-up"): crisp at
+/// any scale, readable on a dark palette too. A null icon for a name without a picture.
 QIcon ProgramIcon(const QString& name);
 
 } // namespace lorvo

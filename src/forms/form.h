@@ -16,7 +16,7 @@ class Form : public QDialog {
     Form(const char* name, const QString& caption, Border border, QWidget* parent);
 
     /// Run by OpenModal after a window that was opened over this one has closed, and once when this
-    /// one has been opened.
+    /// one has been opened, after Load.
     virtual void Activated() {}
 
     Border BorderStyle() const { return border_; }
@@ -24,15 +24,16 @@ class Form : public QDialog {
   protected:
     /// Fills the window; runs once, before it is shown. The layout has been restored.
     virtual void Load() {}
-    /// Runs once when the window closes by whatever road, before its layout is stored. False keeps
-    /// it open.
+    /// Runs when the window is about to close by whatever road, before its layout is stored. False
+    /// keeps it open.
     virtual bool QueryUnload() { return true; }
 
+    /// Every road out of the window (button, close box, Esc) ends here.
     void done(int result) override;
-    void closeEvent(QCloseEvent* event) override;
 
   private:
     friend void OpenModal(Form& form);
+    void Open();
     Border border_;
     bool unloaded_ = false;
 };
@@ -47,7 +48,8 @@ class Activatable {
 void SetActivatedBelow(Activatable* mainWindow);
 
 /// The one way to open a window: shows it modally over the one that is open, and when it has closed
-/// lets the window below know exactly once, with or without a window manager.
+/// lets the window below know exactly once, with or without a window manager. A failure inside the
+/// window closes it and goes up from here.
 void OpenModal(Form& form);
 /// Whether any modal window is open.
 bool IsModalOpen();

@@ -2,9 +2,10 @@
 // The list that all windows share: report style with columns, keys and tags, optional check boxes,
 // in-place editing of the first column, sorting by a clicked column.
 
-#include <QAbstractItemModel>
 #include <QColor>
 #include <QIcon>
+#include <QLineEdit>
+#include <QPointer>
 #include <QTreeView>
 #include <optional>
 #include <vector>
@@ -26,6 +27,9 @@ struct ReportRow {
     bool bold = false;
 };
 
+/// The picture in a column's heading: which way the list is sorted by it.
+enum class HeaderPicture { None = 0, Descending = 1, Ascending = 2, Neutral = 3 };
+
 class ReportListModel;
 
 class ReportList : public QTreeView {
@@ -36,13 +40,17 @@ class ReportList : public QTreeView {
 
     // Content. Rows stand in the order of the list as it is sorted now; positions are from 0.
     void SetRows(std::vector<ReportRow> rows); ///< replaces all rows at once
-    void AddRow(ReportRow row);
+    int AddRow(ReportRow row);                 ///< returns where the row stands
     void ClearRows();
     void RemoveRow(const QString& key);
     int RowCount() const;
     const ReportRow& Row(int position) const;
+    /// The text of a cell, empty for one that the row lacks.
+    QString CellText(int position, int column) const;
     /// Position of the row with that key, -1 when there is none.
     int FindRow(const QString& key) const;
+    /// Position of the first row with that text in column 0, -1 when there is none.
+    int FindText(const QString& text) const;
     void SetKey(int position, const QString& key);
     void SetCell(int position, int column, const QString& text);
     void SetCellColour(int position, int column, std::optional<QColor> colour);
@@ -50,42 +58,71 @@ class ReportList : public QTreeView {
     void SetBold(int position, bool bold);
     void SetChecked(int position, bool checked); ///< without ItemCheck
 
-    // Columns.
+    // Columns, from 0.
     void SetHeading(int column, const QString& text);
     void InsertColumn(int column, const QString& heading);
     int ColumnCount() const;
+    void SetColumnWidths(std::initializer_list<int> widths);
+    HeaderPicture PictureOf(int column) const;
 
     // Selection. -1 for none.
     int SelectedRow() const;
     std::vector<int> SelectedRows() const;
     void SelectRow(int position); ///< and makes it visible
+    void SetMultiSelect(bool on); ///< several rows may be selected
 
     // Looks and ways.
     void SetCheckBoxes(bool on);
     void SetGridLines(bool on);
+    bool GridLines() const { return gridLines_; }
     void SetIcons(std::vector<QIcon> icons);
     void SetLabelEdit(bool allowed); ///< in-place editing by F2 or a click on the selected text
     void SetSorting(bool on);        ///< SortListColumn on a click on a heading
     void StartLabelEdit(int position);
+    void EndLabelEdit(); ///< as by loss of focus; nothing when no edit goes on
 
   Q_SIGNALS:
     /// The clerk ticked or unticked a row; its state has already changed.
     void ItemCheck(int position);
     void ItemClick(int position);
     void DoubleClick(int position);
+    /// The right button was released, over no row when -1. The row has been selected by the press.
     void RightClick(int position);
+    void SelectionChanged();
     void DeletePressed();
     /// In-place editing begins; set *cancel to keep it from starting.
     void BeforeLabelEdit(int position, bool* cancel);
-    /// In-place editing ended with Enter or loss of focus. Set *cancel to keep the old text.
+    /// In-place editing ended with Enter or loss of focus, whether the text changed or not; the
+    /// list still shows the old text. Set *cancel to keep it.
     void AfterLabelEdit(int position, const QString& text, bool* cancel);
 
+  protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+
   private:
+    friend void SortListColumn(ReportList& list, int column);
+    friend class ReportListDelegate;
+    void InstallEditing();
+    void DeliverEditedText(const QString& text);
+
     ReportListModel* model_;
+    bool gridLines_ = false;
+    Qt::SortOrder order_ = Qt::AscendingOrder;
+    QPointer<QLineEdit> editor_;
+    std::optional<QString> editedText_; ///< what an edit that is just ending has committed
+    int editedRow_ = -1;
 };
 
 /// Sorts by the clicked column's texts and toggles the list's direction, with the three header
-/// pictures (descending, ascending, neutral).
+/// pictures (descending, ascending, neutral). The first click on a list sorts it descending.
 void SortListColumn(ReportList& list, int column);
 
 } // namespace lorvo

@@ -1,0 +1,79 @@
+#include "forms/controls.h"
+
+#include "platform/platform.h"
+
+#include <QAbstractButton>
+#include <QCalendarWidget>
+#include <QHBoxLayout>
+#include <QLocale>
+
+namespace lorvo {
+
+QString ElementName(const char* array, int index) {
+    return QStringLiteral("%1(%2)").arg(QString::fromLatin1(array)).arg(index);
+}
+
+QLabel* CaptionFor(QWidget* field, const QString& caption, QWidget* parent) {
+    auto* label = new QLabel(caption, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(field);
+    return label;
+}
+
+QLabel* ValueLabel(const QString& accessibleName, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setAccessibleName(accessibleName);
+    return label;
+}
+
+namespace {
+const QDate kFirstDate(1601, 1, 1);
+const QDate kLastDate(9999, 12, 31);
+} // namespace
+
+QDateEdit* DatePicker(const QString& name, QWidget* parent) {
+    auto* picker = Named(new QDateEdit(parent), name);
+    picker->setLocale(QLocale(QLocale::Czech, QLocale::CzechRepublic));
+    picker->setDisplayFormat(ThePlatform().locale->ShortDatePattern());
+    picker->setDateRange(kFirstDate, kLastDate);
+    picker->setCalendarPopup(true);
+    return picker;
+}
+
+DateValue PickedDate(const QDateEdit& picker) {
+    const QDate date = picker.date();
+    return DateValue::FromCalendar(date.year(), date.month(), date.day());
+}
+
+void SetPickedDate(QDateEdit& picker, DateValue value) {
+    picker.setDate(QDate(value.Year(), value.Month(), value.Day()));
+}
+
+QLayout* ButtonRow(std::initializer_list<QPushButton*> buttons) {
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    for (QPushButton* button : buttons) {
+        button->setAutoDefault(false);
+        row->addWidget(button);
+    }
+    (*buttons.begin())->setDefault(true);
+    return row;
+}
+
+} // namespace lorvo
+
+/// Outside the namespace, as the resource compiler's function is.
+static void LoadIconResources() {
+    Q_INIT_RESOURCE(forms);
+}
+
+namespace lorvo {
+
+QIcon ProgramIcon(const QString& name) {
+    static const bool loaded = (LoadIconResources(), true);
+    Q_UNUSED(loaded);
+    return QIcon(QStringLiteral(":/lorvo/icons/%1.svg").arg(name));
+}
+
+} // namespace lorvo

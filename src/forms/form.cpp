@@ -1,0 +1,92 @@
+#include "forms/form.h"
+
+#include "forms/application.h"
+#include "forms/form_settings.h"
+#include "forms/report_list.h"
+
+#include <QLayout>
+#include <vector>
+
+namespace lorvo {
+
+namespace {
+
+/// The open windows, the one in front last.
+std::vector<Form*>& OpenForms() {
+    static std::vector<Form*> forms;
+    return forms;
+}
+
+Activatable* mainWindowBelow = nullptr;
+
+/// A place in the stack of open windows, given back however the window ends.
+class OpenPlace {
+  public:
+    explicit OpenPlace(Form& form) { OpenForms().push_back(&form); }
+    ~OpenPlace() { OpenForms().pop_back(); }
+    OpenPlace(const OpenPlace&) = delete;
+    OpenPlace& operator=(const OpenPlace&) = delete;
+};
+
+void ActivateWindowBelow() {
+    if (!OpenForms().empty())
+        OpenForms().back()->Activated();
+    else if (mainWindowBelow)
+        mainWindowBelow->Activate();
+}
+
+} // namespace
+
+Form::Form(const char* name, const QString& caption, Border border, QWidget* parent)
+    : QDialog(parent), border_(border) {
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(caption);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowFlag(Qt::WindowMaximizeButtonHint, border == Border::Sizable);
+}
+
+void Form::Open() {
+    unloaded_ = false;
+    if (border_ == Border::Fixed && layout())
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    LoadFormSettings(*this, border_ == Border::Fixed);
+    Load();
+    if (unloaded_)
+        return;
+    Activated();
+    if (!unloaded_)
+        exec();
+}
+
+void Form::done(int result) {
+    if (unloaded_)
+        return QDialog::done(result);
+    // An edit in place ends by loss of focus, which a window closed by its frame wouldn't see.
+    for (ReportList* list : findChildren<ReportList*>())
+        list->EndLabelEdit();
+    if (!QueryUnload())
+        return;
+    unloaded_ = true;
+    SaveFormSettings(*this);
+    QDialog::done(result);
+}
+
+void SetActivatedBelow(Activatable* mainWindow) {
+    mainWindowBelow = mainWindow;
+}
+
+void OpenModal(Form& form) {
+    {
+        const OpenPlace place(form);
+        form.Open();
+    }
+    form.hide();
+    Application::RethrowFailure();
+    ActivateWindowBelow();
+}
+
+bool IsModalOpen() {
+    return !OpenForms().empty();
+}
+
+} // namespace lorvo

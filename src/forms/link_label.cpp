@@ -1,0 +1,62 @@
+#include "forms/controls.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace lorvo {
+
+LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
+    setTextFormat(Qt::PlainText);
+    setForegroundRole(QPalette::Link);
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void LinkLabel::Underline(bool on) {
+    QFont underlined = font();
+    underlined.setUnderline(on);
+    setFont(underlined);
+}
+
+void LinkLabel::enterEvent(QEnterEvent* event) {
+    QLabel::enterEvent(event);
+    Underline(true);
+}
+
+void LinkLabel::leaveEvent(QEvent* event) {
+    QLabel::leaveEvent(event);
+    Underline(hasFocus());
+}
+
+void LinkLabel::focusInEvent(QFocusEvent* event) {
+    QLabel::focusInEvent(event);
+    Underline(true);
+}
+
+void LinkLabel::focusOutEvent(QFocusEvent* event) {
+    QLabel::focusOutEvent(event);
+    Underline(underMouse());
+}
+
+void LinkLabel::mousePressEvent(QMouseEvent* event) {
+    event->accept(); // a label would let the press through to what lies below
+}
+
+void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
+    if (rect().contains(event->position().toPoint()))
+        Q_EMIT Clicked(event->button());
+}
+
+void LinkLabel::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        Q_EMIT Clicked(Qt::LeftButton);
+        return;
+    default:
+        QLabel::keyPressEvent(event);
+    }
+}
+
+} // namespace lorvo

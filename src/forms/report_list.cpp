@@ -1,0 +1,168 @@
+#include "forms/report_list.h"
+
+#include "forms/report_list_model.h"
+
+#include <QHeaderView>
+#include <algorithm>
+
+namespace lorvo {
+
+ReportList::ReportList(const char* name, const QStringList& headings, QWidget* parent)
+    : QTreeView(parent), model_(new ReportListModel(headings, this)) {
+    setObjectName(QString::fromLatin1(name));
+    setModel(model_);
+    InstallEditing();
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setTabKeyNavigation(false);
+    setEditTriggers(NoEditTriggers);
+    header()->setSectionsMovable(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionsClickable(true);
+    connect(model_, &ReportListModel::Ticked, this, &ReportList::ItemCheck);
+    connect(this, &QTreeView::clicked, this,
+            [this](const QModelIndex& index) { Q_EMIT ItemClick(index.row()); });
+    connect(this, &QTreeView::doubleClicked, this,
+            [this](const QModelIndex& index) { Q_EMIT DoubleClick(index.row()); });
+}
+
+ReportList::~ReportList() = default;
+
+void ReportList::SetRows(std::vector<ReportRow> rows) {
+    model_->SetRows(std::move(rows));
+}
+
+int ReportList::AddRow(ReportRow row) {
+    return model_->AddRow(std::move(row));
+}
+
+void ReportList::ClearRows() {
+    model_->SetRows({});
+}
+
+void ReportList::RemoveRow(const QString& key) {
+    if (const int position = FindRow(key); position >= 0)
+        model_->RemoveRow(position);
+}
+
+int ReportList::RowCount() const {
+    return model_->rowCount();
+}
+
+const ReportRow& ReportList::Row(int position) const {
+    return model_->Row(position);
+}
+
+QString ReportList::CellText(int position, int column) const {
+    return model_->Cell(position, column).text;
+}
+
+int ReportList::FindRow(const QString& key) const {
+    return model_->FindRow(key);
+}
+
+int ReportList::FindText(const QString& text) const {
+    for (int position = 0; position < RowCount(); ++position)
+        if (CellText(position, 0) == text)
+            return position;
+    return -1;
+}
+
+void ReportList::SetKey(int position, const QString& key) {
+    model_->EditRow(position, [&](ReportRow& row) { row.key = key; });
+}
+
+void ReportList::SetCell(int position, int column, const QString& text) {
+    model_->EditCell(position, column, [&](ReportCell& cell) { cell.text = text; });
+}
+
+void ReportList::SetCellColour(int position, int column, std::optional<QColor> colour) {
+    model_->EditCell(position, column, [&](ReportCell& cell) { cell.colour = colour; });
+}
+
+void ReportList::SetCellIcon(int position, int column, int icon) {
+    model_->EditCell(position, column, [&](ReportCell& cell) { cell.icon = icon; });
+}
+
+void ReportList::SetBold(int position, bool bold) {
+    model_->EditRow(position, [&](ReportRow& row) { row.bold = bold; });
+}
+
+void ReportList::SetChecked(int position, bool checked) {
+    model_->EditRow(position, [&](ReportRow& row) { row.checked = checked; });
+}
+
+void ReportList::SetHeading(int column, const QString& text) {
+    model_->SetHeading(column, text);
+}
+
+void ReportList::InsertColumn(int column, const QString& heading) {
+    model_->InsertHeading(column, heading);
+}
+
+int ReportList::ColumnCount() const {
+    return model_->columnCount();
+}
+
+void ReportList::SetColumnWidths(std::initializer_list<int> widths) {
+    int column = 0;
+    for (const int width : widths)
+        header()->resizeSection(column++, width);
+}
+
+HeaderPicture ReportList::PictureOf(int column) const {
+    return model_->PictureOf(column);
+}
+
+int ReportList::SelectedRow() const {
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && selectionModel()->isRowSelected(current.row()))
+        return current.row();
+    const std::vector<int> rows = SelectedRows();
+    return rows.empty() ? -1 : rows.front();
+}
+
+std::vector<int> ReportList::SelectedRows() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        rows.push_back(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void ReportList::SelectRow(int position) {
+    const QModelIndex index = model_->index(position, 0);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
+                                                 QItemSelectionModel::Rows);
+    scrollTo(index);
+}
+
+void ReportList::SetMultiSelect(bool on) {
+    setSelectionMode(on ? ExtendedSelection : SingleSelection);
+}
+
+void ReportList::SetCheckBoxes(bool on) {
+    model_->checkBoxes = on;
+    viewport()->update();
+}
+
+void ReportList::SetGridLines(bool on) {
+    gridLines_ = on;
+    viewport()->update();
+}
+
+void ReportList::SetIcons(std::vector<QIcon> icons) {
+    model_->icons = std::move(icons);
+    viewport()->update();
+}
+
+void ReportList::SetSorting(bool on) {
+    disconnect(header(), &QHeaderView::sectionClicked, this, nullptr);
+    if (on)
+        connect(header(), &QHeaderView::sectionClicked, this,
+                [this](int column) { SortListColumn(*this, column); });
+}
+
+} // namespace lorvo

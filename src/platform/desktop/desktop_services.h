@@ -1,0 +1,27 @@
+#pragma once
+// The desktop's services that are made of widgets.
+
+#include "platform/message_boxes.h"
+#include "platform/popup_menus.h"
+#include "platform/user_interface.h"
+
+namespace lorvo {
+
+class DesktopMessageBoxes : public MessageBoxes {
+  public:
+    MessageAnswer Show(const QString& text, MessageIcon icon, MessageButtons buttons,
+                       const QString& title) override;
+};
+
+class DesktopPopupMenus : public PopupMenus {
+  public:
+    int TrackPopup(const std::vector<MenuEntry>& entries) override;
+};
+
+class DesktopUserInterface : public UserInterface {
+  public:
+    void SetWaitCursor(bool on) override;
+    void ProcessEvents() override;
+};
+
+} // namespace lorvo
