@@ -9,6 +9,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace lorvo::test {
@@ -26,6 +27,8 @@ class RecordingPlatform {
   public:
     RecordingPlatform();
     ~RecordingPlatform(); ///< fails the test on expectations that were not met
+    RecordingPlatform(const RecordingPlatform&) = delete;
+    RecordingPlatform& operator=(const RecordingPlatform&) = delete;
 
     QString ProgramFolder() const { return folder_.path(); }
 
@@ -34,13 +37,15 @@ class RecordingPlatform {
     void ExpectMessage(const QString& text, MessageAnswer answer = MessageAnswer::Ok,
                        std::optional<MessageIcon> icon = {},
                        std::optional<MessageButtons> buttons = {},
-                       std::optional<QString> title = {});
+                       std::optional<QString> title = {}, std::function<void()> whileOpen = {});
     std::vector<RecordedMessage> messages; ///< all that came
 
-    /// The next pop-up menu is answered by this number; `inspect` sees its entries.
+    /// The next pop-up menu is answered by this number, 0 to leave it; `inspect` sees its entries.
+    /// A number that the menu doesn't offer, or only greyed, fails the test.
     void ExpectMenu(int number, std::function<void(const std::vector<MenuEntry>&)> inspect = {});
     /// Numbers, texts and marks of the last menu, one line an entry: "606 [x] První uzávěrka";
-    /// greyed ones with "(-)" behind, separators "---", submenus indented by two blanks.
+    /// greyed ones with "(-)" behind, separators "---", submenus indented by two blanks. An entry
+    /// without a number is its text alone.
     QStringList LastMenuLines() const;
 
     QStringList openedFiles;
@@ -49,18 +54,32 @@ class RecordingPlatform {
     DateValue now;                       ///< what the clock answers
     QString currencySymbol = QStringLiteral("Kč");
     int waitCursorDepth = 0;
-    std::function<void()> onProcessEvents; ///< runs at each ProcessEvents
+    /// Runs at each ProcessEvents, before the events that are really pending.
+    std::function<void()> onProcessEvents;
 
     /// Operations of all word processors so far, one line each, such as `TypeText "Rex "`,
-    /// `SetFontSize 12`, `AddTabStop 28.35`.
+    /// `SetFontSize 12`, `AddTabStop 28.35`. Lengths have at most two decimals; in a text a tab, a
+    /// line break, a quote and a backslash are written as \t, \r, \n, \" and \\.
     QStringList wordOperations;
     int shownDocuments = 0;
 
   private:
-    friend struct Doubles;
-    struct ExpectedMessage;
-    struct ExpectedMenu;
+    struct Doubles;
+    struct ExpectedMessage {
+        RecordedMessage message;
+        bool anyIcon;
+        bool anyButtons;
+        bool anyTitle;
+        MessageAnswer answer;
+        std::function<void()> whileOpen;
+    };
+    struct ExpectedMenu {
+        int number;
+        std::function<void(const std::vector<MenuEntry>&)> inspect;
+    };
+
     QTemporaryDir folder_;
+    Platform outer_; ///< the platform before this one
     std::deque<ExpectedMessage> expectedMessages_;
     std::deque<ExpectedMenu> expectedMenus_;
     std::vector<MenuEntry> lastMenu_;

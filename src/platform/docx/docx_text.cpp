@@ -1,0 +1,102 @@
+#include "platform/docx/docx_text.h"
+
+#include "platform/docx/xml_writer.h"
+
+#include <algorithm>
+
+namespace lorvo::docx {
+
+namespace {
+
+bool IsPlainCharacter(QChar character) {
+    return character >= u' ' && !character.isSurrogate() && character < QChar(0xFFFE);
+}
+
+void AppendAllowed(QString& target, QStringView text) {
+    if (std::all_of(text.begin(), text.end(), IsPlainCharacter)) {
+        target.append(text);
+        return;
+    }
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar character = text[i];
+        if (IsPlainCharacter(character) || character == u'\t') {
+            target.append(character);
+        } else if (character.isHighSurrogate() && i + 1 < text.size() &&
+                   text[i + 1].isLowSurrogate()) {
+            target.append(character).append(text[++i]);
+        }
+    }
+}
+
+void WriteText(XmlWriter& xml, QStringView text) {
+    if (text.isEmpty())
+        return;
+    xml.Start("w:t");
+    if (text.front() == u' ' || text.back() == u' ')
+        xml.Attribute("xml:space", "preserve");
+    xml.Text(text).End();
+}
+
+void WriteTextAndTabs(XmlWriter& xml, QStringView text) {
+    for (;;) {
+        const qsizetype tab = text.indexOf(u'\t');
+        WriteText(xml, tab < 0 ? text : text.first(tab));
+        if (tab < 0)
+            return;
+        xml.Empty("w:tab");
+        text = text.sliced(tab + 1);
+    }
+}
+
+void WriteRun(XmlWriter& xml, QStringView text, std::optional<int> style) {
+    xml.Start("w:r");
+    if (style) {
+        xml.Start("w:rPr");
+        xml.Empty("w:rStyle", "w:val", std::string_view(Styles::CharacterStyleId(*style)));
+        xml.End();
+    }
+    WriteTextAndTabs(xml, text);
+    xml.End();
+}
+
+void WritePageBreak(XmlWriter& xml) {
+    xml.Start("w:r");
+    xml.Empty("w:br", "w:type", "page");
+    xml.End();
+}
+
+} // namespace
+
+void ParagraphText::Append(QStringView text, const RunFormat& format) {
+    const qsizetype before = text_.size();
+    AppendAllowed(text_, text);
+    if (text_.size() == before)
+        return;
+    if (runs_.empty() || runs_.back().format != format)
+        runs_.push_back({format, 0});
+    runs_.back().end = text_.size();
+}
+
+void ParagraphText::WriteParagraph(XmlWriter& xml, Styles& styles, const ParagraphFormat& format,
+                                   const RunFormat& mark, ParagraphEnd end) {
+    const int style = styles.ParagraphStyle(format, mark);
+    xml.Start("w:p");
+    if (style != 0) {
+        xml.Start("w:pPr");
+        xml.Empty("w:pStyle", "w:val", std::string_view(Styles::ParagraphStyleId(style)));
+        xml.End();
+    }
+    qsizetype begin = 0;
+    for (const Run& run : runs_) {
+        WriteRun(xml, QStringView(text_).sliced(begin, run.end - begin),
+                 styles.CharacterStyle(run.format, style));
+        begin = run.end;
+    }
+    if (end == ParagraphEnd::PageBreak)
+        WritePageBreak(xml);
+    xml.End();
+    text_.resize(0);
+    runs_.clear();
+}
+
+} // namespace lorvo::docx

@@ -1,0 +1,109 @@
+#include "platform/real_services.h"
+#include "platform/values/qt_date.h"
+
+namespace lorvo {
+
+namespace {
+
+bool IsCzech(const QLocale& locale) {
+    return locale.language() == QLocale::Czech;
+}
+
+/// Four digits of the year whatever the locale's short form has: a dog may be born in any century.
+QString DatePatternOf(const QLocale& locale) {
+    if (IsCzech(locale))
+        return QStringLiteral("d.M.yyyy");
+    QString pattern = locale.dateFormat(QLocale::ShortFormat);
+    if (!pattern.contains(u"yyyy"_qs))
+        pattern.replace(u"yy"_qs, u"yyyy"_qs);
+    return pattern;
+}
+
+/// Reads a number from the left, drops the grouping and writes it in plain form.
+class NumberReader {
+  public:
+    NumberReader(QString group, QString decimalSign)
+        : group_(std::move(group)), decimalSign_(std::move(decimalSign)) {}
+
+    std::optional<QString> Read(const QString& text) {
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            if (!Take(text.at(i), i == 0))
+                return std::nullopt;
+        }
+        return digits_ > 0 ? std::optional(plain_) : std::nullopt;
+    }
+
+  private:
+    bool Take(QChar c, bool first) {
+        if (first && (c == u'-' || c == u'+'))
+            return Append(c);
+        if (c >= u'0' && c <= u'9') {
+            ++digits_;
+            return Append(c);
+        }
+        if (!pastSign_ && c == decimalSign_) {
+            pastSign_ = true;
+            return Append(u'.');
+        }
+        return !pastSign_ && digits_ > 0 && IsGroup(c);
+    }
+
+    /// A locale that groups by some kind of blank takes the one from the keyboard as well.
+    bool IsGroup(QChar c) const {
+        return c == group_ || (c.isSpace() && !group_.isEmpty() && group_.at(0).isSpace());
+    }
+
+    bool Append(QChar c) {
+        plain_ += c;
+        return true;
+    }
+
+    QString group_;
+    QString decimalSign_;
+    QString plain_;
+    int digits_ = 0;
+    bool pastSign_ = false;
+};
+
+class QtLocaleInfo final : public LocaleInfo {
+  public:
+    explicit QtLocaleInfo(const QLocale& locale)
+        : locale_(locale), datePattern_(DatePatternOf(locale)) {}
+
+    QString Item(int item) const override {
+        return item == kLocaleCurrencySymbol ? locale_.currencySymbol() : QString();
+    }
+    char DecimalSign() const override { return locale_.decimalPoint() == u","_qs ? ',' : '.'; }
+    QString DateText(DateValue value) const override {
+        const QString day = ShortDate(value);
+        if (value.SecondOfDay() == 0)
+            return day;
+        return day + u' ' + locale_.toString(ToQDateTime(value).time(), u"H:mm:ss"_qs);
+    }
+    QString ShortDate(DateValue value) const override {
+        return locale_.toString(ToQDate(value), datePattern_);
+    }
+    QString ShortDatePattern() const override { return datePattern_; }
+    std::optional<QString> PlainNumber(const QString& text) const override {
+        return NumberReader(locale_.groupSeparator(), QString(QLatin1Char(DecimalSign())))
+            .Read(text.trimmed());
+    }
+
+  private:
+    QLocale locale_;
+    QString datePattern_;
+};
+
+} // namespace
+
+std::unique_ptr<LocaleInfo> MakeLocaleInfo() {
+    const QLocale system = QLocale::system();
+    const bool chosen = system.language() != QLocale::C;
+    return MakeLocaleInfo(chosen ? system : QLocale(QLocale::Czech, QLocale::CzechRepublic));
+}
+
+std::unique_ptr<LocaleInfo> MakeLocaleInfo(const QLocale& locale) {
+    return std::make_unique<QtLocaleInfo>(locale);
+}
+
+} // namespace lorvo
