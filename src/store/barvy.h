@@ -16,5 +16,13 @@ struct Barvy {
 std::optional<Barvy> ColourByID(int barvaID);
 /// All colours in ID order.
 std::vector<Barvy> Colours();
+/// How many colours bear this name, whatever the letter case.
+int CountColoursNamed(const QString& nazev);
+
+/// Stores a new colour and returns its ID.
+int InsertColour(const QString& nazev);
+void RenameColour(int barvaID, const QString& nazev);
+void DeleteColour(int barvaID);
+void DeleteAllColours();
 
 } // namespace lorvo

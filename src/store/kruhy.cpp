@@ -34,8 +34,16 @@ void RenameRing(int kruhID, const QString& nazev) {
     ChangeRow(Table(), "Kruhy", kruhID, {{"Nazev", nazev}});
 }
 
+void SetRingJudge(int kruhID, const QString& jmenoRozhodciho) {
+    ChangeRow(Table(), "Kruhy", kruhID, {{"JmenoRozhodciho", jmenoRozhodciho}});
+}
+
 void DeleteRing(int kruhID) {
     DeleteRows(Table(), "Kruhy", "ID", kruhID);
+}
+
+void DeleteAllRings() {
+    DeleteAllRows(Table(), "Kruhy");
 }
 
 } // namespace lorvo

@@ -21,6 +21,8 @@ std::vector<Kruhy> RingsByName();
 /// Stores a new ring and returns its ID.
 int InsertRing(const QString& nazev);
 void RenameRing(int kruhID, const QString& nazev);
+void SetRingJudge(int kruhID, const QString& jmenoRozhodciho);
 void DeleteRing(int kruhID);
+void DeleteAllRings();
 
 } // namespace lorvo

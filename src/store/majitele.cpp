@@ -46,6 +46,14 @@ std::vector<Majitele> OwnersByName() {
     return ReadRows(Table(), "SELECT * FROM Majitele ORDER BY Jmeno ASC", ReadMajitele);
 }
 
+std::vector<Majitele> OwnersByNameAndSurname() {
+    return ReadRows(Table(), "SELECT * FROM Majitele ORDER BY Jmeno, Prijmeni", ReadMajitele);
+}
+
+std::unordered_map<int, Majitele> OwnersByID() {
+    return ByID(ReadRows(Table(), "SELECT * FROM Majitele", ReadMajitele));
+}
+
 std::vector<OwnerName> OwnerNamesByName() {
     return ReadRows(
         Table(), "SELECT ID, Jmeno, Mesto FROM Majitele ORDER BY Jmeno ASC",
@@ -75,6 +83,10 @@ void UpdateOwner(const Majitele& owner) {
 
 void DeleteOwner(int majitelID) {
     DeleteRows(Table(), "Majitele", "ID", majitelID);
+}
+
+void DeleteAllOwners() {
+    DeleteAllRows(Table(), "Majitele");
 }
 
 } // namespace lorvo

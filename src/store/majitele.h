@@ -33,7 +33,11 @@ struct OwnerName {
 std::optional<Majitele> OwnerByID(int majitelID);
 /// All owners in Czech order of Jmeno.
 std::vector<Majitele> OwnersByName();
-/// The same order, with less read of each.
+/// All owners in Czech order of Jmeno, then of Prijmeni.
+std::vector<Majitele> OwnersByNameAndSurname();
+/// All owners by ID.
+std::unordered_map<int, Majitele> OwnersByID();
+/// The order of OwnersByName, with less read of each.
 std::vector<OwnerName> OwnerNamesByName();
 /// Jmeno of all owners, by ID.
 std::unordered_map<int, QString> OwnerNames();
@@ -45,5 +49,6 @@ int InsertOwner(const Majitele& owner);
 /// Writes all fields into the row owner.ID. StoreError when it is gone.
 void UpdateOwner(const Majitele& owner);
 void DeleteOwner(int majitelID);
+void DeleteAllOwners();
 
 } // namespace lorvo

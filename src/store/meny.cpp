@@ -21,6 +21,15 @@ Meny ReadMeny(const RecordSet& row) {
     return currency;
 }
 
+Assignments Fields(const Meny& currency) {
+    return {
+        {"Nazev", currency.Nazev},
+        {"Zkratka", currency.Zkratka},
+        {"Kurs", currency.Kurs},
+        {"Hlavni", currency.Hlavni},
+    };
+}
+
 } // namespace
 
 std::optional<Meny> CurrencyByID(int menaID) {
@@ -43,8 +52,28 @@ int CountCurrencies() {
     return ReadCount(Table(), "SELECT COUNT(*) FROM Meny");
 }
 
+int InsertCurrency(const Meny& currency) {
+    return InsertRow(Table(), "Meny", Fields(currency));
+}
+
+void UpdateCurrency(const Meny& currency) {
+    ChangeRow(Table(), "Meny", currency.ID, Fields(currency));
+}
+
+void DeleteCurrency(int menaID) {
+    DeleteRows(Table(), "Meny", "ID", menaID);
+}
+
+void DeleteAllCurrencies() {
+    DeleteAllRows(Table(), "Meny");
+}
+
 void SetMainMark(int menaID, bool hlavni) {
     ChangeRow(Table(), "Meny", menaID, {{"Hlavni", hlavni}});
+}
+
+void ClearMainMarkExceptNamed(const QString& nazev) {
+    ChangeRows(Table(), "SELECT * FROM Meny WHERE Nazev <> " + Quoted(nazev), {{"Hlavni", false}});
 }
 
 } // namespace lorvo

@@ -27,6 +27,14 @@ std::vector<Meny> MainCurrencies();
 std::vector<Meny> CurrenciesAbbreviated(const QString& zkratka);
 int CountCurrencies();
 
+/// Stores a new currency and returns its ID; currency.ID is not looked at.
+int InsertCurrency(const Meny& currency);
+/// Writes all fields into the row currency.ID. StoreError when it is gone.
+void UpdateCurrency(const Meny& currency);
+void DeleteCurrency(int menaID);
+void DeleteAllCurrencies();
 void SetMainMark(int menaID, bool hlavni);
+/// Takes the main mark from every currency whose Nazev is another text.
+void ClearMainMarkExceptNamed(const QString& nazev);
 
 } // namespace lorvo

@@ -25,4 +25,20 @@ std::vector<Oceneni> Awards() {
     return ReadRows(Table(), "SELECT * FROM Oceneni", ReadOceneni);
 }
 
+std::vector<Oceneni> AwardsByName() {
+    return ReadRows(Table(), "SELECT * FROM Oceneni ORDER BY Nazev ASC", ReadOceneni);
+}
+
+int InsertAward(const QString& nazev) {
+    return InsertRow(Table(), "Oceneni", {{"Nazev", nazev}});
+}
+
+void RenameAward(int oceneniID, const QString& nazev) {
+    ChangeRow(Table(), "Oceneni", oceneniID, {{"Nazev", nazev}});
+}
+
+void DeleteAllAwards() {
+    DeleteAllRows(Table(), "Oceneni");
+}
+
 } // namespace lorvo

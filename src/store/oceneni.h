@@ -16,5 +16,12 @@ struct Oceneni {
 std::optional<Oceneni> AwardByID(int oceneniID);
 /// All awards in ID order.
 std::vector<Oceneni> Awards();
+/// All awards in Czech order of Nazev.
+std::vector<Oceneni> AwardsByName();
+
+/// Stores a new award and returns its ID.
+int InsertAward(const QString& nazev);
+void RenameAward(int oceneniID, const QString& nazev);
+void DeleteAllAwards();
 
 } // namespace lorvo

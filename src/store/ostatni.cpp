@@ -37,4 +37,8 @@ void SetShowDate(DateValue datumVystavy) {
     Table().Close();
 }
 
+void ClearShowDate() {
+    ChangeFirstRow(Table(), "Ostatni", {{"DatumVystavy", DateValue()}});
+}
+
 } // namespace lorvo

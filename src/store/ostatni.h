@@ -18,5 +18,7 @@ std::optional<Ostatni> ShowWideValues();
 void InsertEmptyShowWideValues();
 /// Sets the date in the first row, which is added when the table is empty.
 void SetShowDate(DateValue datumVystavy);
+/// Sets the date in the first row to the date value 0. StoreError when the table is empty.
+void ClearShowDate();
 
 } // namespace lorvo

@@ -32,6 +32,10 @@ int CountWhere(const std::string& condition) {
     return ReadCount(Table(), "SELECT COUNT (*) FROM Plemena WHERE " + condition);
 }
 
+std::string FilterClause(BreedFilter filter) {
+    return filter == BreedFilter::Used ? " AND Pouzivat" : "";
+}
+
 } // namespace
 
 std::optional<Plemena> BreedByID(int plemenoID) {
@@ -54,8 +58,36 @@ std::vector<Plemena> UsedBreedsOfRing(int kruhID) {
     return Breeds("WHERE ID_Kruhu = " + Number(kruhID) + " AND Pouzivat = TRUE ORDER BY Nazev ASC");
 }
 
+std::vector<Plemena> UsedBreedsByName() {
+    return Breeds("WHERE Pouzivat = TRUE ORDER BY Nazev");
+}
+
+std::vector<Plemena> UsedBreedsOfFci(int fci) {
+    return Breeds("WHERE Pouzivat = True AND FCI = " + Number(fci));
+}
+
+std::vector<Plemena> TopBreeds(BreedFilter filter) {
+    return Breeds("WHERE Parent = 0" + FilterClause(filter) + " ORDER BY Nazev Asc");
+}
+
+std::vector<Plemena> Subgroups(BreedFilter filter) {
+    return Breeds("WHERE Parent <> 0" + FilterClause(filter) + " ORDER BY Nazev Asc");
+}
+
+std::unordered_map<int, Plemena> BreedsByID() {
+    return ByID(Breeds(""));
+}
+
 int CountBreeds() {
     return ReadCount(Table(), "SELECT COUNT (*) FROM Plemena");
+}
+
+int CountUsedBreeds() {
+    return CountWhere("Pouzivat = True");
+}
+
+int CountBreedsNamed(const QString& nazev) {
+    return CountNamed(Table(), "Plemena", nazev);
 }
 
 int CountBreedsOfRing(int kruhID) {
@@ -70,16 +102,37 @@ int CountBreedsOfFci(int fci) {
     return CountWhere("FCI = " + Number(fci));
 }
 
+int InsertSubgroup(int parentID, const QString& nazev) {
+    const Value FCI = ReadScalar(Table(), "SELECT FCI FROM Plemena WHERE ID = " + Number(parentID));
+    return InsertRow(Table(), "Plemena",
+                     {{"Nazev", nazev}, {"Parent", parentID}, {"Vlastni", true}, {"FCI", FCI}});
+}
+
 void RenameBreed(int plemenoID, const QString& nazev) {
     ChangeRow(Table(), "Plemena", plemenoID, {{"Nazev", nazev}});
+}
+
+void SetBreedNames(int plemenoID, const QString& nazev, const QString& nazevOrig) {
+    ChangeRow(Table(), "Plemena", plemenoID, {{"Nazev", nazev}, {"NazevOrig", nazevOrig}});
 }
 
 void DeleteBreed(int plemenoID) {
     DeleteRows(Table(), "Plemena", "ID", plemenoID);
 }
 
+void DeleteOwnBreeds() {
+    Table().Open("DELETE * FROM Plemena WHERE Vlastni = true");
+}
+
 void SetBreedFci(int plemenoID, int fci) {
     ChangeRow(Table(), "Plemena", plemenoID, {{"FCI", fci}});
+}
+
+bool SetBreedUsed(int plemenoID, bool pouzivat) {
+    if (!BreedByID(plemenoID))
+        return false;
+    ChangeRow(Table(), "Plemena", plemenoID, {{"Pouzivat", pouzivat}});
+    return true;
 }
 
 void MoveBreedToRing(int plemenoID, int kruhID) {

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 namespace lorvo {
@@ -20,6 +21,8 @@ struct Plemena {
     int ID_Kruhu = 0; ///< 0: in no ring
 };
 
+enum class BreedFilter { All, Used };
+
 std::optional<Plemena> BreedByID(int plemenoID);
 /// Breeds in use that are in no ring, in Czech order of Nazev.
 std::vector<Plemena> UsedBreedsOutsideRings();
@@ -29,15 +32,35 @@ std::vector<Plemena> BreedsOfRing(int kruhID);
 std::vector<Plemena> BreedsByRing();
 /// Breeds of a ring that are in use, in Czech order of Nazev.
 std::vector<Plemena> UsedBreedsOfRing(int kruhID);
+/// All breeds in use, in Czech order of Nazev.
+std::vector<Plemena> UsedBreedsByName();
+/// Breeds in use of an FCI group, in ID order.
+std::vector<Plemena> UsedBreedsOfFci(int fci);
+/// Breeds of their own (Parent is 0), in Czech order of Nazev.
+std::vector<Plemena> TopBreeds(BreedFilter filter = BreedFilter::All);
+/// Subgroups of all breeds (Parent is not 0), in Czech order of Nazev.
+std::vector<Plemena> Subgroups(BreedFilter filter = BreedFilter::All);
+/// All breeds by ID.
+std::unordered_map<int, Plemena> BreedsByID();
 
 int CountBreeds();
+int CountUsedBreeds();
+/// How many breeds bear this name, whatever the letter case.
+int CountBreedsNamed(const QString& nazev);
 int CountBreedsOfRing(int kruhID);
 int CountUsedBreedsOfRing(int kruhID);
 int CountBreedsOfFci(int fci);
 
+/// Stores a new subgroup of a breed: the user's own, in the breed's FCI group, in no ring and not
+/// in use. Returns its ID. StoreError when the breed is gone.
+int InsertSubgroup(int parentID, const QString& nazev);
 void RenameBreed(int plemenoID, const QString& nazev);
+void SetBreedNames(int plemenoID, const QString& nazev, const QString& nazevOrig);
 void DeleteBreed(int plemenoID);
+void DeleteOwnBreeds();
 void SetBreedFci(int plemenoID, int fci);
+/// Returns false, and changes nothing, when the breed is gone.
+bool SetBreedUsed(int plemenoID, bool pouzivat);
 void MoveBreedToRing(int plemenoID, int kruhID);
 
 } // namespace lorvo

@@ -1,6 +1,7 @@
 #include "store/psi.h"
 
 #include "store/data_module.h"
+#include "store/psi_reader.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -13,28 +14,6 @@ constexpr const char* kTreeDogs = "SELECT PrvniPes, PrvniUzaverka, ID, Jmeno, Ci
 
 RecordSet& Table() {
     return TheDataModule().rsPsi;
-}
-
-Psi ReadPsi(const RecordSet& row) {
-    Psi dog;
-    dog.ID = row.Field("ID").ToInt();
-    dog.Jmeno = row.Field("Jmeno").ToText();
-    dog.ChovnaStanice = row.Field("ChovnaStanice").ToText();
-    dog.Cislo = ToOptionalInt(row.Field("Cislo"));
-    dog.PlemenoID = row.Field("PlemenoID").ToInt();
-    dog.MajitelID = row.Field("MajitelID").ToInt();
-    dog.BarvaID = row.Field("BarvaID").ToInt();
-    dog.PohlaviPes = row.Field("PohlaviPes").ToBool();
-    dog.DatumNar = ToOptionalDate(row.Field("DatumNar"));
-    dog.Trida = row.Field("Trida").ToInt();
-    dog.Otec = row.Field("Otec").ToText();
-    dog.Matka = row.Field("Matka").ToText();
-    dog.PK = row.Field("PK").ToText();
-    dog.Poznamka = row.Field("Poznamka").ToText();
-    dog.Chovatel = row.Field("Chovatel").ToText();
-    dog.PrvniUzaverka = row.Field("PrvniUzaverka").ToBool();
-    dog.PrvniPes = row.Field("PrvniPes").ToBool();
-    return dog;
 }
 
 TreeDog ReadTreeDog(const RecordSet& row) {
@@ -89,6 +68,28 @@ int CountWhere(const std::string& condition) {
 }
 
 } // namespace
+
+Psi ReadPsi(const RecordSet& row) {
+    Psi dog;
+    dog.ID = row.Field("ID").ToInt();
+    dog.Jmeno = row.Field("Jmeno").ToText();
+    dog.ChovnaStanice = row.Field("ChovnaStanice").ToText();
+    dog.Cislo = ToOptionalInt(row.Field("Cislo"));
+    dog.PlemenoID = row.Field("PlemenoID").ToInt();
+    dog.MajitelID = row.Field("MajitelID").ToInt();
+    dog.BarvaID = row.Field("BarvaID").ToInt();
+    dog.PohlaviPes = row.Field("PohlaviPes").ToBool();
+    dog.DatumNar = ToOptionalDate(row.Field("DatumNar"));
+    dog.Trida = row.Field("Trida").ToInt();
+    dog.Otec = row.Field("Otec").ToText();
+    dog.Matka = row.Field("Matka").ToText();
+    dog.PK = row.Field("PK").ToText();
+    dog.Poznamka = row.Field("Poznamka").ToText();
+    dog.Chovatel = row.Field("Chovatel").ToText();
+    dog.PrvniUzaverka = row.Field("PrvniUzaverka").ToBool();
+    dog.PrvniPes = row.Field("PrvniPes").ToBool();
+    return dog;
+}
 
 std::optional<Psi> DogByID(int psiID) {
     return ReadFirst(Table(), "SELECT * FROM Psi WHERE ID = " + Number(psiID), ReadPsi);
@@ -189,6 +190,10 @@ void DeleteDog(int psiID) {
     DeleteRows(Table(), "Psi", "ID", psiID);
 }
 
+void DeleteAllDogs() {
+    DeleteAllRows(Table(), "Psi");
+}
+
 void MoveDogToBreed(int psiID, int plemenoID) {
     ChangeRow(Table(), "Psi", psiID, {{"PlemenoID", plemenoID}});
 }
@@ -204,6 +209,18 @@ void MarkFirstDog(int psiID) {
 void ClearFirstDogs(int majitelID) {
     ChangeRows(Table(), "SELECT * FROM Psi WHERE MajitelID = " + Number(majitelID),
                {{"PrvniPes", false}});
+}
+
+void NumberDogs(const std::vector<int>& psiIDs) {
+    EditRun run(TheDataModule().Conn1);
+    int cislo = 0;
+    for (const int psiID : psiIDs)
+        ChangeRow(Table(), "Psi", psiID, {{"Cislo", ++cislo}});
+    run.Finish();
+}
+
+void RemoveDogNumbers() {
+    ChangeRows(Table(), "SELECT * FROM Psi", {{"Cislo", 0}});
 }
 
 } // namespace lorvo

@@ -85,6 +85,8 @@ int InsertDog(const Psi& dog);
 void UpdateDog(const Psi& dog);
 /// Removes the row alone; shows, competitions, awards and payments of the dog stay behind.
 void DeleteDog(int psiID);
+/// The same for every dog.
+void DeleteAllDogs();
 
 void MoveDogToBreed(int psiID, int plemenoID);
 void SetFirstClosing(int psiID, bool prvniUzaverka);
@@ -92,5 +94,11 @@ void SetFirstClosing(int psiID, bool prvniUzaverka);
 void MarkFirstDog(int psiID);
 /// Takes PrvniPes from every dog of the owner.
 void ClearFirstDogs(int majitelID);
+
+/// Numbers the dogs from 1 in the order given; each dog is a write of its own, and what was
+/// written before a failure stays written. StoreError when a dog is gone.
+void NumberDogs(const std::vector<int>& psiIDs);
+/// Sets Cislo of every dog to 0, row by row.
+void RemoveDogNumbers();
 
 } // namespace lorvo

@@ -16,6 +16,10 @@ RecordSet& Table() {
     return TheDataModule().rsPsiOceneni;
 }
 
+std::string OfDog(int psiID, int oceneniID) {
+    return "FROM PsiOceneni WHERE IDPsa = " + Number(psiID) + " AND IDOceneni=" + Number(oceneniID);
+}
+
 } // namespace
 
 std::vector<int> AwardsOfDog(int psiID) {
@@ -41,12 +45,33 @@ std::unordered_map<int, QStringList> AwardNamesByDog() {
     return names;
 }
 
+int CountAwardOfDog(int psiID, int oceneniID) {
+    return ReadCount(Table(), "SELECT COUNT(*) " + OfDog(psiID, oceneniID));
+}
+
+int CountDogsWithAward(int oceneniID) {
+    return ReadCount(Table(),
+                     "SELECT COUNT (*) FROM PsiOceneni WHERE IDOceneni = " + Number(oceneniID));
+}
+
 void AddAwardsToDog(int psiID, const std::vector<int>& oceneniIDs) {
     InsertLinks(Table(), "PsiOceneni", "IDPsa", psiID, "IDOceneni", oceneniIDs);
 }
 
 void DeleteAwardsOfDog(int psiID) {
     DeleteRows(Table(), "PsiOceneni", "IDPsa", psiID);
+}
+
+void DeleteAwardOfDog(int psiID, int oceneniID) {
+    Table().Open("DELETE * " + OfDog(psiID, oceneniID));
+}
+
+void DeleteAwardFromDogs(int oceneniID) {
+    DeleteRows(Table(), "PsiOceneni", "IDOceneni", oceneniID);
+}
+
+void DeleteAllAwardsOfDogs() {
+    DeleteAllRows(Table(), "PsiOceneni");
 }
 
 } // namespace lorvo

@@ -43,12 +43,25 @@ std::vector<int> ShowsOfOtherDogs(int psiID) {
     return shows;
 }
 
+int CountDogsInShow(int vystavaID) {
+    return ReadCount(Table(),
+                     "SELECT COUNT (*) FROM PsiVeVystavach WHERE VystavaID = " + Number(vystavaID));
+}
+
+std::unordered_map<int, std::vector<int>> ShowsByDog() {
+    return ReadLinks(Table(), "SELECT PesID, VystavaID FROM PsiVeVystavach");
+}
+
 void AddDogToShows(int psiID, const std::vector<int>& vystavaIDs) {
     InsertLinks(Table(), "PsiVeVystavach", "PesID", psiID, "VystavaID", vystavaIDs);
 }
 
 void DeleteShowsOfDog(int psiID) {
     DeleteRows(Table(), "PsiVeVystavach", "PesID", psiID);
+}
+
+void DeleteAllShowEntries() {
+    DeleteAllRows(Table(), "PsiVeVystavach");
 }
 
 } // namespace lorvo

@@ -2,6 +2,7 @@
 // PsiVeVystavach: which dog stands in which show. Every routine raises StoreError when the store
 // refuses.
 
+#include <unordered_map>
 #include <vector>
 
 namespace lorvo {
@@ -10,10 +11,15 @@ namespace lorvo {
 std::vector<int> ShowsOfDog(int psiID);
 /// Shows with a row of any other dog, each once, rising.
 std::vector<int> ShowsOfOtherDogs(int psiID);
+/// Rows of a show.
+int CountDogsInShow(int vystavaID);
+/// VystavaID of each row by the dog's ID, in row order.
+std::unordered_map<int, std::vector<int>> ShowsByDog();
 
 /// Adds a row per show; the dog's rows before are left.
 void AddDogToShows(int psiID, const std::vector<int>& vystavaIDs);
 /// Takes the dog out of all shows.
 void DeleteShowsOfDog(int psiID);
+void DeleteAllShowEntries();
 
 } // namespace lorvo

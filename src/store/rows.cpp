@@ -75,8 +75,40 @@ void ChangeRows(RecordSet& set, const std::string& statement, const Assignments&
     run.Finish();
 }
 
+void ChangeFirstRow(RecordSet& set, const std::string& table, const Assignments& fields) {
+    set.Open("SELECT * FROM " + table);
+    Assign(set, fields);
+    set.Update();
+    set.Close();
+}
+
 void DeleteRows(RecordSet& set, const std::string& table, const std::string& field, int number) {
     set.Open("DELETE * FROM " + table + " WHERE " + field + " = " + Number(number));
+}
+
+void DeleteAllRows(RecordSet& set, const std::string& table) {
+    set.Open("DELETE * FROM " + table);
+}
+
+int CountNamed(RecordSet& set, const std::string& table, const QString& nazev) {
+    return ReadCount(set, "SELECT COUNT (*) FROM " + table +
+                              " WHERE LCASE(Nazev) = " + Quoted(nazev.toLower()));
+}
+
+std::unordered_map<int, int> CountEach(RecordSet& set, const std::string& statement) {
+    std::unordered_map<int, int> counts;
+    for (const int number : ReadNumbers(set, statement))
+        ++counts[number];
+    return counts;
+}
+
+std::unordered_map<int, std::vector<int>> ReadLinks(RecordSet& set, const std::string& statement) {
+    std::unordered_map<int, std::vector<int>> links;
+    set.Open(statement);
+    for (; !set.Eof(); set.MoveNext())
+        links[set.Field(0).ToInt()].push_back(set.Field(1).ToInt());
+    set.Close();
+    return links;
 }
 
 std::optional<int> ToOptionalInt(const Value& value) {

@@ -4,9 +4,9 @@
 
 #include "store/record_set.h"
 
-#include <initializer_list>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -33,9 +33,17 @@ template<class Reader> auto ReadFirst(RecordSet& set, const std::string& stateme
     return row;
 }
 
-/// A field and what to store in it.
-using Assignment = std::pair<const char*, Value>;
-using Assignments = std::vector<Assignment>;
+/// The rows by their ID.
+template<class Row> std::unordered_map<int, Row> ByID(std::vector<Row> rows) {
+    std::unordered_map<int, Row> byID;
+    byID.reserve(rows.size());
+    for (Row& row : rows)
+        byID.emplace(row.ID, std::move(row));
+    return byID;
+}
+
+/// Fields and what to store in them.
+using Assignments = std::vector<std::pair<const char*, Value>>;
 
 /// Column 0 of the first row. StoreError when there is no row.
 Value ReadScalar(RecordSet& set, const std::string& statement);
@@ -48,15 +56,26 @@ std::vector<QString> ReadTexts(RecordSet& set, const std::string& statement);
 /// Stores a new row of `table` with these fields, the others at the table's defaults.
 /// Returns its ID.
 int InsertRow(RecordSet& set, const std::string& table, const Assignments& fields);
-/// The same for a table of links, which has no ID; `owner` is one of its fields.
+/// Stores rows of a table of links, which has no ID: one of `ownerID` with each target.
 void InsertLinks(RecordSet& set, const std::string& table, const char* owner, int ownerID,
                  const char* target, const std::vector<int>& targetIDs);
 /// Changes fields of the row with this ID. StoreError when there is no such row.
 void ChangeRow(RecordSet& set, const std::string& table, int ID, const Assignments& fields);
 /// Assigns the same to every row of `statement` and stores row by row.
 void ChangeRows(RecordSet& set, const std::string& statement, const Assignments& fields);
+/// Assigns to the first row of the table. StoreError when the table is empty.
+void ChangeFirstRow(RecordSet& set, const std::string& table, const Assignments& fields);
 /// Removes the rows of `table` whose `field` is `number`; the set stays shut.
 void DeleteRows(RecordSet& set, const std::string& table, const std::string& field, int number);
+
+/// Removes all rows of `table`; the set stays shut.
+void DeleteAllRows(RecordSet& set, const std::string& table);
+/// How many rows of `table` have this Nazev, whatever the letter case.
+int CountNamed(RecordSet& set, const std::string& table, const QString& nazev);
+/// How often each number stands in column 0 of the rows.
+std::unordered_map<int, int> CountEach(RecordSet& set, const std::string& statement);
+/// Column 1 of the rows by column 0, in row order.
+std::unordered_map<int, std::vector<int>> ReadLinks(RecordSet& set, const std::string& statement);
 
 /// Null stays nullopt.
 std::optional<int> ToOptionalInt(const Value& value);

@@ -23,5 +23,17 @@ struct Souteze {
 std::optional<Souteze> CompetitionByID(int soutezID);
 /// All competitions in Czech order of Nazev.
 std::vector<Souteze> CompetitionsByName();
+/// All competitions in ID order.
+std::vector<Souteze> Competitions();
+/// Whether a competition other than `exceptID` bears this name, whatever the letter case.
+bool IsCompetitionNamed(const QString& nazev, int exceptID);
+
+/// Stores a new competition and returns its ID; competition.ID is not looked at.
+int InsertCompetition(const Souteze& competition);
+/// Writes all fields into the row competition.ID. StoreError when it is gone.
+void UpdateCompetition(const Souteze& competition);
+void RenameCompetition(int soutezID, const QString& nazev);
+void DeleteCompetition(int soutezID);
+void DeleteAllCompetitions();
 
 } // namespace lorvo

@@ -26,6 +26,31 @@ Uhrady ReadUhrady(const RecordSet& row) {
     return payment;
 }
 
+constexpr const char* kWithOwners =
+    "SELECT Uhrady.ID AS UID, Uhrady.ID_Psa, Uhrady.Printed, Uhrady.Castka, Uhrady.Ucet, "
+    "Uhrady.Mena, Uhrady.Datum, Uhrady.Kc, Uhrady.Uhrada, Psi.ID, Psi.Jmeno, Psi.ChovnaStanice, "
+    "Psi.MajitelID, Majitele.Prijmeni + ' ' + Majitele.Jmeno + ', ' + Majitele.Mesto AS MajX, "
+    "Majitele.ID FROM Uhrady, Psi, Majitele WHERE Uhrady.ID_Psa = Psi.ID AND "
+    "Psi.MajitelID = Majitele.ID ORDER BY MajitelID";
+
+PaymentRow ReadPaymentRow(const RecordSet& row) {
+    PaymentRow payment;
+    payment.UID = row.Field("UID").ToInt();
+    payment.ID_Psa = row.Field("ID_Psa").ToInt();
+    payment.Printed = row.Field("Printed").ToBool();
+    payment.Castka = row.Field("Castka").ToCurrency();
+    payment.Ucet = row.Field("Ucet").ToText();
+    payment.Mena = row.Field("Mena").ToInt();
+    payment.Datum = ToOptionalDate(row.Field("Datum"));
+    payment.Kc = row.Field("Kc").ToCurrency();
+    payment.Uhrada = row.Field("Uhrada").ToInt();
+    payment.Jmeno = row.Field("Jmeno").ToText();
+    payment.ChovnaStanice = row.Field("ChovnaStanice").ToText();
+    payment.MajitelID = row.Field("MajitelID").ToInt();
+    payment.MajX = row.Field("MajX").ToText();
+    return payment;
+}
+
 } // namespace
 
 std::optional<Uhrady> PaymentByID(int uhradaID) {
@@ -35,6 +60,70 @@ std::optional<Uhrady> PaymentByID(int uhradaID) {
 Currency PaidForDog(int psiID) {
     return ReadScalar(Table(), "SELECT SUM (Kc) FROM Uhrady WHERE ID_Psa = " + Number(psiID))
         .ToCurrency();
+}
+
+std::unordered_map<int, Currency> PaidByDog() {
+    std::unordered_map<int, Currency> paid;
+    Table().Open("SELECT ID_Psa, Kc FROM Uhrady");
+    for (; !Table().Eof(); Table().MoveNext())
+        paid[Table().Field(0).ToInt()] += Table().Field(1).ToCurrency();
+    Table().Close();
+    return paid;
+}
+
+std::vector<Uhrady> PaymentsOfDog(int psiID) {
+    return ReadRows(Table(),
+                    "SELECT * FROM Uhrady WHERE ID_Psa = " + Number(psiID) + " ORDER BY Datum ASC",
+                    ReadUhrady);
+}
+
+std::vector<PaymentRow> PaymentsWithOwners() {
+    return ReadRows(Table(), kWithOwners, ReadPaymentRow);
+}
+
+std::vector<QString> AccountsOfOwner(int majitelID) {
+    return ReadRows(Table(),
+                    "SELECT Uhrady.ID_Psa, Uhrady.Ucet, Psi.ID, Psi.MajitelID FROM Uhrady, Psi "
+                    "WHERE Psi.MajitelID = " +
+                        Number(majitelID) +
+                        " AND Uhrady.ID_Psa = Psi.ID AND NOT( Uhrady.Ucet IS NULL)",
+                    [](const RecordSet& row) { return row.Field(1).ToText(); });
+}
+
+int CountPayments() {
+    return ReadCount(Table(), "SELECT COUNT(*) FROM Uhrady");
+}
+
+int CountPaymentsInCurrency(int menaID) {
+    return ReadCount(Table(), "SELECT COUNT(*) FROM Uhrady WHERE Mena = " + Number(menaID));
+}
+
+int InsertPayment(const Uhrady& payment) {
+    return InsertRow(Table(), "Uhrady",
+                     {{"Datum", FromOptional(payment.Datum)},
+                      {"Castka", payment.Castka},
+                      {"Mena", payment.Mena},
+                      {"Uhrada", payment.Uhrada},
+                      {"ID_Psa", payment.ID_Psa},
+                      {"Kc", payment.Kc},
+                      {"Kurs", payment.Kurs},
+                      {"Ucet", payment.Ucet}});
+}
+
+void SetPaymentPrinted(int uhradaID, bool printed) {
+    ChangeRow(Table(), "Uhrady", uhradaID, {{"Printed", printed}});
+}
+
+void MarkAllPaymentsPrinted() {
+    ChangeRows(Table(), "SELECT * FROM Uhrady", {{"Printed", true}});
+}
+
+void DeletePayment(int uhradaID) {
+    DeleteRows(Table(), "Uhrady", "ID", uhradaID);
+}
+
+void DeleteAllPayments() {
+    DeleteAllRows(Table(), "Uhrady");
 }
 
 } // namespace lorvo

@@ -7,6 +7,8 @@
 
 #include <QString>
 #include <optional>
+#include <unordered_map>
+#include <vector>
 
 namespace lorvo {
 
@@ -24,8 +26,43 @@ struct Uhrady {
     bool Printed = false;
 };
 
+/// A payment with its dog and owner, for the overview and the report of all payments.
+struct PaymentRow {
+    int UID = 0; ///< ID of the payment
+    int ID_Psa = 0;
+    bool Printed = false;
+    Currency Castka;
+    QString Ucet;
+    int Mena = 0;
+    std::optional<DateValue> Datum;
+    Currency Kc;
+    int Uhrada = 0;
+    QString Jmeno;         ///< the dog's
+    QString ChovnaStanice; ///< the dog's
+    int MajitelID = 0;
+    QString MajX; ///< surname, name and town of the owner; empty when one of them is Null
+};
+
 std::optional<Uhrady> PaymentByID(int uhradaID);
 /// Sum of Kc over the dog's payments; 0 when there are none.
 Currency PaidForDog(int psiID);
+/// The same for all dogs that have a payment, by the dog's ID.
+std::unordered_map<int, Currency> PaidByDog();
+/// Payments for a dog by Datum, the oldest first.
+std::vector<Uhrady> PaymentsOfDog(int psiID);
+/// All payments whose dog and owner exist, by MajitelID.
+std::vector<PaymentRow> PaymentsWithOwners();
+/// Ucet of each payment for the owner's dogs that isn't Null, repetitions included.
+std::vector<QString> AccountsOfOwner(int majitelID);
+int CountPayments();
+int CountPaymentsInCurrency(int menaID);
+
+/// Stores a new payment and returns its ID. Printed is left at false; payment.ID is not looked at.
+int InsertPayment(const Uhrady& payment);
+void SetPaymentPrinted(int uhradaID, bool printed);
+/// Sets Printed on every payment, row by row.
+void MarkAllPaymentsPrinted();
+void DeletePayment(int uhradaID);
+void DeleteAllPayments();
 
 } // namespace lorvo

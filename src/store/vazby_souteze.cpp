@@ -23,12 +23,33 @@ bool IsDogInCompetition(int psiID, int soutezID) {
                                   Number(psiID) + " AND ID_Souteze = " + Number(soutezID)) > 0;
 }
 
+int CountDogsInCompetition(int soutezID) {
+    return ReadCount(Table(),
+                     "SELECT COUNT(*) FROM Vazby_Souteze WHERE ID_Souteze = " + Number(soutezID));
+}
+
+std::unordered_map<int, int> DogCountsByCompetition() {
+    return CountEach(Table(), "SELECT ID_Souteze FROM Vazby_Souteze");
+}
+
+std::unordered_map<int, std::vector<int>> CompetitionsByDog() {
+    return ReadLinks(Table(), "SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze");
+}
+
 void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs) {
     InsertLinks(Table(), "Vazby_Souteze", "ID_Psa", psiID, "ID_Souteze", soutezIDs);
 }
 
 void DeleteCompetitionsOfDog(int psiID) {
     DeleteRows(Table(), "Vazby_Souteze", "ID_Psa", psiID);
+}
+
+void DeleteDogsOfCompetition(int soutezID) {
+    DeleteRows(Table(), "Vazby_Souteze", "ID_Souteze", soutezID);
+}
+
+void DeleteAllCompetitionEntries() {
+    DeleteAllRows(Table(), "Vazby_Souteze");
 }
 
 } // namespace lorvo

@@ -2,6 +2,7 @@
 // Vazby_Souteze: which dog takes part in which competition. Every routine raises StoreError when
 // the store refuses.
 
+#include <unordered_map>
 #include <vector>
 
 namespace lorvo {
@@ -10,9 +11,19 @@ namespace lorvo {
 std::vector<int> CompetitionsOfDog(int psiID);
 bool IsDogInCompetition(int psiID, int soutezID);
 
+/// Rows of a competition.
+int CountDogsInCompetition(int soutezID);
+/// The same for all competitions that have any.
+std::unordered_map<int, int> DogCountsByCompetition();
+/// ID_Souteze of each row by the dog's ID, in row order.
+std::unordered_map<int, std::vector<int>> CompetitionsByDog();
+
 /// Adds a row per competition; the dog's rows before are left.
 void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs);
 /// Takes the dog out of all competitions.
 void DeleteCompetitionsOfDog(int psiID);
+/// Takes all dogs out of the competition.
+void DeleteDogsOfCompetition(int soutezID);
+void DeleteAllCompetitionEntries();
 
 } // namespace lorvo

@@ -1,6 +1,5 @@
 #include "store/vystavy.h"
 
-#include "platform/values/errors.h"
 #include "store/data_module.h"
 #include "store/rows.h"
 
@@ -19,11 +18,6 @@ Vystavy ReadVystavy(const RecordSet& row) {
 
 } // namespace
 
-std::string FeeColumn(bool firstClosing, int classColumn, bool firstDog) {
-    return std::string("Poplatky") + (firstClosing ? "I" : "II") + "Class" +
-           std::to_string(classColumn) + "D" + (firstDog ? "1" : "2");
-}
-
 std::optional<Vystavy> ShowByID(int vystavaID) {
     return ReadFirst(Table(), "SELECT * FROM Vystavy WHERE ID = " + Number(vystavaID), ReadVystavy);
 }
@@ -36,19 +30,31 @@ int CountShows() {
     return ReadCount(Table(), "SELECT COUNT(*) FROM Vystavy");
 }
 
-std::optional<Currency> FindShowFee(int vystavaID, const std::string& column) {
-    return ToOptionalCurrency(
-        ReadScalar(Table(), "SELECT " + column + " FROM Vystavy WHERE ID= " + Number(vystavaID)));
-}
-
-Currency ShowFee(int vystavaID, const std::string& column) {
-    if (const auto fee = FindShowFee(vystavaID, column))
-        return *fee;
-    throw StoreError("Vystavy: " + column + " is Null in the row with ID " + Number(vystavaID));
+int CountShowsNamed(const QString& nazev) {
+    return CountNamed(Table(), "Vystavy", nazev);
 }
 
 int InsertShow(const QString& nazev) {
     return InsertRow(Table(), "Vystavy", {{"Nazev", nazev}});
+}
+
+void RenameShow(int vystavaID, const QString& nazev) {
+    ChangeRow(Table(), "Vystavy", vystavaID, {{"Nazev", nazev}});
+}
+
+void SetClosingsOfFirstShow(DateValue uzaverka1, DateValue uzaverka2) {
+    if (CountShows() == 0)
+        return;
+    ChangeFirstRow(Table(), "Vystavy", {{"Uzaverka1", uzaverka1}, {"Uzaverka2", uzaverka2}});
+}
+
+void DeleteShow(int vystavaID) {
+    DeleteRows(Table(), "Vystavy", "ID", vystavaID);
+}
+
+void DeleteShowsButOldest() {
+    const Value oldest = ReadScalar(Table(), "SELECT MIN(ID) FROM Vystavy");
+    Table().Open("DELETE * FROM Vystavy WHERE ID > " + Number(oldest.ToInt()));
 }
 
 } // namespace lorvo
