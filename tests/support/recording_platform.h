@@ -3,6 +3,7 @@
 // expected fails the test, and so does an expected one that never came.
 
 #include "platform/platform.h"
+#include "support/print_qt.h"
 
 #include <QStringList>
 #include <QTemporaryDir>

@@ -1,0 +1,61 @@
+#include "platform/real_services.h"
+#include "platform/values/qt_date.h"
+#include "support/print_qt.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+class UrlCatcher : public QObject {
+    Q_OBJECT
+  public:
+    UrlCatcher() {
+        for (const QString& scheme : Schemes())
+            QDesktopServices::setUrlHandler(scheme, this, "Catch");
+    }
+    ~UrlCatcher() override {
+        for (const QString& scheme : Schemes())
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+    Q_INVOKABLE void Catch(const QUrl& url) {
+        caught << (url.isLocalFile() ? url.toLocalFile() : url.toString());
+    }
+    QStringList caught;
+
+  private:
+    static QStringList Schemes() { return {u"file"_qs, u"mailto"_qs}; }
+};
+
+TEST(OpenService, FilesAndAddressesGoToTheDesktop) {
+    UrlCatcher catcher;
+    const auto opener = MakeOpenService();
+    opener->OpenFile(u"/tmp/Šablony/Výstup #1.html"_qs);
+    opener->OpenAddress(u"mailto:a@b.cz"_qs);
+    EXPECT_EQ(catcher.caught,
+              (QStringList{u"/tmp/Šablony/Výstup #1.html"_qs, u"mailto:a@b.cz"_qs}));
+}
+
+TEST(Clock, TellsTheLocalTimeInWholeSeconds) {
+    const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+    const QDateTime now = ToQDateTime(MakeClock()->Now());
+    EXPECT_GE(now, before);
+    EXPECT_LE(now, QDateTime::currentDateTime());
+}
+
+TEST(QtDate, ComesAndGoes) {
+    const DateValue day = DateValue::FromCalendar(2005, 5, 14).WithSecondOfDay(86399);
+    EXPECT_EQ(ToQDate(day), QDate(2005, 5, 14));
+    EXPECT_EQ(ToQDateTime(day), QDateTime(QDate(2005, 5, 14), QTime(23, 59, 59)));
+    EXPECT_EQ(FromQDateTime(ToQDateTime(day)), day);
+    EXPECT_EQ(FromQDate(QDate(1899, 12, 30)), DateValue());
+    EXPECT_EQ(FromQDate(QDate()), DateValue());
+    EXPECT_EQ(FromQDateTime(QDateTime()), DateValue());
+}
+
+} // namespace
+} // namespace lorvo
+
+#include "desktop_services_test.moc"

@@ -1,0 +1,93 @@
+#include "platform/real_services.h"
+#include "support/print_qt.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+const QString& SysKey() {
+    static const QString key = QStringLiteral("Software\\Hollow Peak\\Lorvo\\Sys");
+    return key;
+}
+
+class SettingsTreeTest : public ::testing::Test {
+  protected:
+    std::unique_ptr<SettingsTree> Open() { return MakeSettingsTree(folder_.path()); }
+    void Put(const QByteArray& bytes) {
+        QFile file(folder_.filePath(u"Lorvo.settings"_qs));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(SettingsTreeTest, AMissingValueReadsAsEmpty) {
+    EXPECT_EQ(Open()->Read(SysKey(), u"ShowGrid"_qs), QString());
+}
+
+TEST_F(SettingsTreeTest, ValuesOutliveTheProgram) {
+    const QString odd = u" a,b;c=\"d\" \\ ěšč @x % \n1"_qs;
+    {
+        const auto settings = Open();
+        settings->Write(SysKey(), u"ShowGrid"_qs, u"1"_qs);
+        settings->Write(SysKey(), u"ExpandedItems"_qs, odd);
+        settings->Write(u"Software\\Hollow Peak\\Lorvo\\ColWidths\\fm_Dog\\lvwDogs"_qs,
+                        u"ColWidth 1"_qs, u"120,5"_qs);
+        settings->Write(SysKey(), u"RememberTree"_qs, QString());
+    }
+    const auto settings = Open();
+    EXPECT_EQ(settings->Read(SysKey(), u"ShowGrid"_qs), u"1"_qs);
+    EXPECT_EQ(settings->Read(SysKey(), u"ExpandedItems"_qs), odd);
+    EXPECT_EQ(settings->Read(u"Software\\Hollow Peak\\Lorvo\\ColWidths\\fm_Dog\\lvwDogs"_qs,
+                             u"ColWidth 1"_qs),
+              u"120,5"_qs);
+    EXPECT_EQ(settings->Read(SysKey(), u"RememberTree"_qs), QString());
+}
+
+TEST_F(SettingsTreeTest, OneFileInTheFolderOfTheProgram) {
+    Open()->Write(SysKey(), u"ShowGrid"_qs, u"1"_qs);
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList(u"Lorvo.settings"_qs));
+}
+
+TEST_F(SettingsTreeTest, ATextIsCutAtItsFirstNul) {
+    const auto settings = Open();
+    settings->Write(SysKey(), u"A"_qs, u"ab"_qs + QChar(u'\0') + u"cd"_qs);
+    EXPECT_EQ(settings->Read(SysKey(), u"A"_qs), u"ab"_qs);
+}
+
+TEST_F(SettingsTreeTest, ValuesOfAnotherTypeReadAsEmpty) {
+    Put("[Software]\nHollow%20Peak\\Lorvo\\Sys\\A=1, 2\nHollow%20Peak\\Lorvo\\Sys\\B=@Size(1 2)\n"
+        "Hollow%20Peak\\Lorvo\\Sys\\C=3\n");
+    const auto settings = Open();
+    EXPECT_EQ(settings->Read(SysKey(), u"A"_qs), QString());
+    EXPECT_EQ(settings->Read(SysKey(), u"B"_qs), QString());
+    EXPECT_EQ(settings->Read(SysKey(), u"C"_qs), u"3"_qs);
+}
+
+TEST_F(SettingsTreeTest, ABrokenFileReadsAsEmpty) {
+    QByteArray bytes("[Soft\nware==\n\0\xff\xfe]]\n@@=\"", 25);
+    for (int byte = 255; byte >= 0; --byte)
+        bytes.append(static_cast<char>(byte));
+    Put(bytes);
+    const auto settings = Open();
+    EXPECT_EQ(settings->Read(SysKey(), u"ShowGrid"_qs), QString());
+    settings->Write(SysKey(), u"ShowGrid"_qs, u"1"_qs);
+    EXPECT_EQ(settings->Read(SysKey(), u"ShowGrid"_qs), u"1"_qs);
+}
+
+TEST_F(SettingsTreeTest, WhereNothingCanBeWrittenEveryValueStaysEmpty) {
+    QFile blocker(folder_.filePath(u"file"_qs));
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    const auto settings = MakeSettingsTree(blocker.fileName());
+    settings->Write(SysKey(), u"ShowGrid"_qs, u"1"_qs);
+    EXPECT_EQ(settings->Read(SysKey(), u"ShowGrid"_qs), QString());
+}
+
+} // namespace
+} // namespace lorvo
