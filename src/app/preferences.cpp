@@ -1,0 +1,22 @@
+#include "app/common_routines.h"
+#include "platform/platform.h"
+
+namespace lorvo {
+
+namespace {
+
+QString FullKey(const QString& key) {
+    return u"Software\\Hollow Peak\\Lorvo\\"_qs + key;
+}
+
+} // namespace
+
+QString ReadRegValue(const QString& key, const QString& name) {
+    return ThePlatform().settings->Read(FullKey(key), name);
+}
+
+void WriteRegValue(const QString& key, const QString& name, const QString& text) {
+    ThePlatform().settings->Write(FullKey(key), name, text);
+}
+
+} // namespace lorvo
