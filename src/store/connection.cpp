@@ -1,0 +1,161 @@
+#include "store/connection.h"
+
+#include "platform/values/errors.h"
+#include "store/connection_internals.h"
+#include "store/database_file.h"
+#include "store/engine_failure.h"
+#include "store/sql_functions.h"
+
+#include <QUrl>
+#include <algorithm>
+#include <array>
+#include <sqlite3.h>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kBusyMilliseconds = 3000;
+
+constexpr std::array kShowTables = {"Barvy",          "Kruhy",   "Plemena",   "Psi",
+                                    "Vazby_Trida",    "Ostatni", "Majitele",  "Souteze",
+                                    "Vazby_Souteze",  "Meny",    "Uhrady",    "Vystavy",
+                                    "PsiVeVystavach", "Oceneni", "PsiOceneni"};
+
+/// Reads the file as it lies there, with no lock and no journal, so that a file that isn't
+/// accepted stays untouched.
+std::unique_ptr<SQLite::Database> OpenForChecking(const QString& path) {
+    const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() + "?immutable=1";
+    return std::make_unique<SQLite::Database>(uri.toStdString(),
+                                              SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+}
+
+std::unique_ptr<SQLite::Database> OpenForWork(const QString& path) {
+    auto database = std::make_unique<SQLite::Database>(
+        path.toStdString(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, kBusyMilliseconds);
+    // Closing a file that turns out to be damaged must not write to it.
+    sqlite3_db_config(database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    sqlite3_db_config(database->getHandle(), SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    database->exec("PRAGMA cell_size_check = ON");
+    database->exec("PRAGMA cache_size = -8000"); // kilobytes: a whole show stays in memory
+    return database;
+}
+
+void RequireShowTables(const Schema& schema, const QString& path) {
+    const bool hasAny = std::any_of(kShowTables.begin(), kShowTables.end(), [&](const char* name) {
+        return schema.FindTable(name) != nullptr;
+    });
+    if (!hasAny)
+        throw StoreError(AboutFile(path, u"v souboru není žádná tabulka programu Lorvo"_qs));
+}
+
+/// Write-ahead logging makes a single edit durable by one sync of the disk.
+void StartWriting(SQLite::Database& database) {
+    sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+    database.exec("PRAGMA journal_mode = WAL");
+    database.exec("PRAGMA synchronous = FULL");
+    RegisterSqlFunctions(database.getHandle());
+}
+
+/// Moves the journal into the file and gives it up. Where another program reads the file, the
+/// journal stays, and the next start takes it up.
+void StopWriting(SQLite::Database& database) {
+    try {
+        database.exec("PRAGMA wal_checkpoint(TRUNCATE)");
+        database.exec("PRAGMA journal_mode = DELETE");
+    } catch (const SQLite::Exception& failure) {
+        const int code = failure.getErrorCode();
+        if (code != SQLITE_BUSY && code != SQLITE_LOCKED)
+            throw;
+    }
+}
+
+} // namespace
+
+Connection::Connection() : impl_(std::make_unique<Impl>()) {}
+
+Connection::~Connection() {
+    try {
+        Close();
+    } catch (const Error&) { // the edits are in the journal; the next start takes them up
+    }
+}
+
+void Connection::Open(const QString& path) {
+    Close();
+    RequireDatabaseFile(path);
+    try {
+        if (!HasLeftoverJournal(path))
+            RequireShowTables(ReadSchema(*OpenForChecking(path)), path);
+        auto database = OpenForWork(path);
+        Schema schema = ReadSchema(*database);
+        RequireShowTables(schema, path);
+        StartWriting(*database);
+        impl_->database = std::move(database);
+        impl_->schema = std::move(schema);
+        impl_->path = path;
+    } catch (const SQLite::Exception& failure) {
+        ThrowFailure(failure, path);
+    }
+}
+
+void Connection::Close() {
+    if (!IsOpen())
+        return;
+    // Whatever happens on the way, the connection is shut at the end.
+    const auto database = std::move(impl_->database);
+    impl_->cache.Clear();
+    impl_->readRuns = impl_->editRuns = impl_->editsSinceCommit = 0;
+    try {
+        if (!sqlite3_get_autocommit(database->getHandle()))
+            database->exec("COMMIT");
+        StopWriting(*database);
+    } catch (const SQLite::Exception& failure) {
+        ThrowFailure(failure, impl_->path);
+    }
+}
+
+bool Connection::IsOpen() const {
+    return impl_->database != nullptr;
+}
+
+QString Connection::Path() const {
+    return impl_->path;
+}
+
+sqlite3* Connection::Impl::Handle() const {
+    if (!database)
+        throw StoreError("Databáze není otevřena.");
+    return database->getHandle();
+}
+
+CachedStatement Connection::Impl::Prepare(const StatementTokens& statement) {
+    return cache.Translated(statement, schema, Handle());
+}
+
+CachedStatement Connection::Impl::PrepareNative(const std::string& sql) {
+    return cache.Native(sql, Handle());
+}
+
+bool SkipFailure(const std::function<void()>& statement) {
+    try {
+        statement();
+        return true;
+    } catch (const CorruptStoreError&) {
+        throw;
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+std::string Quoted(const QString& text) {
+    QString doubled = text;
+    doubled.replace(u'\'', u"''"_qs);
+    return '\'' + doubled.toStdString() + '\'';
+}
+
+std::string Number(qint64 value) {
+    return std::to_string(value);
+}
+
+} // namespace lorvo

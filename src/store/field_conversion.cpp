@@ -1,0 +1,134 @@
+#include "store/field_conversion.h"
+
+#include "platform/values/errors.h"
+
+#include <limits>
+#include <sqlite3.h>
+
+namespace lorvo {
+
+namespace {
+
+bool IsBlankText(const Value& value) {
+    const QString* text = std::get_if<QString>(&value.Data());
+    return text && text->trimmed().isEmpty();
+}
+
+QString CheckedText(const Value& value) {
+    QString text = value.ToText();
+    if (text.size() > kLongestText)
+        throw StoreError("text je delší než " + std::to_string(kLongestText) + " znaků");
+    return text;
+}
+
+Value Convert(const Value& value, FieldType type) {
+    switch (type) {
+    case FieldType::Boolean:
+        return value.ToBool();
+    case FieldType::Integer:
+        return value.ToInt();
+    case FieldType::Currency:
+        return value.ToCurrency();
+    case FieldType::DateTime:
+        return value.ToDate();
+    case FieldType::Text:
+        return CheckedText(value);
+    case FieldType::Unknown:
+        break;
+    }
+    return value;
+}
+
+std::string InField(const std::string& field, const char* reason) {
+    return "Pole " + field + ": " + reason + '.';
+}
+
+int BindText(sqlite3_stmt* statement, int index, const QByteArray& utf8) {
+    return sqlite3_bind_text64(statement, index, utf8.constData(),
+                               static_cast<sqlite3_uint64>(utf8.size()), SQLITE_TRANSIENT,
+                               SQLITE_UTF8);
+}
+
+QString ReadText(sqlite3_stmt* statement, int column) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    return QString::fromUtf8(text, sqlite3_column_bytes(statement, column));
+}
+
+Value ReadNumber(qint64 number, FieldType type) {
+    switch (type) {
+    case FieldType::Boolean:
+        return number != 0;
+    case FieldType::Currency:
+        return Currency::FromRaw(number);
+    case FieldType::DateTime:
+        return Value(number).ToDate();
+    default:
+        return number;
+    }
+}
+
+Value ReadDate(const QString& text) {
+    const std::optional<DateValue> date = DateValue::FromIso(text.toStdString());
+    if (!date)
+        throw StoreError("\"" + text.toStdString() + "\" není datum");
+    return *date;
+}
+
+} // namespace
+
+Value ConvertForField(const Value& value, FieldType type, const std::string& field) {
+    if (value.IsNull() || (type != FieldType::Text && IsBlankText(value)))
+        return {};
+    try {
+        return Convert(value, type);
+    } catch (const RangeError& error) {
+        throw RangeError(InField(field, error.what()));
+    } catch (const StoreError& error) {
+        throw StoreError(InField(field, error.what()));
+    }
+}
+
+int BindStored(sqlite3_stmt* statement, int index, const Value& value) {
+    struct Binder {
+        sqlite3_stmt* statement;
+        int index;
+        int operator()(std::monostate) const { return sqlite3_bind_null(statement, index); }
+        int operator()(qint64 number) const { return sqlite3_bind_int64(statement, index, number); }
+        int operator()(bool flag) const {
+            return sqlite3_bind_int(statement, index, flag ? -1 : 0);
+        }
+        int operator()(Currency amount) const {
+            return sqlite3_bind_int64(statement, index, amount.Raw());
+        }
+        int operator()(DateValue date) const {
+            return BindText(statement, index, QByteArray::fromStdString(date.ToIso()));
+        }
+        int operator()(const QString& text) const {
+            return BindText(statement, index, text.toUtf8());
+        }
+    };
+    return std::visit(Binder{statement, index}, value.Data());
+}
+
+Value ReadStored(sqlite3_stmt* statement, int column, FieldType type, const std::string& field) {
+    try {
+        switch (sqlite3_column_type(statement, column)) {
+        case SQLITE_NULL:
+            return {};
+        case SQLITE_INTEGER:
+            return ReadNumber(sqlite3_column_int64(statement, column), type);
+        case SQLITE_TEXT:
+            if (type == FieldType::DateTime)
+                return ReadDate(ReadText(statement, column));
+            if (type == FieldType::Text || type == FieldType::Unknown)
+                return ReadText(statement, column);
+            throw StoreError("\"" + ReadText(statement, column).toStdString() + "\" není číslo");
+        default:
+            throw StoreError("v souboru je hodnota jiného druhu");
+        }
+    } catch (const Error& error) {
+        throw StoreError(InField(field, error.what()));
+    }
+}
+
+} // namespace lorvo

@@ -1,0 +1,28 @@
+#pragma once
+// Between a cell's value and what the file keeps of it.
+
+#include "store/schema.h"
+#include "store/value.h"
+
+#include <string>
+
+struct sqlite3_stmt;
+
+namespace lorvo {
+
+/// Longest text that a field takes.
+constexpr int kLongestText = 255;
+
+/// `value` as a field of `type` keeps it: any non-zero is true, a text of digits is a number, a
+/// number is a date by its days, and an empty text is Null where a text can't be. Raises StoreError
+/// or RangeError that names `field` when the value doesn't fit.
+Value ConvertForField(const Value& value, FieldType type, const std::string& field);
+
+/// Binds a converted value as parameter `index` (from 1). Returns SQLite's result code.
+int BindStored(sqlite3_stmt* statement, int index, const Value& value);
+
+/// Cell `column` of the statement's current row; StoreError names `field` when the file holds
+/// something that the field's type can't be.
+Value ReadStored(sqlite3_stmt* statement, int column, FieldType type, const std::string& field);
+
+} // namespace lorvo
