@@ -53,10 +53,9 @@ TEST(CatalogueRendering, ReadsInTwoColumnsOnALandscapePage) {
     EXPECT_TRUE(
         PdfInfo(pdf).contains(QRegularExpression(QStringLiteral("Page size: +841\\.\\d+ x 595"))));
     const QString first = PdfPages(pdf).first();
-    const QStringList lines = first.split(u'\n');
-    const auto dogLine = QRegularExpression(
-        QStringLiteral("o\\. : +Áron z Dvora +m\\. : Bára od Řeky +o\\. : +Áron z Dvora"));
-    EXPECT_FALSE(lines.filter(dogLine).isEmpty()) << "no two columns:\n" << first.toStdString();
+    const auto neighbours = QRegularExpression(QStringLiteral("Dog\\d+ z Podlesí +[^ ].* : "));
+    EXPECT_FALSE(first.split(u'\n').filter(neighbours).isEmpty()) << "no two columns:\n"
+                                                                  << first.toStdString();
     for (const char16_t* text :
          {u"Kruh 1 – pracovní plemena", u"Boxer", u"   Pes - mezitřída", u"1 Dog0 z Podlesí",
           u"nar. : 14.5.2003", u"CAC, Vítěz třídy", u"maj. : Žižková Eliška"})
