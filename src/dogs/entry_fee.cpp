@@ -34,8 +34,8 @@ Currency Balance(Currency paid, std::span<const Currency> showFees, Currency com
 
 Currency LastShowBalance(Currency paid, std::span<const Currency> showFees,
                          Currency competitionFees) {
-    const Currency last = showFees.empty() ? Currency() : showFees.back();
-    return paid - last - competitionFees;
+    const Currency shows = showFees.empty() ? Currency() : paid - showFees.back();
+    return shows - competitionFees;
 }
 
 } // namespace lorvo

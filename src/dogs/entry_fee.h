@@ -43,7 +43,8 @@ Currency SumOf(std::span<const Currency> amounts);
 /// Payments less everything that the dog owes: negative means arrears, positive an overpayment.
 Currency Balance(Currency paid, std::span<const Currency> showFees, Currency competitionFees);
 
-/// The balance as the dog panel has it: of several shows only the last one's fee is taken off.
+/// The balance as the dog panel has it: of several shows only the last one's fee is taken off, and
+/// what was paid counts only for a dog that stands in a show.
 Currency LastShowBalance(Currency paid, std::span<const Currency> showFees,
                          Currency competitionFees);
 

@@ -92,11 +92,16 @@ TEST(EntryFee, OfSeveralShowsThePanelTakesTheLastAndTheListsTakeAll) {
     EXPECT_EQ(Balance({}, fees, {}), Currency::FromUnits(-500));
 }
 
-TEST(EntryFee, WithOneShowOrNoneBothBalancesAgree) {
+TEST(EntryFee, WithoutAShowThePanelLeavesOutWhatWasPaid) {
     const Currency paid = Currency::FromUnits(250);
     const Currency competitions = Currency::FromUnits(60);
     EXPECT_EQ(Balance(paid, {}, competitions), Currency::FromUnits(190));
-    EXPECT_EQ(LastShowBalance(paid, {}, competitions), Currency::FromUnits(190));
+    EXPECT_EQ(LastShowBalance(paid, {}, competitions), Currency::FromUnits(-60));
+}
+
+TEST(EntryFee, WithOneShowBothBalancesAgree) {
+    const Currency paid = Currency::FromUnits(250);
+    const Currency competitions = Currency::FromUnits(60);
     const std::vector<Currency> fees = {Currency::FromUnits(300)};
     EXPECT_EQ(Balance(paid, fees, competitions), Currency::FromUnits(-110));
     EXPECT_EQ(LastShowBalance(paid, fees, competitions), Currency::FromUnits(-110));
