@@ -3,7 +3,6 @@
 #include "platform/platform.h"
 
 #include <QFont>
-#include <QTimer>
 #include <exception>
 #include <utility>
 
@@ -13,6 +12,11 @@ namespace {
 
 /// The first failure that an event handler raised and nobody has passed on yet.
 std::exception_ptr pendingFailure;
+
+void KeepFailure() {
+    if (!pendingFailure)
+        pendingFailure = std::current_exception();
+}
 
 QString FailureText(const std::exception_ptr& failure) {
     try {
@@ -37,17 +41,20 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
-        if (!pendingFailure)
-            pendingFailure = std::current_exception();
+        KeepFailure();
         QCoreApplication::exit(1);
         return true;
     }
 }
 
 int Application::Run(const std::function<void()>& start) {
-    // Within the loop, so that the barrier stands around the start too.
-    QTimer::singleShot(0, this, start);
-    const int code = exec();
+    int code = 1;
+    try {
+        start();
+        code = exec();
+    } catch (...) {
+        KeepFailure();
+    }
     if (!pendingFailure)
         return code;
     const auto failure = std::exchange(pendingFailure, nullptr);

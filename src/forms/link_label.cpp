@@ -2,8 +2,6 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyleOption>
-#include <QStylePainter>
 
 namespace lorvo {
 
@@ -27,17 +25,17 @@ void LinkLabel::enterEvent(QEnterEvent* event) {
 
 void LinkLabel::leaveEvent(QEvent* event) {
     QLabel::leaveEvent(event);
-    Underline(false);
+    Underline(hasFocus());
 }
 
-void LinkLabel::paintEvent(QPaintEvent* event) {
-    QLabel::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QStylePainter painter(this);
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+void LinkLabel::focusInEvent(QFocusEvent* event) {
+    QLabel::focusInEvent(event);
+    Underline(true);
+}
+
+void LinkLabel::focusOutEvent(QFocusEvent* event) {
+    QLabel::focusOutEvent(event);
+    Underline(underMouse());
 }
 
 void LinkLabel::mousePressEvent(QMouseEvent* event) {

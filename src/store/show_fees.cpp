@@ -37,12 +37,11 @@ FeeRow ReadFees(const RecordSet& row) {
 Currency NotNull(const std::optional<Currency>& fee, int vystavaID, const std::string& column) {
     if (fee)
         return *fee;
-    throw StoreError("Tabulka Vystavy: pole " + column + " není u výstavy s ID " +
-                     Number(vystavaID) + " vyplněno.");
+    throw StoreError("Vystavy: " + column + " is Null in the row with ID " + Number(vystavaID));
 }
 
 StoreError NoSuchShow(int vystavaID) {
-    return StoreError("Tabulka Vystavy: výstava s ID " + Number(vystavaID) + " neexistuje.");
+    return StoreError("Vystavy: no row with ID " + Number(vystavaID));
 }
 
 Value FeeFromText(const std::string& column, const QString& text) {
@@ -52,7 +51,7 @@ Value FeeFromText(const std::string& column, const QString& text) {
     try {
         return Currency::FromText(trimmed.toStdString());
     } catch (const RangeError& error) {
-        throw StoreError("Tabulka Vystavy: pole " + column + ": " + error.what());
+        throw StoreError("Vystavy: " + column + ": " + error.what());
     }
 }
 
@@ -94,8 +93,7 @@ FeeTables::FeeTables() {
 
 Currency FeeTables::Fee(int vystavaID, bool firstClosing, int classColumn, bool firstDog) const {
     if (classColumn < 1 || classColumn > kFeeClasses)
-        throw StoreError("Tabulka Vystavy: neznámé pole " +
-                         FeeColumn(firstClosing, classColumn, firstDog) + '.');
+        throw StoreError("Vystavy: no field " + FeeColumn(firstClosing, classColumn, firstDog));
     const int index = ((firstClosing ? 0 : kFeeClasses) + classColumn - 1) * 2 + (firstDog ? 0 : 1);
     return NotNull(At(vystavaID).fees[static_cast<std::size_t>(index)], vystavaID,
                    FeeColumns()[static_cast<std::size_t>(index)]);

@@ -1,0 +1,36 @@
+#include "mainwindow/awards_section.h"
+
+#include "forms/report_list.h"
+#include "mainwindow/panel_builders.h"
+
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+constexpr int kOpenUnits = 1800;
+}
+
+AwardsSection::AwardsSection(QWidget* parent)
+    : CollapsibleFrame("fraOceneni", QStringLiteral("Ocenění"), kOpenUnits, Growth::TakesRest,
+                       parent),
+      lvwOceneni(new ReportList("lvwOceneni", {QStringLiteral("Název")}, Content())) {
+    lvwOceneni->setAccessibleName(QStringLiteral("Ocenění psa"));
+    lvwOceneni->SetCheckBoxes(true);
+    lvwOceneni->SetLabelEdit(false);
+    auto* column = new QVBoxLayout(Content());
+    column->addWidget(lvwOceneni, 1);
+    connect(lvwOceneni, &ReportList::ItemCheck, this, &AwardsSection::Tick);
+}
+
+void AwardsSection::ShowCard(const DogCard& card) {
+    awards_ = card.awards;
+    ShowLines(*lvwOceneni, awards_);
+}
+
+void AwardsSection::Tick(int position) {
+    awards_[static_cast<std::size_t>(position)].checked = lvwOceneni->Row(position).checked;
+    Q_EMIT AwardsTicked(awards_);
+}
+
+} // namespace lorvo

@@ -1,0 +1,140 @@
+#include "mainwindow/collapsible_frame.h"
+
+#include <QEvent>
+#include <QLayout>
+#include <QToolButton>
+#include <algorithm>
+
+namespace lorvo {
+
+namespace {
+constexpr int kCollapsedUnits = 260;
+constexpr int kStepUnits = 50;
+/// Line height of the design font.
+constexpr int kUnitsPerLine = 195;
+} // namespace
+
+CollapsibleFrame::CollapsibleFrame(const char* name, const QString& title, int openUnits,
+                                   Growth growth, QWidget* parent)
+    : QFrame(parent), openUnits_(openUnits), growth_(growth), header_(new QToolButton(this)),
+      content_(new QWidget(this)) {
+    setObjectName(QString::fromLatin1(name));
+    setAccessibleName(title);
+    setFrameShape(QFrame::StyledPanel);
+    const bool fixed = growth == Growth::Fixed;
+    QSizePolicy policy(QSizePolicy::Preferred,
+                       fixed ? QSizePolicy::Fixed : QSizePolicy::MinimumExpanding);
+    policy.setHeightForWidth(fixed);
+    setSizePolicy(policy);
+
+    header_->setObjectName(objectName() + QStringLiteral(".header"));
+    header_->setText(title);
+    header_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    header_->setArrowType(Qt::DownArrow);
+    header_->setAutoRaise(true);
+    header_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QFont font = header_->font();
+    font.setBold(true);
+    header_->setFont(font);
+    connect(header_, &QToolButton::clicked, this, &CollapsibleFrame::Toggle);
+}
+
+int CollapsibleFrame::Pixels(const QWidget& widget, int units) {
+    return units * widget.fontMetrics().height() / kUnitsPerLine;
+}
+
+int CollapsibleFrame::HeaderHeight() const {
+    return std::max(Pixels(*this, kCollapsedUnits), header_->minimumSizeHint().height());
+}
+
+int CollapsibleFrame::OpenHeight(int contentHeight) const {
+    return std::max(Pixels(*this, openUnits_), HeaderHeight() + contentHeight);
+}
+
+bool CollapsibleFrame::hasHeightForWidth() const {
+    return growth_ == Growth::Fixed && !collapsed_;
+}
+
+int CollapsibleFrame::heightForWidth(int width) const {
+    const QLayout* layout = content_->layout();
+    if (collapsed_ || !layout)
+        return HeaderHeight();
+    return OpenHeight(layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
+                                                  : layout->totalSizeHint().height());
+}
+
+QSize CollapsibleFrame::sizeHint() const {
+    const QSize content = content_->sizeHint();
+    return {content.width(), collapsed_ ? HeaderHeight() : OpenHeight(content.height())};
+}
+
+QSize CollapsibleFrame::minimumSizeHint() const {
+    const QSize content = content_->minimumSizeHint();
+    return {content.width(), collapsed_ ? HeaderHeight() : OpenHeight(content.height())};
+}
+
+void CollapsibleFrame::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    PlaceContent();
+}
+
+bool CollapsibleFrame::event(QEvent* event) {
+    // The content has changed its needs: so has the frame.
+    if (event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        PlaceContent();
+    }
+    return QFrame::event(event);
+}
+
+// While the frame is lower than its content, the content keeps its height and is cut off below, so
+// that nothing in it moves.
+void CollapsibleFrame::PlaceContent() {
+    const int top = HeaderHeight();
+    header_->setGeometry(0, 0, width(), top);
+    const int needed = content_->minimumSizeHint().height();
+    content_->setGeometry(0, top, width(), std::max(height() - top, needed));
+}
+
+void CollapsibleFrame::ShowHeight(int height) {
+    setFixedHeight(height);
+    if (QWidget* panel = parentWidget()) {
+        if (panel->layout())
+            panel->layout()->activate();
+        panel->repaint();
+    }
+}
+
+void CollapsibleFrame::StepTo(int target) {
+    const int step = std::max(1, Pixels(*this, kStepUnits));
+    int current = height();
+    while (isVisible() && current != target) {
+        current =
+            current < target ? std::min(current + step, target) : std::max(current - step, target);
+        ShowHeight(current);
+    }
+}
+
+void CollapsibleFrame::Toggle() {
+    const int before = height();
+    collapsed_ = !collapsed_;
+    header_->setArrowType(collapsed_ ? Qt::RightArrow : Qt::DownArrow);
+    content_->setVisible(true);
+    int target = HeaderHeight();
+    if (!collapsed_) {
+        // Let the layout say how high the open frame will stand, then start from where it is.
+        setMinimumHeight(0);
+        setMaximumHeight(QWIDGETSIZE_MAX);
+        updateGeometry();
+        parentWidget()->layout()->activate();
+        target = height();
+        setFixedHeight(before);
+    }
+    StepTo(target);
+    content_->setVisible(!collapsed_);
+    setMinimumHeight(collapsed_ ? target : 0);
+    setMaximumHeight(collapsed_ ? target : QWIDGETSIZE_MAX);
+    updateGeometry();
+}
+
+} // namespace lorvo

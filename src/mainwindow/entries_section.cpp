@@ -1,0 +1,103 @@
+#include "mainwindow/entries_section.h"
+
+#include "forms/controls.h"
+#include "forms/report_list.h"
+#include "mainwindow/entry_ticks.h"
+#include "mainwindow/panel_builders.h"
+#include "mainwindow/window_opener.h"
+
+#include <QHBoxLayout>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kOpenUnits = 3600;
+
+LinkLabel* PaymentLink(const char* name, const QString& text, const QString& toolTip,
+                       QWidget* parent) {
+    auto* link = Named(new LinkLabel(text, parent), QString::fromLatin1(name));
+    link->setToolTip(toolTip);
+    return link;
+}
+
+} // namespace
+
+EntriesSection::EntriesSection(QWidget* parent)
+    : CollapsibleFrame("fraVystavy", QStringLiteral("Výstavy a soutěže"), kOpenUnits,
+                       Growth::TakesRest, parent) {
+    // Closing and first-dog mark of an entered show stand beside its price, without a heading.
+    lvwSouteze = new ReportList(
+        "lvwSouteze", {QStringLiteral("Název"), QStringLiteral("Cena"), QString(), QString()},
+        Content());
+    lvwSouteze->setAccessibleName(QStringLiteral("Výstavy a soutěže psa"));
+    lvwSouteze->SetCheckBoxes(true);
+    lvwSouteze->SetLabelEdit(false);
+    lvwSouteze->SetIcons(
+        {ProgramIcon(QStringLiteral("show")), ProgramIcon(QStringLiteral("competition"))});
+    auto* column = new QVBoxLayout(Content());
+    column->addLayout(Values());
+    column->addWidget(lvwSouteze, 1);
+    column->addLayout(Links());
+
+    connect(lvwSouteze, &ReportList::ItemCheck, this, &EntriesSection::Tick);
+    connect(lblNovaPlatba, &LinkLabel::Clicked, this, &EntriesSection::NewPaymentClicked);
+    connect(lblSeznamPlateb, &LinkLabel::Clicked, this, &EntriesSection::PaymentsClicked);
+}
+
+QLayout* EntriesSection::Values() {
+    ValueGrid grid(2);
+    closing_ = grid.AddText(0, QStringLiteral("Uzávěrka:"));
+    firstDog_ = grid.AddText(0, QStringLiteral("První pes:"));
+    price_ = grid.AddText(1, QStringLiteral("Cena celkem:"));
+    paid_ = grid.AddText(1, QStringLiteral("Uhrazeno:"));
+    balance_ = ValueLabel(QStringLiteral("Rozdíl:"), nullptr);
+    balanceWord_ = new QLabel;
+    balanceWord_->setObjectName(QStringLiteral("lblBalanceWord"));
+    balance_->setFont(paid_->font());
+    balanceWord_->setFont(paid_->font());
+    auto* both = new QWidget;
+    auto* row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(balance_);
+    row->addWidget(balanceWord_, 1);
+    grid.Add(1, QStringLiteral("Rozdíl:"), both);
+    return grid.Layout();
+}
+
+QLayout* EntriesSection::Links() {
+    lblNovaPlatba = PaymentLink("lblNovaPlatba", QStringLiteral("Příjem platby"),
+                                QStringLiteral("Přidat novou platbu"), Content());
+    lblSeznamPlateb =
+        PaymentLink("lblSeznamPlateb", QStringLiteral("Seznam přijatých plateb"),
+                    QStringLiteral("Zobrazit seznam všech přijatých plateb za psa"), Content());
+    auto* row = new QHBoxLayout;
+    row->addWidget(lblNovaPlatba);
+    row->addSpacing(fontMetrics().height());
+    row->addWidget(lblSeznamPlateb);
+    row->addStretch();
+    return row;
+}
+
+void EntriesSection::ShowCard(const DogCard& card) {
+    lines_ = card.shows;
+    ShowLines(*lvwSouteze, lines_);
+    closing_->setText(card.Uzaverka);
+    firstDog_->setText(card.PrvniPes);
+    price_->setText(card.CenaCelkem);
+    paid_->setText(card.Uhrazeno);
+    ShowText(*balance_, card.Rozdil);
+    ShowText(*balanceWord_, card.balanceWord);
+    lblNovaPlatba->setEnabled(CanOpen(QStringLiteral("frmPlatba")));
+    lblSeznamPlateb->setEnabled(CanOpen(QStringLiteral("frmUhrady")));
+}
+
+void EntriesSection::Tick(int position) {
+    lines_[static_cast<std::size_t>(position)].checked = lvwSouteze->Row(position).checked;
+    ApplyShowRules(lines_, position);
+    for (int row = 0; row < lvwSouteze->RowCount(); ++row)
+        lvwSouteze->SetChecked(row, lines_[static_cast<std::size_t>(row)].checked);
+    Q_EMIT EntriesTicked(lines_);
+}
+
+} // namespace lorvo

@@ -1,0 +1,104 @@
+#include "mainwindow/owner_section.h"
+
+#include "forms/controls.h"
+#include "mainwindow/panel_builders.h"
+#include "mainwindow/window_opener.h"
+
+#include <QHBoxLayout>
+#include <QToolButton>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kOpenUnits = 1815;
+
+QToolButton* Picture(const QString& name, const QString& icon, const QString& toolTip,
+                     QWidget* parent) {
+    auto* picture = Named(new QToolButton(parent), name);
+    picture->setIcon(ProgramIcon(icon));
+    picture->setToolTip(toolTip);
+    picture->setAccessibleName(toolTip);
+    picture->setAutoRaise(true);
+    return picture;
+}
+
+void ShowNeighbour(QToolButton& picture, const DogCard::Neighbour& neighbour) {
+    picture.setVisible(!neighbour.key.isEmpty());
+    if (!neighbour.key.isEmpty())
+        picture.setToolTip(neighbour.name);
+}
+
+} // namespace
+
+OwnerSection::OwnerSection(QWidget* parent)
+    : CollapsibleFrame("fraMajitel", QStringLiteral("Majitel"), kOpenUnits, Growth::Fixed, parent) {
+    auto* row = new QHBoxLayout(Content());
+    row->addLayout(Lines(), 1);
+    row->addLayout(Pictures());
+
+    connect(name_, &LinkLabel::Clicked, this, &OwnerSection::OwnerClicked);
+    connect(email_, &LinkLabel::Clicked, this, [this] { Q_EMIT EmailClicked(email_->text()); });
+    connect(picPrev, &QToolButton::clicked, this,
+            [this] { Q_EMIT NeighbourClicked(previousKey_); });
+    connect(picNext, &QToolButton::clicked, this, [this] { Q_EMIT NeighbourClicked(nextKey_); });
+    connect(picList, &QToolButton::clicked, this, &OwnerSection::DogListClicked);
+    connect(picEditMajitele, &QToolButton::clicked, this, &OwnerSection::EditOwnerClicked);
+}
+
+QLayout* OwnerSection::Lines() {
+    ValueGrid grid(2);
+    name_ = PanelLink(QStringLiteral("Jméno:"), Content());
+    grid.Add(0, QStringLiteral("Jméno:"), name_);
+    street_ = grid.AddText(0, QStringLiteral("Ulice:"));
+    postCode_ = grid.AddText(0, QStringLiteral("PSČ:"));
+    town_ = grid.AddText(0, QStringLiteral("Město:"));
+    country_ = grid.AddText(1, QStringLiteral("Stát:"));
+    phone_ = grid.AddText(1, QStringLiteral("Telefon:"));
+    email_ = PanelLink(QStringLiteral("Email:"), Content());
+    grid.Add(1, QStringLiteral("Email:"), email_);
+    auto* column = new QVBoxLayout;
+    column->addLayout(grid.Layout());
+    column->addStretch();
+    return column;
+}
+
+QLayout* OwnerSection::Pictures() {
+    picPrev = Picture(QStringLiteral("picPrev"), QStringLiteral("previous"),
+                      QStringLiteral("Předchozí pes tohoto majitele"), Content());
+    picNext = Picture(QStringLiteral("picNext"), QStringLiteral("next"),
+                      QStringLiteral("Další pes tohoto majitele"), Content());
+    picList = Picture(QStringLiteral("picList"), QStringLiteral("list"),
+                      QStringLiteral("Seznam psů tohoto majitele"), Content());
+    picEditMajitele = Picture(QStringLiteral("picEditMajitele"), QStringLiteral("edit"),
+                              QStringLiteral("Upravit majitele"), Content());
+    auto* row = new QHBoxLayout;
+    for (QToolButton* picture : {picPrev, picNext, picList, picEditMajitele})
+        row->addWidget(picture, 0, Qt::AlignTop);
+    return row;
+}
+
+void OwnerSection::ShowCard(const DogCard& card) {
+    ShowOwnerName(card.JmenoMajitele);
+    street_->setText(card.Ulice);
+    postCode_->setText(card.PSC);
+    town_->setText(card.Mesto);
+    country_->setText(card.Stat);
+    phone_->setText(card.Telefon);
+    email_->setText(card.Email);
+    previousKey_ = card.previous.key;
+    nextKey_ = card.next.key;
+    ShowNeighbour(*picPrev, card.previous);
+    ShowNeighbour(*picNext, card.next);
+    picList->setVisible(!previousKey_.isEmpty() || !nextKey_.isEmpty());
+    picEditMajitele->setEnabled(CanOpen(QStringLiteral("frmEditMan")));
+}
+
+// The link reaches a little beyond the name, so that a short name is easy to hit too.
+void OwnerSection::ShowOwnerName(const QString& name) {
+    name_->setText(name);
+    name_->setEnabled(!name.isEmpty());
+    name_->setFixedWidth(name_->fontMetrics().horizontalAdvance(name) * 13 / 10);
+}
+
+} // namespace lorvo

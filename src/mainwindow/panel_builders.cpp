@@ -1,0 +1,89 @@
+#include "mainwindow/panel_builders.h"
+
+#include "forms/controls.h"
+#include "forms/report_list.h"
+
+namespace lorvo {
+
+namespace {
+
+/// Blank columns between the pairs of a grid.
+constexpr int kPairGap = 24;
+/// Columns of a pair: caption, value, gap.
+constexpr int kColumns = 3;
+
+QFont Bold(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
+ReportRow RowOf(const CheckLine& line) {
+    ReportRow row;
+    row.key = line.key;
+    row.tag = line.tag;
+    row.checked = line.checked;
+    row.cells.push_back({line.text, std::nullopt, static_cast<int>(line.icon) - 1});
+    for (const InkedText& text : line.subItems)
+        row.cells.push_back({text.text, text.colour});
+    return row;
+}
+
+} // namespace
+
+QLabel* PanelHeading(const QString& text, QWidget* panel) {
+    auto* heading = new QLabel(text, panel);
+    heading->setFont(Bold(heading->font()));
+    panel->setAccessibleName(text);
+    return heading;
+}
+
+ValueGrid::ValueGrid(int pairs)
+    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(pairs), 0) {
+    for (int pair = 0; pair < pairs; ++pair) {
+        grid_->setColumnStretch(pair * kColumns + 1, 1);
+        if (pair + 1 < pairs)
+            grid_->setColumnMinimumWidth(pair * kColumns + 2, kPairGap);
+    }
+}
+
+void ValueGrid::Add(int pair, const QString& caption, QWidget* value) {
+    const int row = nextRow_[static_cast<std::size_t>(pair)]++;
+    auto* label = new QLabel(caption);
+    grid_->addWidget(label, row, pair * kColumns, Qt::AlignTop);
+    grid_->addWidget(value, row, pair * kColumns + 1, Qt::AlignTop);
+}
+
+QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name) {
+    QLabel* value = ValueLabel(caption, nullptr);
+    value->setObjectName(name);
+    value->setFont(Bold(value->font()));
+    value->setWordWrap(true);
+    Add(pair, caption, value);
+    return value;
+}
+
+LinkLabel* PanelLink(const QString& caption, QWidget* parent) {
+    auto* link = new LinkLabel(QString(), parent);
+    link->setTextFormat(Qt::PlainText);
+    link->setAccessibleName(caption);
+    link->setFont(Bold(link->font()));
+    return link;
+}
+
+void ShowText(QLabel& label, const InkedText& text) {
+    label.setText(text.text);
+    QPalette palette;
+    if (text.colour)
+        palette.setColor(label.foregroundRole(), *text.colour);
+    label.setPalette(palette);
+}
+
+void ShowLines(ReportList& list, const CheckLines& lines) {
+    std::vector<ReportRow> rows;
+    rows.reserve(lines.size());
+    for (const CheckLine& line : lines)
+        rows.push_back(RowOf(line));
+    list.SetRows(std::move(rows));
+}
+
+} // namespace lorvo

@@ -1,0 +1,46 @@
+#pragma once
+// What the panels of the main window are laid out with.
+
+#include "mainwindow/card_line.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace lorvo {
+
+class LinkLabel;
+class ReportList;
+
+/// A panel's heading; `text` is the panel's accessible name too.
+QLabel* PanelHeading(const QString& text, QWidget* panel);
+
+/// Pairs of caption and value, several pairs side by side, all captions and all values of a pair
+/// aligned. The values share what width the captions leave.
+class ValueGrid {
+  public:
+    explicit ValueGrid(int pairs);
+
+    /// Puts the next pair below the one before it in column `pair`. A value without a name of its
+    /// own is found by the caption.
+    void Add(int pair, const QString& caption, QWidget* value);
+    /// The same with a bold label of that name (none when empty), which is returned.
+    QLabel* AddText(int pair, const QString& caption, const QString& name = {});
+
+    /// For a layout to take over; the grid must not be used after its layout is gone.
+    QGridLayout* Layout() const { return grid_; }
+
+  private:
+    QGridLayout* grid_;
+    std::vector<int> nextRow_;
+};
+
+/// A link whose text is the value of a caption: bold, and found by the caption.
+LinkLabel* PanelLink(const QString& caption, QWidget* parent);
+
+/// Sets text and colour; without a colour the label has the window's own.
+void ShowText(QLabel& label, const InkedText& text);
+
+/// Replaces the rows of a list by the lines of a check list.
+void ShowLines(ReportList& list, const CheckLines& lines);
+
+} // namespace lorvo
