@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 
 #include <QFont>
+#include <QTimer>
 #include <exception>
 #include <utility>
 
@@ -12,11 +13,6 @@ namespace {
 
 /// The first failure that an event handler raised and nobody has passed on yet.
 std::exception_ptr pendingFailure;
-
-void KeepFailure() {
-    if (!pendingFailure)
-        pendingFailure = std::current_exception();
-}
 
 QString FailureText(const std::exception_ptr& failure) {
     try {
@@ -41,20 +37,17 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
-        KeepFailure();
+        if (!pendingFailure)
+            pendingFailure = std::current_exception();
         QCoreApplication::exit(1);
         return true;
     }
 }
 
 int Application::Run(const std::function<void()>& start) {
-    int code = 1;
-    try {
-        start();
-        code = exec();
-    } catch (...) {
-        KeepFailure();
-    }
+    // Within the loop, so that the barrier stands around the start too.
+    QTimer::singleShot(0, this, start);
+    const int code = exec();
     if (!pendingFailure)
         return code;
     const auto failure = std::exchange(pendingFailure, nullptr);

@@ -15,7 +15,7 @@ class Application : public QApplication {
 
     bool notify(QObject* receiver, QEvent* event) override;
 
-    /// Runs `start` (which opens the main window) and then the event loop. A failure of either is
+    /// Runs `start` (which opens the main window) inside the event loop. A failure of either is
     /// shown in the platform's error box. Returns the exit code: 1 after a failure.
     int Run(const std::function<void()>& start);
 

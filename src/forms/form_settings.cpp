@@ -27,16 +27,11 @@ QString ListKey(const char* root, const QWidget& window, const ReportList& list)
 
 /// A stored number; nullopt for a missing value or one that is none by the system's rules.
 std::optional<int> StoredNumber(const QString& key, const QString& name) {
-    const LocaleInfo& locale = *ThePlatform().locale;
-    QString text = ReadRegValue(key, name).trimmed();
-    if (text.isEmpty() || !locale.IsNumeric(text))
+    const auto number = ThePlatform().locale->PlainNumber(ReadRegValue(key, name));
+    if (!number)
         return {};
-    bool valid = false;
-    const double number =
-        text.replace(QLatin1Char(locale.DecimalSign()), QLatin1Char('.')).toDouble(&valid);
-    if (!valid || number < -1e6 || number > 1e6)
-        return {};
-    return qRound(number);
+    constexpr double kFarthest = 1e6; // no screen reaches there, and it fits every type
+    return qRound(qBound(-kFarthest, number->toDouble(), kFarthest));
 }
 
 std::optional<int> StoredSize(const QString& key, const char* name) {

@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyleOption>
+#include <QStylePainter>
 
 namespace lorvo {
 
@@ -25,17 +27,17 @@ void LinkLabel::enterEvent(QEnterEvent* event) {
 
 void LinkLabel::leaveEvent(QEvent* event) {
     QLabel::leaveEvent(event);
-    Underline(hasFocus());
+    Underline(false);
 }
 
-void LinkLabel::focusInEvent(QFocusEvent* event) {
-    QLabel::focusInEvent(event);
-    Underline(true);
-}
-
-void LinkLabel::focusOutEvent(QFocusEvent* event) {
-    QLabel::focusOutEvent(event);
-    Underline(underMouse());
+void LinkLabel::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QStylePainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }
 
 void LinkLabel::mousePressEvent(QMouseEvent* event) {

@@ -12,10 +12,15 @@ bool HasNonDigit(const QString& text) {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c < u'0' || c > u'9'; });
 }
 
-/// Keys that write something else than a digit; commands such as Ctrl+V write nothing.
+/// Commands such as Ctrl+V write nothing; Ctrl and Alt together choose a letter's third meaning.
+bool IsCommand(const QKeyEvent& key) {
+    return key.modifiers().testFlag(Qt::ControlModifier) !=
+           key.modifiers().testFlag(Qt::AltModifier);
+}
+
 bool TypesNonDigit(const QKeyEvent& key) {
     const QString text = key.text();
-    return !text.isEmpty() && text[0].isPrint() && HasNonDigit(text);
+    return !text.isEmpty() && text[0].isPrint() && !IsCommand(key) && HasNonDigit(text);
 }
 
 class DigitsOnly : public QObject {

@@ -93,10 +93,14 @@ void BreedBuilder::Add(TreeNode* ring, const Plemena& breed, const QString& text
 
 } // namespace
 
+QString UnassignedRootText() {
+    return QStringLiteral("Nezařazeno v kruhu");
+}
+
 void LoadTree(TreeNodes& nodes) {
     FillPaymentModes(Module());
     const TreeNodes::Rebuilding rebuilding(nodes);
-    TreeNode* unassigned = nodes.AddUnassignedRoot(QStringLiteral("Nezařazeno v kruhu"));
+    TreeNode* unassigned = nodes.AddUnassignedRoot(UnassignedRootText());
 
     const ReadRun run(TheDataModule().Conn1);
     BreedBuilder builder(nodes);

@@ -5,6 +5,9 @@
 
 namespace lorvo {
 
+/// What the node of the breeds outside all rings is called.
+QString UnassignedRootText();
+
 /// Rebuilds the nodes from the database and fills `PaymentModes`; `ShowClassesOn` decides on the
 /// class level, `DogDetailInTree` on the texts of dogs outside the rings. Leaves `SpecialBreed`
 /// telling of the last breed. A dog whose class has no node raises Error, and so does the store;

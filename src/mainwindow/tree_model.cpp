@@ -59,8 +59,7 @@ QModelIndex TreeModel::IndexOf(const TreeNode* node) const {
     return node ? createIndex(node->row, 0, node) : QModelIndex();
 }
 
-const std::vector<std::unique_ptr<TreeNode>>&
-TreeModel::ChildrenOf(const QModelIndex& parent) const {
+const TreeNode::Siblings& TreeModel::ChildrenOf(const QModelIndex& parent) const {
     return parent.isValid() ? NodeAt(parent)->children : nodes_.TopLevel();
 }
 

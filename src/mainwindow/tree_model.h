@@ -59,7 +59,7 @@ class TreeModel : public QAbstractItemModel, private TreeObserver {
     void Changed(TreeNode* node) override;
     void Recoloured() override;
 
-    const std::vector<std::unique_ptr<TreeNode>>& ChildrenOf(const QModelIndex& parent) const;
+    const TreeNode::Siblings& ChildrenOf(const QModelIndex& parent) const;
 
     TreeNodes& nodes_;
     Icons icons_;

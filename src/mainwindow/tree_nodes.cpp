@@ -42,6 +42,11 @@ QString TreeNode::Tag() const {
     return {};
 }
 
+TreeNode* TreeNode::NextSibling() const {
+    const auto next = static_cast<std::size_t>(row) + 1;
+    return next < siblings->size() ? (*siblings)[next].get() : nullptr;
+}
+
 TreeNodes::Rebuilding::Rebuilding(TreeNodes& nodes) : nodes_(nodes) {
     if (nodes_.observer_)
         nodes_.observer_->AboutToReset();
@@ -82,17 +87,11 @@ TreeNode* TreeNodes::Last() const {
     return node;
 }
 
-TreeNode* TreeNodes::NextSibling(const TreeNode* node) const {
-    const Siblings& siblings = SiblingsOf(node);
-    const auto next = static_cast<std::size_t>(node->row) + 1;
-    return next < siblings.size() ? siblings[next].get() : nullptr;
-}
-
 TreeNode* TreeNodes::Next(const TreeNode* node) const {
     if (TreeNode* child = node->FirstChild())
         return child;
     for (; node; node = node->parent)
-        if (TreeNode* sibling = NextSibling(node))
+        if (TreeNode* sibling = node->NextSibling())
             return sibling;
     return nullptr;
 }
@@ -100,7 +99,7 @@ TreeNode* TreeNodes::Next(const TreeNode* node) const {
 TreeNode* TreeNodes::Previous(const TreeNode* node) const {
     if (node->row == 0)
         return node->parent;
-    TreeNode* previous = SiblingsOf(node)[static_cast<std::size_t>(node->row) - 1].get();
+    TreeNode* previous = (*node->siblings)[static_cast<std::size_t>(node->row) - 1].get();
     while (!previous->children.empty())
         previous = previous->children.back().get();
     return previous;
@@ -156,10 +155,7 @@ TreeNode* TreeNodes::Append(TreeNode* parent, std::unique_ptr<TreeNode> node) {
     TreeObserver* told = rebuilding_ ? nullptr : observer_;
     if (told)
         told->AboutToAppend(parent);
-    Siblings& siblings = ChildrenOf(parent);
-    node->parent = parent;
-    node->row = static_cast<int>(siblings.size());
-    TreeNode* added = siblings.emplace_back(std::move(node)).get();
+    TreeNode* added = PutIn(parent, std::move(node));
     if (added->keyed)
         byKey_.insert(added->key, added);
     ++count_;
@@ -168,8 +164,16 @@ TreeNode* TreeNodes::Append(TreeNode* parent, std::unique_ptr<TreeNode> node) {
     return added;
 }
 
+TreeNode* TreeNodes::PutIn(TreeNode* parent, std::unique_ptr<TreeNode> node) {
+    TreeNode::Siblings& siblings = ChildrenOf(parent);
+    node->parent = parent;
+    node->siblings = &siblings;
+    node->row = static_cast<int>(siblings.size());
+    return siblings.emplace_back(std::move(node)).get();
+}
+
 std::unique_ptr<TreeNode> TreeNodes::TakeOut(TreeNode* node) {
-    Siblings& siblings = ChildrenOf(node->parent);
+    TreeNode::Siblings& siblings = ChildrenOf(node->parent);
     const auto place = siblings.begin() + node->row;
     std::unique_ptr<TreeNode> taken = std::move(*place);
     for (auto it = siblings.erase(place); it != siblings.end(); ++it)
@@ -200,11 +204,7 @@ void TreeNodes::Move(TreeNode* node, TreeNode* newParent) {
         return;
     if (observer_)
         observer_->AboutToMove(node, newParent);
-    std::unique_ptr<TreeNode> moved = TakeOut(node);
-    node->parent = newParent;
-    Siblings& siblings = ChildrenOf(newParent);
-    node->row = static_cast<int>(siblings.size());
-    siblings.push_back(std::move(moved));
+    PutIn(newParent, TakeOut(node));
     if (observer_)
         observer_->Moved();
 }

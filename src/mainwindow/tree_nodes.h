@@ -20,8 +20,11 @@ inline constexpr QRgb kPathBackground = qRgb(192, 255, 192);
 
 /// One node. Read its members freely; change it only through TreeNodes.
 struct TreeNode {
+    using Siblings = std::vector<std::unique_ptr<TreeNode>>;
+
     TreeNode* parent = nullptr; ///< null at the top level
-    std::vector<std::unique_ptr<TreeNode>> children;
+    const Siblings* siblings = nullptr;
+    Siblings children;
     QString text;
     NodeKey key;
     int row = 0; ///< position among its siblings
@@ -40,7 +43,22 @@ struct TreeNode {
     /// node without a tag.
     QString Tag() const;
     TreeNode* FirstChild() const { return children.empty() ? nullptr : children.front().get(); }
+    TreeNode* NextSibling() const;
 };
+
+// The neighbours as the numbering walk asks for them.
+inline TreeNode* FirstChild(const TreeNode& node) {
+    return node.FirstChild();
+}
+inline TreeNode* NextSibling(const TreeNode& node) {
+    return node.NextSibling();
+}
+inline TreeNode* Parent(const TreeNode& node) {
+    return node.parent;
+}
+inline bool IsDog(const TreeNode& node) {
+    return node.IsDog();
+}
 
 /// Told before and after each change of the nodes, so that a model can follow.
 class TreeObserver {
@@ -91,13 +109,12 @@ class TreeNodes {
     TreeNode& Get(const QString& key) const;
 
     // The tree's order: each node before its children, siblings by row. Null at the ends.
-    const std::vector<std::unique_ptr<TreeNode>>& TopLevel() const { return topLevel_; }
+    const TreeNode::Siblings& TopLevel() const { return topLevel_; }
     int Count() const { return count_; }
     TreeNode* First() const;
     TreeNode* Last() const;
     TreeNode* Next(const TreeNode* node) const;
     TreeNode* Previous(const TreeNode* node) const;
-    TreeNode* NextSibling(const TreeNode* node) const;
     /// Node by its position in the tree's order, from 1.
     TreeNode* At(int position) const;
 
@@ -131,17 +148,16 @@ class TreeNodes {
     void MarkOnPath(TreeNode* node);
 
   private:
-    using Siblings = std::vector<std::unique_ptr<TreeNode>>;
-    Siblings& ChildrenOf(TreeNode* parent) { return parent ? parent->children : topLevel_; }
-    const Siblings& SiblingsOf(const TreeNode* node) const {
-        return node->parent ? node->parent->children : topLevel_;
+    TreeNode::Siblings& ChildrenOf(TreeNode* parent) {
+        return parent ? parent->children : topLevel_;
     }
     TreeNode* Append(TreeNode* parent, std::unique_ptr<TreeNode> node);
+    TreeNode* PutIn(TreeNode* parent, std::unique_ptr<TreeNode> node);
     std::unique_ptr<TreeNode> TakeOut(TreeNode* node);
     void Forget(const TreeNode* node);
     template<typename Visitor> void ForEach(Visitor visit) const;
 
-    Siblings topLevel_;
+    TreeNode::Siblings topLevel_;
     QHash<NodeKey, TreeNode*> byKey_;
     std::vector<TreeNode*> onPath_; ///< the nodes that bear the path's colours
     int count_ = 0;

@@ -37,11 +37,12 @@ FeeRow ReadFees(const RecordSet& row) {
 Currency NotNull(const std::optional<Currency>& fee, int vystavaID, const std::string& column) {
     if (fee)
         return *fee;
-    throw StoreError("Vystavy: " + column + " is Null in the row with ID " + Number(vystavaID));
+    throw StoreError("Tabulka Vystavy: pole " + column + " není u výstavy s ID " +
+                     Number(vystavaID) + " vyplněno.");
 }
 
 StoreError NoSuchShow(int vystavaID) {
-    return StoreError("Vystavy: no row with ID " + Number(vystavaID));
+    return StoreError("Tabulka Vystavy: výstava s ID " + Number(vystavaID) + " neexistuje.");
 }
 
 Value FeeFromText(const std::string& column, const QString& text) {
@@ -51,7 +52,7 @@ Value FeeFromText(const std::string& column, const QString& text) {
     try {
         return Currency::FromText(trimmed.toStdString());
     } catch (const RangeError& error) {
-        throw StoreError("Vystavy: " + column + ": " + error.what());
+        throw StoreError("Tabulka Vystavy: pole " + column + ": " + error.what());
     }
 }
 
@@ -93,7 +94,8 @@ FeeTables::FeeTables() {
 
 Currency FeeTables::Fee(int vystavaID, bool firstClosing, int classColumn, bool firstDog) const {
     if (classColumn < 1 || classColumn > kFeeClasses)
-        throw StoreError("Vystavy: no field " + FeeColumn(firstClosing, classColumn, firstDog));
+        throw StoreError("Tabulka Vystavy: neznámé pole " +
+                         FeeColumn(firstClosing, classColumn, firstDog) + '.');
     const int index = ((firstClosing ? 0 : kFeeClasses) + classColumn - 1) * 2 + (firstDog ? 0 : 1);
     return NotNull(At(vystavaID).fees[static_cast<std::size_t>(index)], vystavaID,
                    FeeColumns()[static_cast<std::size_t>(index)]);

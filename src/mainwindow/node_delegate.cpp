@@ -1,0 +1,11 @@
+#include "mainwindow/node_delegate.h"
+
+namespace lorvo {
+
+void NodeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (!selectionBarShown)
+        option->state &= ~QStyle::State_Selected;
+}
+
+} // namespace lorvo

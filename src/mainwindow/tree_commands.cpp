@@ -1,0 +1,157 @@
+#include "mainwindow/tree_commands.h"
+
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "mainwindow/main_tree.h"
+#include "mainwindow/node_search.h"
+#include "mainwindow/tree_edits.h"
+#include "mainwindow/tree_loader.h"
+#include "mainwindow/window_opener.h"
+#include "store/kruhy.h"
+#include "store/psi.h"
+
+namespace lorvo {
+
+TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* parent)
+    : QObject(parent), tree_(tree), nodes_(tree.Nodes()), window_(window),
+      edits_(std::make_unique<TreeEdits>(nodes_, window)) {
+    const auto show = [this](TreeNode* node) {
+        window_.ShowNodeInfo(node->Key());
+    };
+    connect(&tree_, &MainTree::NodeClick, this, show);
+    connect(&tree_, &MainTree::NodeCollapse, this, show);
+    connect(&tree_, &MainTree::NodeDoubleClick, this, &TreeCommands::EditDog);
+    connect(&tree_, &MainTree::RightClick, this, &TreeCommands::ShowMenu);
+    connect(&tree_, &MainTree::DeletePressed, this, [this] {
+        if (TreeNode* node = tree_.SelectedNode())
+            edits_->Remove(node);
+    });
+    connect(&tree_, &MainTree::RenamePressed, this, &TreeCommands::RenameSelected);
+    connect(&tree_, &MainTree::FindPressed, this, &TreeCommands::Find);
+    connect(&tree_, &MainTree::FindNextPressed, this, &TreeCommands::FindNext);
+    connect(&tree_, &MainTree::HomePressed, this, [] { Module().FindStart = 1; });
+    connect(&tree_, &MainTree::KeyDone, this, &TreeCommands::ShowSelected);
+    connect(&tree_, &MainTree::LabelEdited, this, &TreeCommands::StoreEditedText);
+    connect(&tree_, &MainTree::NodeDropped, this,
+            [this](TreeNode* dragged, TreeNode* target) { edits_->Drop(dragged, target); });
+}
+
+TreeCommands::~TreeCommands() = default;
+
+void TreeCommands::AddRing() {
+    const QString name = QStringLiteral("Nový kruh");
+    TreeNode* ring = nodes_.AddRingWithoutKey(name);
+    nodes_.GiveKey(ring, InsertRing(name));
+    tree_.SelectNode(ring);
+    Module().LabelEditAllowed = true;
+    tree_.StartLabelEdit(ring);
+}
+
+void TreeCommands::StoreEditedText(TreeNode* node, const QString& text) {
+    if (!text.isEmpty()) {
+        const QString name = text.trimmed();
+        edits_->Rename(node, name);
+        window_.SetItemTitle(name);
+    }
+    // After the pending events, when the edit box has gone.
+    QMetaObject::invokeMethod(this, &TreeCommands::ShowSelected, Qt::QueuedConnection);
+}
+
+void TreeCommands::RenameSelected() {
+    TreeNode* node = tree_.SelectedNode();
+    if (node && node->Kind() == NodeKind::Ring)
+        RenameInWindow(node);
+}
+
+void TreeCommands::RenameInWindow(TreeNode* ring) {
+    tree_.SelectNode(ring);
+    if (ring->text != UnassignedRootText())
+        Open(QStringLiteral("frmNazevKruhu"));
+}
+
+void TreeCommands::HideEmpty() {
+    // Backwards, so that a breed emptied of its classes goes too, and then its ring.
+    for (TreeNode* node = nodes_.Last(); node;) {
+        TreeNode* previous = nodes_.Previous(node);
+        if (node->children.empty() && !node->IsDog())
+            nodes_.Remove(node);
+        node = previous;
+    }
+}
+
+void TreeCommands::ShowAll() {
+    const TreeNode* selected = tree_.SelectedNode();
+    const QString key = selected ? selected->Key() : QString();
+    window_.LoadData();
+    if (const TreeNode* node = nodes_.Find(key))
+        tree_.EnsureVisible(node);
+}
+
+void TreeCommands::ToggleDetail() {
+    Module().DogDetailInTree = !Module().DogDetailInTree;
+    window_.LoadData();
+}
+
+void TreeCommands::Find() {
+    if (CanOpen(QStringLiteral("frmFind")))
+        Open(QStringLiteral("frmFind"));
+}
+
+void TreeCommands::FindNext() {
+    if (Module().FindText.isEmpty())
+        return Find();
+    if (const TreeNode* node = FindByText(nodes_, Module().FindText, Module().FindStart))
+        tree_.SelectNode(node);
+}
+
+void TreeCommands::HighlightOwnersDogs() {
+    nodes_.ClearDogBackgrounds();
+    for (const Psi& dog : DogsOfOwner(Module().CurrentOwner, DogOrder::ByID)) {
+        // A dog of a breed that the tree doesn't show has no node.
+        TreeNode* node = nodes_.Find(NodeKey::Dog(dog.ID));
+        if (!node)
+            continue;
+        tree_.EnsureVisible(node);
+        nodes_.SetBackground(node, kHighlight);
+    }
+    tree_.SetSelectionBarShown(false);
+}
+
+void TreeCommands::ClearHighlight() {
+    nodes_.ClearDogBackgrounds();
+    tree_.SetSelectionBarShown(true);
+}
+
+void TreeCommands::AddDogToBreed(int breedID) {
+    if (edits_->MayAddDog())
+        OpenDogWindow(true, breedID);
+}
+
+void TreeCommands::AddDogToSelected() {
+    const TreeNode* node = tree_.SelectedNode();
+    if (node && node->IsDog())
+        node = node->parent->Kind() == NodeKind::Class ? node->parent->parent : node->parent;
+    if (!node || node->Kind() != NodeKind::Breed)
+        return edits_->Exclaim(QStringLiteral("Není vybráno plemeno, do kterého se má pes přidat"));
+    if (edits_->HasShowDateRow())
+        OpenDogWindow(true, node->Id());
+}
+
+void TreeCommands::EditDog(const TreeNode* dog) {
+    // The parent bears the breed's number, be it the breed or one of its classes.
+    if (dog->IsDog())
+        OpenDogWindow(false, dog->parent->Id());
+}
+
+void TreeCommands::OpenDogWindow(bool adding, int breedID) {
+    Module().IsAddingDog = adding;
+    Module().CurrentBreedID = breedID;
+    Open(QStringLiteral("fm_Dog"));
+}
+
+void TreeCommands::ShowSelected() {
+    if (const TreeNode* node = tree_.SelectedNode())
+        window_.ShowNodeInfo(node->Key());
+}
+
+} // namespace lorvo

@@ -1,0 +1,140 @@
+#include "mainwindow/tree_edits.h"
+
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "app/start_up.h"
+#include "mainwindow/tree_nodes.h"
+#include "platform/platform.h"
+#include "store/kruhy.h"
+#include "store/meny.h"
+#include "store/ostatni.h"
+#include "store/plemena.h"
+#include "store/psi.h"
+
+namespace lorvo {
+
+namespace {
+
+const QString kNoShowDate = QStringLiteral("Psa nelze přidat. Datum výstavy nebylo určeno");
+
+} // namespace
+
+bool TreeEdits::Remove(TreeNode* node) {
+    switch (node->Kind()) {
+    case NodeKind::UnassignedRoot:
+    case NodeKind::Ring:
+        return RemoveRing(node);
+    case NodeKind::Breed:
+        return RemoveBreed(node);
+    case NodeKind::Dog:
+        return RemoveDog(node);
+    case NodeKind::Class:
+        break;
+    }
+    return false;
+}
+
+bool TreeEdits::RemoveRing(TreeNode* ring) {
+    if (CountBreedsOfRing(ring->Id()) != 0) {
+        Stop(QStringLiteral("Tento kruh nelze odstranit, obsahuje položky"));
+        return false;
+    }
+    if (!Confirm(QStringLiteral("Určitě chcete odstranit kruh %1?").arg(ring->text)))
+        return false;
+    DeleteRing(ring->Id());
+    nodes_.Remove(ring);
+    return true;
+}
+
+bool TreeEdits::RemoveBreed(TreeNode* breed) {
+    if (CountDogsOfBreed(breed->Id()) != 0) {
+        Stop(QStringLiteral("Toto plemeno nelze odstranit"));
+        return false;
+    }
+    if (!Confirm(QStringLiteral("Určitě chcete odstranit plemeno %1?").arg(breed->text)))
+        return false;
+    DeleteBreed(breed->Id());
+    nodes_.Remove(breed);
+    return true;
+}
+
+bool TreeEdits::RemoveDog(TreeNode* dog) {
+    if (!Confirm(QStringLiteral("Určitě chcete ze seznamu odstranit psa %1?").arg(dog->text)))
+        return false;
+    DeleteDog(dog->Id());
+    nodes_.Remove(dog);
+    return true;
+}
+
+void TreeEdits::Rename(TreeNode* node, const QString& name) {
+    if (node->Kind() == NodeKind::Breed)
+        RenameBreed(node->Id(), name);
+    else if (node->Kind() == NodeKind::Ring)
+        RenameRing(node->Id(), name);
+    nodes_.SetText(node, name);
+}
+
+void TreeEdits::Drop(TreeNode* dragged, TreeNode* target) {
+    const bool onRing =
+        target->Kind() == NodeKind::Ring || target->Kind() == NodeKind::UnassignedRoot;
+    if (dragged->Kind() == NodeKind::Breed && onRing) {
+        nodes_.Move(dragged, target);
+        nodes_.SetBold(dragged, true);
+        MoveBreedToRing(dragged->Id(), target->Id());
+    } else if (dragged->IsDog() && target->Kind() == NodeKind::Breed) {
+        nodes_.Move(dragged, target);
+        MoveDogToBreed(dragged->Id(), target->Id());
+    }
+}
+
+void TreeEdits::SetFirstClosing(bool first) {
+    lorvo::SetFirstClosing(Module().CurrentDogID, first);
+}
+
+void TreeEdits::MakeFirstDog() {
+    ClearFirstDogs(Module().CurrentOwner);
+    MarkFirstDog(Module().CurrentDogID);
+}
+
+bool TreeEdits::MayAddDog() {
+    if (MainCurrencies().empty()) {
+        Exclaim(QStringLiteral("Psa nelze přidat. V seznamu měn není zadána hlavní měna"));
+        return false;
+    }
+    if (NumberOfFirstRow().value_or(0) > 0) {
+        Exclaim(QStringLiteral("Psa nelze přidat. Psi mají přiřazena čísla"));
+        return false;
+    }
+    EnsureShow();
+    // A date never given (Null) passes: only the value 0, which a cleared database holds, is none.
+    const std::optional<Ostatni> values = ShowWideValues();
+    if (!values || (values->DatumVystavy && values->DatumVystavy->IsZero())) {
+        Exclaim(kNoShowDate);
+        return false;
+    }
+    return true;
+}
+
+bool TreeEdits::HasShowDateRow() {
+    if (ShowWideValues())
+        return true;
+    Exclaim(kNoShowDate);
+    return false;
+}
+
+bool TreeEdits::Confirm(const QString& question) {
+    return ThePlatform().messages->Show(question, MessageIcon::Question,
+                                        MessageButtons::YesNoCancel,
+                                        window_.Caption()) == MessageAnswer::Yes;
+}
+
+void TreeEdits::Stop(const QString& text) {
+    ThePlatform().messages->Show(text, MessageIcon::Stop, MessageButtons::Ok, window_.Caption());
+}
+
+void TreeEdits::Exclaim(const QString& text) {
+    ThePlatform().messages->Show(text, MessageIcon::Exclamation, MessageButtons::Ok,
+                                 window_.Caption());
+}
+
+} // namespace lorvo

@@ -1,0 +1,173 @@
+#include "reports/export_window.h"
+
+#include "forms/controls.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+
+#include <QDir>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+
+constexpr const char* kTag = "tag";
+/// A stop request is seen within this time, however long a percent of the run takes.
+constexpr qint64 kEventInterval = 50;
+
+QString UnderWay() {
+    return QStringLiteral("jede");
+}
+
+} // namespace
+
+ExportWindow::ExportWindow(const ExportTraits& traits, QWidget* parent)
+    : Form(traits.name, traits.caption, Border::Fixed, parent),
+      cmdOK(Named(new QPushButton(traits.startCaption, this), QStringLiteral("cmdOK"))),
+      cmdCancel(Named(new QPushButton(traits.closeCaption, this), QStringLiteral("cmdCancel"))),
+      chkHTML(Named(new QCheckBox(QStringLiteral("HTML formát"), this), QStringLiteral("chkHTML"))),
+      traits_(traits) {
+    connect(cmdOK, &QPushButton::clicked, this, &ExportWindow::StartOrStop);
+    connect(cmdCancel, &QPushButton::clicked, this, &ExportWindow::reject);
+}
+
+void ExportWindow::LayOut(QWidget* options) {
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(options);
+    layout->addWidget(chkHTML);
+    layout->addStretch();
+    layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
+    setTabOrder(chkHTML, cmdOK);
+    setTabOrder(cmdOK, cmdCancel);
+}
+
+// The tag outlives a run, so in a window that stays open the first click after a run only clears
+// it, and the second one starts again.
+void ExportWindow::StartOrStop() {
+    const bool underWay = cmdOK->property(kTag).toString() == UnderWay();
+    if (!underWay && running_)
+        return; // stopped, but the run has not come to its end yet
+    cmdOK->setProperty(kTag, underWay ? QString() : UnderWay());
+    if (underWay)
+        Stop();
+    else
+        Start();
+}
+
+void ExportWindow::Stop() {
+    cmdOK->setText(QStringLiteral("Start"));
+    if (traits_.stopEnablesClosing)
+        cmdCancel->setEnabled(true);
+    Preruseno = true;
+}
+
+void ExportWindow::Start() {
+    const bool asTemplate = chkHTML->isChecked();
+    const QString captionBefore = windowTitle();
+    QString failure;
+    cmdOK->setText(QStringLiteral("Přerušit"));
+    cmdCancel->setEnabled(asTemplate && !traits_.templateDisablesClosing);
+    try {
+        Run(asTemplate);
+    } catch (const Error& error) {
+        failure = QString::fromUtf8(error.what());
+    }
+    setWindowTitle(failure.isEmpty() ? traits_.title : captionBefore);
+    cmdCancel->setEnabled(true);
+    cmdOK->setText(QStringLiteral("Start"));
+    if (!failure.isEmpty())
+        ShowFailure(failure);
+    else if (asTemplate ? traits_.closesAfterTemplate : traits_.closesAfterDocument)
+        closeAfterRun_ = true;
+    if (closeAfterRun_)
+        close();
+}
+
+void ExportWindow::Run(bool asTemplate) {
+    struct RunningFlag {
+        explicit RunningFlag(bool& value) : flag(value) { flag = true; }
+        ~RunningFlag() { flag = false; }
+        bool& flag;
+    };
+    const RunningFlag running(running_);
+    Preruseno = false;
+    shownPercent_ = -1;
+    sinceEvents_.start();
+    if (asTemplate)
+        RunTemplate();
+    else
+        RunDocument();
+}
+
+void ExportWindow::RunDocument() {
+    const WaitCursor wait(*ThePlatform().ui);
+    const auto word = ThePlatform().wordProcessors->Create();
+    TypeDocument(*word);
+    word->Show();
+}
+
+void ExportWindow::ShowFailure(const QString& reason) {
+    cmdOK->setProperty(kTag, QString());
+    ThePlatform().messages->Show(reason, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+}
+
+bool ExportWindow::Advance(int row, int rows) {
+    const int percent = static_cast<int>(qint64(row) * 100 / rows);
+    const bool newFigure = percent != shownPercent_;
+    if (newFigure)
+        setWindowTitle(traits_.title + traits_.progressText + QString::number(percent) + u'%');
+    shownPercent_ = percent;
+    if (newFigure || sinceEvents_.hasExpired(kEventInterval)) {
+        ThePlatform().ui->ProcessEvents();
+        sinceEvents_.restart();
+    }
+    return !Preruseno;
+}
+
+void ExportWindow::RunTemplate() {
+    if (traits_.templateFile.isEmpty())
+        return;
+    const ReportTemplate pattern =
+        ReportTemplate::Read(ProgramFile(traits_.templateFile), TemplateKind::Rows);
+    if (!CheckTemplate(pattern))
+        return;
+    QByteArray output = pattern.Top();
+    AppendRows(output, pattern);
+    output += pattern.Bottom();
+    WriteAndOpen(output);
+}
+
+void ExportWindow::AppendRows(QByteArray&, const ReportTemplate&) {}
+
+bool ExportWindow::CheckTemplate(const ReportTemplate& pattern) const {
+    const ReportTemplate::Fault fault = pattern.Check();
+    if (fault == ReportTemplate::Fault::None)
+        return true;
+    ThePlatform().messages->Show(
+        fault == ReportTemplate::Fault::MarkerMissing
+            ? QStringLiteral("Šablona poškozena, položka nebyla nalezena.")
+            : QStringLiteral("Šablona poškozena, nesouhlasí pořadí položek."),
+        MessageIcon::None, MessageButtons::Ok, QStringLiteral("Lorvo"));
+    return false;
+}
+
+QString ExportWindow::ProgramFile(const QString& name) {
+    return QDir(ThePlatform().programFolder).filePath(name);
+}
+
+void ExportWindow::WriteAndOpen(const QByteArray& output) const {
+    const QString path = ProgramFile(traits_.outputFile);
+    ThePlatform().ui->ProcessEvents();
+    WriteReportOutput(path, output);
+    ThePlatform().opener->OpenFile(path);
+}
+
+bool ExportWindow::QueryUnload() {
+    if (running_) {
+        Preruseno = true;
+        closeAfterRun_ = true;
+    }
+    return !running_;
+}
+
+} // namespace lorvo

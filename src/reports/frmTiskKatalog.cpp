@@ -1,0 +1,38 @@
+#include "reports/frmTiskKatalog.h"
+
+#include "forms/controls.h"
+#include "reports/catalogue.h"
+
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+
+ExportTraits CatalogueTraits() {
+    return {
+        .name = "frmTiskKatalog",
+        .caption = QStringLiteral("Tisk katalogu"),
+        .title = QStringLiteral("Tisk katalogu"),
+        .startCaption = QStringLiteral("Tisk"),
+        .closeCaption = QStringLiteral("Storno"),
+    };
+}
+
+} // namespace
+
+frmTiskKatalog::frmTiskKatalog(QWidget* parent) : ExportWindow(CatalogueTraits(), parent) {
+    auto* options = new QGroupBox(QStringLiteral("Volby"), this);
+    chkEX = Named(new QCheckBox(QStringLiteral("Generovat povýstavní katalog"), options),
+                  QStringLiteral("chkEX"));
+    (new QVBoxLayout(options))->addWidget(chkEX);
+    LayOut(options);
+    chkHTML->setChecked(false);
+    chkHTML->setEnabled(false);
+}
+
+void frmTiskKatalog::TypeDocument(WordProcessor& word) {
+    TypeCatalogue(word, chkEX->isChecked());
+}
+
+} // namespace lorvo

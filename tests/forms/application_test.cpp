@@ -1,0 +1,45 @@
+#include "forms/application.h"
+
+#include "platform/values/errors.h"
+#include "support/recording_platform.h"
+
+#include <QFont>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+Application& TheApplication() {
+    return static_cast<Application&>(*qApp);
+}
+
+TEST(ApplicationTest, AFailureOfTheStartIsShownAndEndsWithCodeOne) {
+    test::RecordingPlatform platform;
+    platform.ExpectMessage(QStringLiteral("Soubor data.mdb chybí."), MessageAnswer::Ok,
+                           MessageIcon::Stop, MessageButtons::Ok, QStringLiteral("Lorvo"));
+    EXPECT_EQ(TheApplication().Run([] { throw StoreError("Soubor data.mdb chybí."); }), 1);
+}
+
+TEST(ApplicationTest, AFailureOfAHandlerEndsTheLoopAndIsShownOnce) {
+    test::RecordingPlatform platform;
+    platform.ExpectMessage(QStringLiteral("Disk je plný."));
+    EXPECT_EQ(TheApplication().Run(
+                  [] { QTimer::singleShot(0, qApp, [] { throw StoreError("Disk je plný."); }); }),
+              1);
+    EXPECT_NO_THROW(Application::RethrowFailure());
+}
+
+TEST(ApplicationTest, AnUneventfulRunEndsWithItsOwnCode) {
+    test::RecordingPlatform platform;
+    EXPECT_EQ(TheApplication().Run(
+                  [] { QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); }); }),
+              0);
+}
+
+TEST(ApplicationTest, TahomaIsShownByAFontThatHasCzechLetters) {
+    EXPECT_FALSE(QFont::substitutes(QStringLiteral("Tahoma")).isEmpty());
+}
+
+} // namespace
+} // namespace lorvo

@@ -1,0 +1,123 @@
+#include "forms/controls.h"
+
+#include "platform/values/date_value.h"
+#include "support/recording_platform.h"
+#include "support/window_walk.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QSvgRenderer>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest-spi.h>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+TEST(NumberStyleTest, RefusesTypedNonDigitsAndTakesPastedText) {
+    QLineEdit box;
+    SetNumberStyle(box);
+    QTest::keyClicks(&box, QStringLiteral("1a2,3-"));
+    EXPECT_EQ(box.text(), QStringLiteral("123"));
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), QStringLiteral("12abc"));
+}
+
+TEST(NumberStyleTest, RefusesNonDigitsOfAnInputMethod) {
+    QLineEdit box;
+    SetNumberStyle(box);
+    QInputMethodEvent letter;
+    letter.setCommitString(QStringLiteral("é"));
+    QApplication::sendEvent(&box, &letter);
+    EXPECT_EQ(box.text(), QString());
+}
+
+TEST(LinkLabelTest, UnderlinesUnderTheMouseAndActsOnClicksAndKeys) {
+    LinkLabel link(QStringLiteral("Upravit"), nullptr);
+    QSignalSpy clicks(&link, &LinkLabel::Clicked);
+    link.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&link));
+    QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
+    QApplication::sendEvent(&link, &enter);
+    EXPECT_TRUE(link.font().underline());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&link, &leave);
+    EXPECT_FALSE(link.font().underline());
+    QTest::mouseClick(&link, Qt::LeftButton);
+    QTest::mouseClick(&link, Qt::RightButton);
+    QTest::keyClick(&link, Qt::Key_Return);
+    ASSERT_EQ(clicks.count(), 3);
+    EXPECT_EQ(clicks[1][0].value<Qt::MouseButton>(), Qt::RightButton);
+}
+
+TEST(DatePickerTest, ShowsTheSystemsShortDateAndKeepsDates) {
+    test::RecordingPlatform platform;
+    const std::unique_ptr<QDateEdit> picker(DatePicker(QStringLiteral("dtBorn"), nullptr));
+    SetPickedDate(*picker, DateValue::FromCalendar(2005, 5, 4));
+    EXPECT_EQ(picker->text(), QStringLiteral("4.5.2005"));
+    EXPECT_EQ(PickedDate(*picker), DateValue::FromCalendar(2005, 5, 4));
+    EXPECT_EQ(picker->minimumDate(), QDate(1601, 1, 1));
+    EXPECT_EQ(picker->maximumDate(), QDate(9999, 12, 31));
+    EXPECT_TRUE(picker->calendarPopup());
+}
+
+TEST(ProgramIconTest, EveryPictureOfTheFamilyIsAValidDrawing) {
+    ASSERT_FALSE(ProgramIcon(QStringLiteral("dog")).isNull());
+    const QDir folder(QStringLiteral(":/lorvo/icons"));
+    const QStringList pictures = folder.entryList();
+    EXPECT_GE(pictures.size(), 30);
+    for (const QString& picture : pictures)
+        EXPECT_TRUE(QSvgRenderer(folder.filePath(picture)).isValid()) << qPrintable(picture);
+    EXPECT_FALSE(ProgramIcon(QStringLiteral("dog")).pixmap(16, 16).isNull());
+}
+
+/// A window that holds what the walk asks for.
+class TidyWindow : public QWidget {
+  public:
+    TidyWindow() {
+        setObjectName(QStringLiteral("frmTidy"));
+        auto* layout = new QFormLayout(this);
+        layout->addRow(CaptionFor(txtName, QStringLiteral("Jméno"), this), txtName);
+        layout->addRow(CaptionFor(txtTown, QStringLiteral("Město"), this), txtTown);
+        layout->addRow(ButtonRow({cmdOK, cmdCancel}));
+    }
+
+    QLineEdit* txtName = Named(new QLineEdit(this), QStringLiteral("txtName"));
+    QLineEdit* txtTown = Named(new QLineEdit(this), QStringLiteral("txtTown"));
+    QPushButton* cmdOK =
+        Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+    QPushButton* cmdCancel =
+        Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"));
+};
+
+TEST(WindowWalkTest, PassesATidyWindow) {
+    TidyWindow window;
+    test::WalkWindow(window);
+    EXPECT_TRUE(window.cmdOK->isDefault());
+    EXPECT_FALSE(window.cmdCancel->autoDefault());
+}
+
+TEST(WindowWalkTest, NoticesWhatIsWrong) {
+    TidyWindow unnamed;
+    unnamed.cmdOK->setObjectName({});
+    EXPECT_NONFATAL_FAILURE(test::WalkWindow(unnamed), "has no name");
+    TidyWindow uncaptioned;
+    uncaptioned.findChild<QLabel*>()->setBuddy(nullptr);
+    EXPECT_NONFATAL_FAILURE(test::WalkWindow(uncaptioned), "has no caption");
+    TidyWindow cut;
+    cut.findChild<QLabel*>()->setFixedWidth(10);
+    EXPECT_NONFATAL_FAILURE(test::WalkWindow(cut), "is cut");
+    TidyWindow disordered;
+    QWidget::setTabOrder(disordered.cmdOK, disordered.cmdCancel);
+    QWidget::setTabOrder(disordered.txtTown, disordered.txtName);
+    QWidget::setTabOrder(disordered.txtName, disordered.cmdOK);
+    EXPECT_NONFATAL_FAILURE(test::WalkWindow(disordered), "Tab goes from");
+}
+
+} // namespace
+} // namespace lorvo

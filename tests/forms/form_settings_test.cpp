@@ -1,0 +1,146 @@
+#include "forms/form_settings.h"
+
+#include "forms/report_list.h"
+#include "support/recording_platform.h"
+
+#include <QDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+/// A window of 300 x 200 with a list of three columns, 100 wide each.
+class WindowWithList : public QDialog {
+  public:
+    WindowWithList() {
+        setObjectName(QStringLiteral("fm_Test"));
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(new QLabel(QStringLiteral("Popis"), this));
+        layout->addWidget(lvwDogs);
+        lvwDogs->SetColumnWidths({100, 100, 100});
+        resize(300, 200);
+        move(40, 50);
+    }
+
+    ReportList* lvwDogs = new ReportList(
+        "lvwDogs", {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}, this);
+};
+
+class FormSettingsTest : public ::testing::Test {
+  protected:
+    void Store(const char* key, const char* text) {
+        platform.settings[QString::fromUtf8(key)] = QString::fromUtf8(text);
+    }
+    QString Stored(const char* key) { return platform.settings[QString::fromUtf8(key)]; }
+
+    test::RecordingPlatform platform;
+    WindowWithList window;
+};
+
+TEST_F(FormSettingsTest, AFreshMachineKeepsTheDesign) {
+    LoadFormSettings(window, false);
+    EXPECT_EQ(window.geometry(), QRect(40, 50, 300, 200));
+    EXPECT_EQ(window.windowState(), Qt::WindowNoState);
+    EXPECT_EQ(window.lvwDogs->columnWidth(0), 100);
+    EXPECT_FALSE(window.lvwDogs->GridLines());
+}
+
+TEST_F(FormSettingsTest, SetsTheFontOfAllControls) {
+    LoadFormSettings(window, false);
+    EXPECT_EQ(window.font().family(), QStringLiteral("Tahoma"));
+    EXPECT_EQ(window.findChild<QLabel*>()->font().family(), QStringLiteral("Tahoma"));
+}
+
+TEST_F(FormSettingsTest, RestoresPositionAndSize) {
+    Store("Form Positions\\fm_Test\\Top", "120");
+    Store("Form Positions\\fm_Test\\Left", "130");
+    Store("Form Positions\\fm_Test\\Height", "410");
+    Store("Form Positions\\fm_Test\\Width", "520,4");
+    LoadFormSettings(window, false);
+    EXPECT_EQ(window.geometry(), QRect(130, 120, 520, 410));
+}
+
+TEST_F(FormSettingsTest, AFixedBorderKeepsTheDesignedSize) {
+    Store("Form Positions\\fm_Test\\Top", "120");
+    Store("Form Positions\\fm_Test\\Left", "130");
+    Store("Form Positions\\fm_Test\\Height", "410");
+    Store("Form Positions\\fm_Test\\Width", "520");
+    LoadFormSettings(window, true);
+    EXPECT_EQ(window.geometry(), QRect(130, 120, 300, 200));
+}
+
+TEST_F(FormSettingsTest, TextsThatAreNoNumbersAndPlacesAtTheEdgeKeepTheDesign) {
+    Store("Form Positions\\fm_Test\\Top", "nahoře");
+    Store("Form Positions\\fm_Test\\Left", "0");
+    Store("Form Positions\\fm_Test\\Height", "-5");
+    Store("Form Positions\\fm_Test\\WindowState", "0");
+    LoadFormSettings(window, false);
+    EXPECT_EQ(window.geometry(), QRect(40, 50, 300, 200));
+}
+
+TEST_F(FormSettingsTest, RestoresTheMaximisedState) {
+    Store("Form Positions\\fm_Test\\WindowState", "2");
+    LoadFormSettings(window, false);
+    EXPECT_TRUE(window.isMaximized());
+}
+
+TEST_F(FormSettingsTest, RestoresWidthsAndPositionsOfColumns) {
+    Store("ColWidths\\fm_Test\\lvwDogs\\ColWidth 2", "77");
+    Store("ColWidths\\fm_Test\\lvwDogs\\ColWidth 3", "široký");
+    Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 1", "2");
+    Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 2", "3");
+    Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 3", "1");
+    LoadFormSettings(window, false);
+    const QHeaderView& header = *window.lvwDogs->header();
+    EXPECT_EQ(header.sectionSize(1), 77);
+    EXPECT_EQ(header.sectionSize(2), 100);
+    EXPECT_EQ(header.visualIndex(0), 1);
+    EXPECT_EQ(header.visualIndex(1), 2);
+    EXPECT_EQ(header.visualIndex(2), 0);
+    EXPECT_TRUE(header.sectionsMovable());
+}
+
+TEST_F(FormSettingsTest, AColumnThatNoLongerExistsHasNoEffect) {
+    Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 4", "1");
+    Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 1", "9");
+    LoadFormSettings(window, false);
+    EXPECT_EQ(window.lvwDogs->header()->visualIndex(0), 0);
+}
+
+TEST_F(FormSettingsTest, GridLinesAreSwitchedOnAndNeverOff) {
+    window.lvwDogs->SetGridLines(true);
+    Store("Sys\\ShowGrid", "0");
+    LoadFormSettings(window, false);
+    EXPECT_TRUE(window.lvwDogs->GridLines());
+    window.lvwDogs->SetGridLines(false);
+    Store("Sys\\ShowGrid", "1");
+    LoadFormSettings(window, false);
+    EXPECT_TRUE(window.lvwDogs->GridLines());
+}
+
+TEST_F(FormSettingsTest, StoresWhatItReads) {
+    window.lvwDogs->header()->moveSection(0, 2);
+    SaveFormSettings(window);
+    EXPECT_EQ(Stored("ColWidths\\fm_Test\\lvwDogs\\ColWidth 1"), QStringLiteral("100"));
+    EXPECT_EQ(Stored("ColPos\\fm_Test\\lvwDogs\\ColPosition 1"), QStringLiteral("3"));
+    EXPECT_EQ(Stored("ColPos\\fm_Test\\lvwDogs\\ColPosition 2"), QStringLiteral("1"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\WindowState"), QStringLiteral("0"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Top"), QStringLiteral("50"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Left"), QStringLiteral("40"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Height"), QStringLiteral("200"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Width"), QStringLiteral("300"));
+}
+
+TEST_F(FormSettingsTest, AMaximisedWindowKeepsTheNormalSizeItHadLast) {
+    Store("Form Positions\\fm_Test\\Height", "410");
+    window.setWindowState(Qt::WindowMaximized);
+    SaveFormSettings(window);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\WindowState"), QStringLiteral("2"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Height"), QStringLiteral("410"));
+}
+
+} // namespace
+} // namespace lorvo

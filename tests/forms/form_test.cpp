@@ -1,0 +1,151 @@
+#include "forms/form.h"
+
+#include "forms/application.h"
+#include "forms/controls.h"
+#include "platform/values/errors.h"
+#include "support/modal_driver.h"
+#include "support/recording_platform.h"
+
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace lorvo {
+namespace {
+
+using test::WhileOpen;
+
+class StepsForm : public Form {
+  public:
+    explicit StepsForm(QStringList& steps, const char* name = "fm_Steps")
+        : Form(name, QStringLiteral("Kroky"), Border::Sizable, nullptr), steps_(steps) {
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(
+            Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK")));
+        connect(findChild<QPushButton*>(), &QPushButton::clicked, this, &QDialog::accept);
+    }
+
+    void Activated() override { steps_ << objectName() + QStringLiteral(" activated"); }
+    void Load() override {
+        steps_ << objectName() + QStringLiteral(" load");
+        if (onLoad)
+            onLoad();
+    }
+    bool QueryUnload() override {
+        steps_ << objectName() + QStringLiteral(" unload");
+        return mayClose;
+    }
+
+    std::function<void()> onLoad;
+    bool mayClose = true;
+
+  private:
+    QStringList& steps_;
+};
+
+class MainStandIn : public Activatable {
+  public:
+    explicit MainStandIn(QStringList& steps) : steps_(steps) { SetActivatedBelow(this); }
+    ~MainStandIn() override { SetActivatedBelow(nullptr); }
+    void Activate() override { steps_ << QStringLiteral("main activated"); }
+
+  private:
+    QStringList& steps_;
+};
+
+class FormTest : public ::testing::Test {
+  protected:
+    test::RecordingPlatform platform;
+    QStringList steps;
+    MainStandIn mainWindow{steps};
+    const QStringList oneRun = {
+        QStringLiteral("fm_Steps load"), QStringLiteral("fm_Steps activated"),
+        QStringLiteral("fm_Steps unload"), QStringLiteral("main activated")};
+};
+
+TEST_F(FormTest, LoadsOnceAndTellsTheMainWindowOnceWhenAButtonClosesIt) {
+    StepsForm form(steps);
+    WhileOpen([&] { OpenModal(form); },
+              [](QWidget& window) { window.findChild<QPushButton*>()->click(); });
+    EXPECT_EQ(steps, oneRun);
+    EXPECT_FALSE(IsModalOpen());
+}
+
+TEST_F(FormTest, TheCloseBoxIsARoadLikeAnyOther) {
+    StepsForm form(steps);
+    WhileOpen([&] { OpenModal(form); }, [](QWidget& window) { window.close(); });
+    EXPECT_EQ(steps, oneRun);
+}
+
+TEST_F(FormTest, EscIsARoadLikeAnyOther) {
+    StepsForm form(steps);
+    WhileOpen([&] { OpenModal(form); },
+              [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+    EXPECT_EQ(steps, oneRun);
+}
+
+TEST_F(FormTest, StaysOpenWhileItMayNotClose) {
+    StepsForm form(steps);
+    form.mayClose = false;
+    WhileOpen([&] { OpenModal(form); },
+              [&](QWidget& window) {
+                  window.close();
+                  EXPECT_TRUE(window.isVisible());
+                  EXPECT_TRUE(platform.settings.empty());
+                  form.mayClose = true;
+              });
+    EXPECT_FALSE(platform.settings.empty());
+}
+
+TEST_F(FormTest, TheWindowBelowIsToldAndNotTheMainWindow) {
+    StepsForm below(steps);
+    StepsForm above(steps, "fm_Above");
+    WhileOpen([&] { OpenModal(below); },
+              [&](QWidget&) {
+                  steps.clear();
+                  WhileOpen([&] { OpenModal(above); }, [](QWidget& window) { window.close(); });
+                  EXPECT_EQ(steps.mid(3), QStringList(QStringLiteral("fm_Steps activated")));
+                  EXPECT_TRUE(IsModalOpen());
+              });
+    EXPECT_EQ(steps.last(), QStringLiteral("main activated"));
+}
+
+TEST_F(FormTest, AFailureWhileLoadingLeavesNoWindowOpen) {
+    StepsForm form(steps);
+    form.onLoad = [] {
+        throw StoreError("broken");
+    };
+    EXPECT_THROW(OpenModal(form), StoreError);
+    EXPECT_FALSE(IsModalOpen());
+    EXPECT_EQ(steps, QStringList(QStringLiteral("fm_Steps load")));
+}
+
+TEST_F(FormTest, AFailureInAHandlerGoesUpThroughEveryOpenWindow) {
+    StepsForm below(steps);
+    StepsForm above(steps, "fm_Above");
+    above.disconnect(above.findChild<QPushButton*>());
+    QObject::connect(above.findChild<QPushButton*>(), &QPushButton::clicked, &above,
+                     [] { throw StoreError("broken"); });
+    below.onLoad = [&] {
+        QMetaObject::invokeMethod(
+            &below, [&] { OpenModal(above); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            &above, [&] { QTest::mouseClick(above.findChild<QPushButton*>(), Qt::LeftButton); },
+            Qt::QueuedConnection);
+    };
+    platform.ExpectMessage(QStringLiteral("broken"));
+    EXPECT_EQ(static_cast<Application*>(qApp)->Run([&] { OpenModal(below); }), 1);
+    EXPECT_FALSE(IsModalOpen());
+    EXPECT_FALSE(below.isVisible());
+    EXPECT_FALSE(above.isVisible());
+    EXPECT_FALSE(steps.contains(QStringLiteral("main activated")));
+}
+
+TEST_F(FormTest, AWindowMayBeOpenedAgain) {
+    StepsForm form(steps);
+    WhileOpen([&] { OpenModal(form); }, [](QWidget& window) { window.close(); });
+    WhileOpen([&] { OpenModal(form); }, [](QWidget& window) { window.close(); });
+    EXPECT_EQ(steps, oneRun + oneRun);
+}
+
+} // namespace
+} // namespace lorvo

@@ -1,0 +1,113 @@
+#include "forms/report_list.h"
+
+#include <QHeaderView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+class SortingTest : public ::testing::Test {
+  protected:
+    ReportList list{"lvwTest", {QStringLiteral("Jméno"), QStringLiteral("Číslo")}, nullptr};
+
+    void Fill(const std::vector<std::pair<const char*, const char*>>& cells) {
+        std::vector<ReportRow> rows;
+        for (const auto& [name, number] : cells)
+            rows.push_back(RowOf(name, number));
+        list.SetRows(std::move(rows));
+    }
+    static ReportRow RowOf(const char* name, const char* number) {
+        ReportRow row;
+        row.key = QString::fromUtf8(number);
+        row.cells = {{QString::fromUtf8(name), {}, -1}, {QString::fromUtf8(number), {}, -1}};
+        return row;
+    }
+    QString Column(int column) {
+        QStringList texts;
+        for (int position = 0; position < list.RowCount(); ++position)
+            texts << list.CellText(position, column);
+        return texts.join(u' ');
+    }
+};
+
+TEST_F(SortingTest, TheFirstClickSortsDescendingAndTheListToggles) {
+    Fill({{"b", "1"}, {"c", "2"}, {"a", "3"}});
+    EXPECT_EQ(list.PictureOf(0), HeaderPicture::None);
+    SortListColumn(list, 0);
+    EXPECT_EQ(Column(0), QStringLiteral("c b a"));
+    EXPECT_EQ(list.PictureOf(0), HeaderPicture::Descending);
+    EXPECT_EQ(list.PictureOf(1), HeaderPicture::Neutral);
+    // The direction is the list's, so that another column goes on from it.
+    SortListColumn(list, 1);
+    EXPECT_EQ(Column(1), QStringLiteral("1 2 3"));
+    EXPECT_EQ(list.PictureOf(1), HeaderPicture::Ascending);
+    EXPECT_EQ(list.PictureOf(0), HeaderPicture::Neutral);
+}
+
+TEST_F(SortingTest, NumbersSortAsTexts) {
+    Fill({{"x", "9"}, {"x", "100"}, {"x", "10"}});
+    SortListColumn(list, 1);
+    SortListColumn(list, 1);
+    EXPECT_EQ(Column(1), QStringLiteral("10 100 9"));
+}
+
+TEST_F(SortingTest, CzechOrderWithoutRegardToLetterCase) {
+    Fill({{"Žofka", ""},
+          {"chrt", ""},
+          {"Cit", ""},
+          {"hafan", ""},
+          {"ibizan", ""},
+          {"Čert", ""},
+          {"áron", ""},
+          {"Šarik", ""},
+          {"Sam", ""},
+          {"azor", ""},
+          {"Řek", ""},
+          {"Rex", ""}});
+    SortListColumn(list, 0);
+    SortListColumn(list, 0);
+    EXPECT_EQ(Column(0), QStringLiteral("áron azor Cit Čert hafan chrt ibizan Rex Řek Sam Šarik "
+                                        "Žofka"));
+}
+
+TEST_F(SortingTest, RowsOfEqualTextKeepTheirOrderEitherWay) {
+    Fill({{"Rex", "1"}, {"rex", "2"}, {"REX", "3"}, {"Alík", "4"}});
+    SortListColumn(list, 0);
+    EXPECT_EQ(Column(1), QStringLiteral("1 2 3 4"));
+    SortListColumn(list, 0);
+    EXPECT_EQ(Column(1), QStringLiteral("4 1 2 3"));
+}
+
+TEST_F(SortingTest, TheSelectionStaysWithItsRow) {
+    Fill({{"a", "1"}, {"b", "2"}, {"c", "3"}});
+    list.SelectRow(0);
+    SortListColumn(list, 0);
+    EXPECT_EQ(list.SelectedRow(), 2);
+}
+
+TEST_F(SortingTest, RowsThatComeLaterFindTheirPlaceAndChangedOnesStay) {
+    Fill({{"a", "1"}, {"c", "2"}});
+    SortListColumn(list, 0);
+    EXPECT_EQ(list.AddRow(RowOf("b", "3")), 1);
+    list.SetCell(0, 0, QStringLiteral("0"));
+    EXPECT_EQ(Column(0), QStringLiteral("0 b a"));
+    Fill({{"a", "1"}, {"c", "2"}, {"b", "3"}});
+    EXPECT_EQ(Column(0), QStringLiteral("c b a"));
+}
+
+TEST_F(SortingTest, AClickOnAHeadingSortsWhereAllowed) {
+    Fill({{"a", "1"}, {"b", "2"}});
+    list.resize(400, 200);
+    list.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    QWidget* header = list.header()->viewport();
+    QTest::mouseClick(header, Qt::LeftButton, {}, {20, 8});
+    EXPECT_EQ(Column(0), QStringLiteral("a b"));
+    list.SetSorting(true);
+    QTest::mouseClick(header, Qt::LeftButton, {}, {20, 8});
+    EXPECT_EQ(Column(0), QStringLiteral("b a"));
+}
+
+} // namespace
+} // namespace lorvo

@@ -1,0 +1,298 @@
+// The frame of all export windows, on a window with little of its own.
+
+#include "platform/values/errors.h"
+#include "reports/export_window.h"
+#include "support/recording_platform.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace lorvo::test {
+
+namespace {
+
+ExportTraits SampleTraits() {
+    return {
+        .name = "frmSample",
+        .caption = QStringLiteral("Export"),
+        .title = QStringLiteral("Export vzorků"),
+        .startCaption = QStringLiteral("Tisk"),
+        .closeCaption = QStringLiteral("Storno"),
+        .templateFile = QStringLiteral("Vzorek.html"),
+        .outputFile = QStringLiteral("Výstup.html"),
+    };
+}
+
+/// Types and fills five rows.
+class frmSample : public ExportWindow {
+  public:
+    explicit frmSample(const ExportTraits& traits = SampleTraits())
+        : ExportWindow(traits, nullptr) {
+        LayOut(new QLabel(QStringLiteral("(žádné volby)"), this));
+    }
+
+    QString Tag() const { return cmdOK->property("tag").toString(); }
+    void ClickStart() { QTest::mouseClick(cmdOK, Qt::LeftButton); }
+    void ClickClose() { QTest::mouseClick(cmdCancel, Qt::LeftButton); }
+    using ExportWindow::chkHTML;
+    using ExportWindow::cmdCancel;
+    using ExportWindow::cmdOK;
+
+    std::function<void(int row)> onRow; ///< runs before the row's progress is shown
+    int rowsDone = 0;
+
+  protected:
+    void TypeDocument(WordProcessor& word) override {
+        Walk([&](int row) { word.TypeText(QString::number(row)); });
+    }
+    void AppendRows(QByteArray& output, const ReportTemplate& pattern) override {
+        Walk([&](int) { output += pattern.Body(); });
+    }
+
+  private:
+    void Walk(const std::function<void(int)>& take) {
+        for (int row = 1; row <= 5; ++row) {
+            if (onRow)
+                onRow(row);
+            if (!Advance(row, 5))
+                return;
+            take(row);
+            ++rowsDone;
+        }
+    }
+};
+
+class ExportWindowFrame : public testing::Test {
+  protected:
+    void WriteTemplate(const QByteArray& text) const {
+        QFile file(platform.ProgramFolder() + u"/Vzorek.html"_qs);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    QByteArray Output() const {
+        QFile file(platform.ProgramFolder() + u"/Výstup.html"_qs);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
+    }
+
+    RecordingPlatform platform;
+};
+
+constexpr const char* kTemplate =
+    "a note__top__<t>__top_end__between__body__<b>__body_end____bottom__<z>__bottom_end__behind";
+
+} // namespace
+
+TEST_F(ExportWindowFrame, OpensForTheDocumentRoute) {
+    frmSample window;
+    EXPECT_EQ(window.windowTitle(), u"Export");
+    EXPECT_EQ(window.cmdOK->text(), u"Tisk");
+    EXPECT_EQ(window.cmdCancel->text(), u"Storno");
+    EXPECT_EQ(window.chkHTML->text(), u"HTML formát");
+    EXPECT_FALSE(window.chkHTML->isChecked());
+    EXPECT_EQ(window.Tag(), u"");
+}
+
+TEST_F(ExportWindowFrame, ADocumentRunTypesUnderTheWaitCursorAndShowsTheDocument) {
+    frmSample window;
+    window.show();
+    QStringList captions;
+    window.onRow = [&](int) {
+        captions << window.windowTitle();
+        EXPECT_EQ(platform.waitCursorDepth, 1);
+        EXPECT_EQ(window.cmdOK->text(), u"Přerušit");
+        EXPECT_FALSE(window.cmdCancel->isEnabled());
+        EXPECT_EQ(window.Tag(), u"jede");
+    };
+    window.ClickStart();
+    EXPECT_EQ(captions.mid(1), QStringList({u"Export vzorků - Generuji výpis - 20%"_qs,
+                                            u"Export vzorků - Generuji výpis - 40%"_qs,
+                                            u"Export vzorků - Generuji výpis - 60%"_qs,
+                                            u"Export vzorků - Generuji výpis - 80%"_qs}));
+    EXPECT_EQ(platform.shownDocuments, 1);
+    EXPECT_EQ(platform.wordOperations.last(), u"Show");
+    EXPECT_EQ(platform.waitCursorDepth, 0);
+    EXPECT_EQ(window.cmdOK->text(), u"Start");
+    EXPECT_TRUE(window.cmdCancel->isEnabled());
+    EXPECT_EQ(window.windowTitle(), u"Export vzorků");
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(ExportWindowFrame, AfterARunTheFirstClickDoesNothingAndTheSecondStarts) {
+    frmSample window;
+    window.show();
+    window.ClickStart();
+    EXPECT_EQ(window.Tag(), u"jede");
+    window.ClickStart();
+    EXPECT_EQ(window.Tag(), u"");
+    EXPECT_EQ(window.cmdOK->text(), u"Start");
+    EXPECT_EQ(platform.shownDocuments, 1);
+    window.ClickStart();
+    EXPECT_EQ(platform.shownDocuments, 2);
+}
+
+TEST_F(ExportWindowFrame, AStopRequestLeavesTheRowsAndShowsWhatStands) {
+    frmSample window;
+    window.show();
+    window.onRow = [&](int row) {
+        if (row == 3) {
+            platform.onProcessEvents = [&] {
+                platform.onProcessEvents = nullptr;
+                window.ClickStart();
+                EXPECT_EQ(window.cmdOK->text(), u"Start");
+                EXPECT_TRUE(window.cmdCancel->isEnabled());
+                window.ClickStart(); // no second run inside the first
+                EXPECT_EQ(window.Tag(), u"");
+            };
+        }
+    };
+    window.ClickStart();
+    EXPECT_EQ(window.rowsDone, 2);
+    EXPECT_EQ(platform.shownDocuments, 1);
+    window.ClickStart();
+    EXPECT_EQ(platform.shownDocuments, 2) << "a stopped run is started again by one click";
+}
+
+TEST_F(ExportWindowFrame, AStopRequestMayLeaveTheCloseButtonAlone) {
+    ExportTraits traits = SampleTraits();
+    traits.stopEnablesClosing = false;
+    frmSample window(traits);
+    window.show();
+    platform.onProcessEvents = [&] {
+        platform.onProcessEvents = nullptr;
+        window.ClickStart();
+        EXPECT_FALSE(window.cmdCancel->isEnabled());
+    };
+    window.ClickStart();
+    EXPECT_TRUE(window.cmdCancel->isEnabled());
+}
+
+TEST_F(ExportWindowFrame, ATemplateRunMayLeaveTheCloseButtonEnabled) {
+    WriteTemplate(kTemplate);
+    ExportTraits traits = SampleTraits();
+    traits.templateDisablesClosing = false;
+    frmSample window(traits);
+    window.show();
+    window.onRow = [&](int) {
+        EXPECT_TRUE(window.cmdCancel->isEnabled());
+    };
+    window.chkHTML->setChecked(true);
+    window.ClickStart();
+    window.chkHTML->setChecked(false);
+    window.ClickStart();
+    window.onRow = [&](int) {
+        EXPECT_FALSE(window.cmdCancel->isEnabled());
+    };
+    window.ClickStart();
+    EXPECT_EQ(window.rowsDone, 10);
+}
+
+TEST_F(ExportWindowFrame, ClosesAfterTheRouteThatIsToldTo) {
+    WriteTemplate(kTemplate);
+    for (const bool asTemplate : {false, true}) {
+        ExportTraits traits = SampleTraits();
+        (asTemplate ? traits.closesAfterTemplate : traits.closesAfterDocument) = true;
+        for (const bool run : {false, true}) {
+            frmSample window(traits);
+            window.show();
+            window.chkHTML->setChecked(run);
+            window.ClickStart();
+            EXPECT_EQ(window.isVisible(), run != asTemplate);
+        }
+    }
+}
+
+TEST_F(ExportWindowFrame, AWindowClosedDuringARunGoesWhenTheRunHasEnded) {
+    frmSample window;
+    window.show();
+    platform.onProcessEvents = [&] {
+        platform.onProcessEvents = nullptr;
+        window.close();
+        EXPECT_TRUE(window.isVisible());
+    };
+    window.ClickStart();
+    EXPECT_EQ(window.rowsDone, 0);
+    EXPECT_EQ(platform.shownDocuments, 1);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(ExportWindowFrame, TheCloseButtonCloses) {
+    frmSample window;
+    window.show();
+    window.ClickClose();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(platform.wordOperations.isEmpty());
+}
+
+TEST_F(ExportWindowFrame, AFailedRunEndsWithAMessageAndTheWindowAsItWas) {
+    frmSample window;
+    window.show();
+    window.onRow = [](int) {
+        throw StoreError("Tabulku nelze číst.");
+    };
+    platform.ExpectMessage(u"Tabulku nelze číst."_qs, MessageAnswer::Ok, MessageIcon::Stop,
+                           MessageButtons::Ok, u"Export"_qs);
+    window.ClickStart();
+    EXPECT_EQ(platform.shownDocuments, 0);
+    EXPECT_EQ(platform.waitCursorDepth, 0);
+    EXPECT_EQ(window.windowTitle(), u"Export");
+    EXPECT_TRUE(window.cmdCancel->isEnabled());
+    EXPECT_TRUE(window.isVisible());
+    window.onRow = nullptr;
+    window.ClickStart();
+    EXPECT_EQ(platform.shownDocuments, 1);
+}
+
+TEST_F(ExportWindowFrame, ATemplateRunPutsTheSectionsTogetherAndOpensTheOutput) {
+    WriteTemplate(kTemplate);
+    frmSample window;
+    window.show();
+    window.chkHTML->setChecked(true);
+    window.ClickStart();
+    EXPECT_EQ(Output(), "<t><b><b><b><b><b><z>");
+    EXPECT_EQ(platform.openedFiles, QStringList({platform.ProgramFolder() + u"/Výstup.html"_qs}));
+    EXPECT_EQ(platform.shownDocuments, 0);
+    EXPECT_EQ(window.windowTitle(), u"Export vzorků");
+}
+
+TEST_F(ExportWindowFrame, AStoppedTemplateRunOpensTheRowsDoneSoFar) {
+    WriteTemplate(kTemplate);
+    frmSample window;
+    window.show();
+    window.chkHTML->setChecked(true);
+    window.onRow = [&](int row) {
+        if (row == 3)
+            platform.onProcessEvents = [&] {
+                platform.onProcessEvents = nullptr;
+                window.ClickStart();
+            };
+    };
+    window.ClickStart();
+    EXPECT_EQ(Output(), "<t><b><b><z>");
+    EXPECT_EQ(platform.openedFiles.size(), 1);
+}
+
+TEST_F(ExportWindowFrame, AMissingTemplateIsMadeEmptyAndNothingIsOpened) {
+    frmSample window;
+    window.show();
+    window.chkHTML->setChecked(true);
+    platform.ExpectMessage(u"Šablona poškozena, položka nebyla nalezena."_qs, MessageAnswer::Ok,
+                           MessageIcon::None, MessageButtons::Ok);
+    window.ClickStart();
+    EXPECT_TRUE(QFile::exists(platform.ProgramFolder() + u"/Vzorek.html"_qs));
+    EXPECT_EQ(Output(), "no file");
+    EXPECT_TRUE(platform.openedFiles.isEmpty());
+    EXPECT_TRUE(window.cmdCancel->isEnabled());
+}
+
+TEST_F(ExportWindowFrame, ATemplateInTheWrongOrderPassesAndIsPutTogetherInTheFixedOne) {
+    WriteTemplate("__bottom__<z>__bottom_end____body__<b>__body_end____top__<t>__top_end__");
+    frmSample window;
+    window.show();
+    window.chkHTML->setChecked(true);
+    window.ClickStart();
+    EXPECT_EQ(Output(), "<t><b><b><b><b><b><z>");
+}
+
+} // namespace lorvo::test

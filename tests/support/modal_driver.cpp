@@ -1,0 +1,31 @@
+#include "support/modal_driver.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <exception>
+
+namespace lorvo::test {
+
+void WhileOpen(const std::function<void()>& open, const std::function<void(QWidget&)>& inside) {
+    bool came = false;
+    std::exception_ptr failure;
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget* window = QApplication::activeModalWidget();
+        if (!window)
+            return;
+        came = true;
+        try {
+            inside(*window);
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        if (QWidget* still = QApplication::activeModalWidget(); still == window)
+            window->close();
+    });
+    open();
+    EXPECT_TRUE(came) << "no window was opened";
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+} // namespace lorvo::test

@@ -1,0 +1,133 @@
+#include "support/window_walk.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace lorvo::test {
+
+namespace {
+
+std::string Describe(const QWidget& widget) {
+    QString text = QString::fromLatin1(widget.metaObject()->className()) + u' ';
+    text += widget.objectName();
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        text += QStringLiteral(" \"%1\"").arg(label->text());
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        text += QStringLiteral(" \"%1\"").arg(button->text());
+    return text.toStdString();
+}
+
+/// Whether the widget is a part that another control is made of, such as the line of a combo box.
+bool IsPart(const QWidget& widget) {
+    for (const QWidget* above = widget.parentWidget(); above && !widget.isWindow();
+         above = above->parentWidget()) {
+        if (qobject_cast<const QComboBox*>(above) || qobject_cast<const QAbstractSpinBox*>(above) ||
+            qobject_cast<const QAbstractItemView*>(above) || above->inherits("QCalendarWidget") ||
+            above->inherits("QTabBar") || above->inherits("QToolBar") ||
+            above->inherits("QLineEdit"))
+            return true;
+        if (above->isWindow())
+            break;
+    }
+    return widget.objectName().startsWith(u"qt_");
+}
+
+QList<QWidget*> ControlsOf(const QWidget& window) {
+    QList<QWidget*> result;
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->isVisible() && widget->window() == &window && !IsPart(*widget))
+            result.push_back(widget);
+    return result;
+}
+
+bool IsField(const QWidget& widget) {
+    return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
+           qobject_cast<const QAbstractSpinBox*>(&widget) || widget.inherits("QPlainTextEdit") ||
+           widget.inherits("QTextEdit");
+}
+
+bool IsControl(const QWidget& widget) {
+    return IsField(widget) || qobject_cast<const QAbstractButton*>(&widget) ||
+           qobject_cast<const QAbstractItemView*>(&widget);
+}
+
+bool HasCaption(const QWidget& field, const QList<QWidget*>& controls) {
+    if (!field.accessibleName().isEmpty())
+        return true;
+    return std::any_of(controls.begin(), controls.end(), [&](const QWidget* widget) {
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        return label && label->buddy() == &field;
+    });
+}
+
+/// Whether `right` is read after `left`: they are compared as parts of the innermost box that
+/// holds both, line by line.
+bool ReadsAfter(const QWidget* left, const QWidget* right) {
+    const QWidget* box = left->parentWidget();
+    while (box && !box->isAncestorOf(right))
+        box = box->parentWidget();
+    while (left->parentWidget() != box)
+        left = left->parentWidget();
+    while (right->parentWidget() != box)
+        right = right->parentWidget();
+    const QRect first = left->geometry();
+    const QRect second = right->geometry();
+    const bool sameLine = second.top() < first.center().y() && first.top() < second.center().y();
+    return sameLine ? second.left() >= first.left() : second.top() >= first.top();
+}
+
+void WalkTabOrder(const QWidget& window, const QList<QWidget*>& controls) {
+    QList<const QWidget*> order;
+    const QWidget* widget = &window;
+    do {
+        if (controls.contains(widget) && (widget->focusPolicy() & Qt::TabFocus) &&
+            !widget->focusProxy())
+            order.push_back(widget);
+        widget = widget->nextInFocusChain();
+    } while (widget != &window);
+    for (qsizetype i = 1; i < order.size(); ++i)
+        EXPECT_TRUE(ReadsAfter(order[i - 1], order[i]))
+            << "Tab goes from " << Describe(*order[i - 1]) << " to " << Describe(*order[i]);
+}
+
+void CheckTextFits(const QWidget& widget) {
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    if (!(label && !label->text().isEmpty()) && !(button && !button->text().isEmpty()))
+        return;
+    if (label && label->wordWrap()) {
+        EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+            << Describe(widget) << " is cut";
+        return;
+    }
+    EXPECT_GE(widget.width(), widget.sizeHint().width()) << Describe(widget) << " is cut";
+    EXPECT_GE(widget.height(), widget.minimumSizeHint().height()) << Describe(widget) << " is cut";
+}
+
+} // namespace
+
+void WalkWindow(QWidget& window) {
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    const QList<QWidget*> controls = ControlsOf(window);
+    EXPECT_FALSE(window.objectName().isEmpty()) << "the window has no name";
+    for (const QWidget* widget : controls) {
+        if (IsControl(*widget)) {
+            EXPECT_FALSE(widget->objectName().isEmpty()) << Describe(*widget) << " has no name";
+        }
+        if (IsField(*widget)) {
+            EXPECT_TRUE(HasCaption(*widget, controls)) << Describe(*widget) << " has no caption";
+        }
+        CheckTextFits(*widget);
+    }
+    WalkTabOrder(window, controls);
+}
+
+} // namespace lorvo::test
