@@ -1,0 +1,50 @@
+#include "setup/frmNazevKruhu.h"
+
+#include "app/main_window_services.h"
+#include "forms/controls.h"
+#include "store/kruhy.h"
+
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+constexpr int kNameWidth = 280;
+}
+
+frmNazevKruhu::frmNazevKruhu(QWidget* parent)
+    : Form("frmNazevKruhu", QStringLiteral("Název kruhu"), Border::Fixed, parent),
+      txtName(Named(new QLineEdit(this), QStringLiteral("txtName"))),
+      cmdOK(Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"))),
+      cmdCancel(
+          Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"))) {
+    txtName->setMinimumWidth(kNameWidth);
+    cmdOK->setEnabled(false);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(CaptionFor(txtName, QStringLiteral("Název kruhu"), this));
+    layout->addWidget(txtName);
+    layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
+
+    connect(txtName, &QLineEdit::textChanged, this,
+            [this](const QString& text) { cmdOK->setEnabled(!text.isEmpty()); });
+    connect(cmdOK, &QPushButton::clicked, this, &frmNazevKruhu::Store);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmNazevKruhu::Load() {
+    const QString key = TheMainWindow().SelectedNode();
+    if (key.isEmpty())
+        return;
+    txtName->setText(TheMainWindow().NodeText(key));
+    txtName->selectAll();
+}
+
+void frmNazevKruhu::Store() {
+    const QString key = TheMainWindow().SelectedNode();
+    TheMainWindow().SetNodeText(key, txtName->text());
+    RenameRing(key.mid(1).toInt(), txtName->text());
+    accept();
+}
+
+} // namespace lorvo
