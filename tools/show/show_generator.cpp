@@ -1,0 +1,37 @@
+#include "show/show_generator.h"
+
+#include "show/show_parts.h"
+#include "store/data_module.h"
+#include "store/kruhy.h"
+#include "store/plemena.h"
+#include "store/psi.h"
+
+namespace lorvo::show {
+
+void NumberEnteredDogs(Numbers numbers) {
+    if (numbers == Numbers::None)
+        return;
+    std::vector<int> order;
+    for (const Kruhy& ring : RingsByName()) {
+        for (const Plemena& breed : BreedsOfRing(ring.ID)) {
+            for (const TreeDog& dog : TreeDogsOfBreed(breed.ID))
+                order.push_back(dog.ID);
+        }
+    }
+    if (numbers == Numbers::Some)
+        order.resize(order.size() * 2 / 3);
+    NumberDogs(order);
+}
+
+void GenerateShow(const ShowSize& size, std::uint64_t seed, Numbers numbers) {
+    Dice dice(seed);
+    EditRun run(TheDataModule().Conn1);
+    const ShowSetUp setUp = SettleShow(size, dice);
+    const std::vector<EnteredOwner> owners = EnterOwners(size, dice);
+    const std::vector<EnteredDog> dogs = EnterDogs(size, setUp, owners, dice);
+    TakePayments(size, setUp, owners, dogs, dice);
+    NumberEnteredDogs(numbers);
+    run.Finish();
+}
+
+} // namespace lorvo::show

@@ -1,0 +1,97 @@
+// Payments: most dogs are paid in full, some in part, some too much, some not at all.
+
+#include "show/show_parts.h"
+#include "store/souteze.h"
+#include "store/uhrady.h"
+#include "store/vystavy.h"
+
+#include <array>
+#include <unordered_map>
+
+namespace lorvo::show {
+
+namespace {
+
+constexpr int kWaysOfPayment = 3;
+constexpr int kPrintedPercent = 30;
+
+class Prices {
+  public:
+    Prices() {
+        for (const Souteze& competition : Competitions())
+            competitions_[competition.ID] = competition.Cena.value_or(Currency());
+    }
+
+    Currency OwedFor(const EnteredDog& dog) const {
+        Currency owed;
+        for (const int show : dog.shows)
+            owed += fees_.Fee(show, dog.fee.firstClosing, dog.fee.trida, dog.fee.firstDog);
+        for (const int competition : dog.competitions)
+            owed += competitions_.at(competition);
+        return owed;
+    }
+
+  private:
+    FeeTables fees_;
+    std::unordered_map<int, Currency> competitions_;
+};
+
+Currency AnyAmount(Currency owed, Dice& dice) {
+    const int kind = dice.Below(100);
+    if (owed.IsZero())
+        return Currency::FromUnits(200);
+    if (kind < 82)
+        return owed;
+    if (kind < 92)
+        return owed * Currency::FromText("0.5");
+    return owed + Currency::FromUnits(50);
+}
+
+/// Whole units of another currency, never fewer than one.
+Currency InCurrency(Currency amount, const Meny& currency) {
+    if (currency.Hlavni)
+        return amount;
+    return Currency::FromUnits(amount.Raw() / currency.Kurs.Raw() + 1);
+}
+
+QString AnyAccount(int way, Dice& dice) {
+    if (way == 0)
+        return QString::number(dice.Between(100000000, 999999999)) + u"/0800"_qs;
+    return u"P-"_qs + QString::number(dice.Between(10000, 99999));
+}
+
+DateValue AnyMoment(DateValue day, Dice& dice) {
+    const int daysBefore = dice.Between(0, 90);
+    return day.PlusDays(-daysBefore).WithSecondOfDay(dice.Between(8 * 3600, 18 * 3600));
+}
+
+} // namespace
+
+void TakePayments(const ShowSize& size, const ShowSetUp& setUp,
+                  const std::vector<EnteredOwner>& owners, const std::vector<EnteredDog>& dogs,
+                  Dice& dice) {
+    const Prices prices;
+    std::vector<EnteredDog> payers = dogs;
+    dice.Shuffle(payers);
+    payers.resize(static_cast<std::size_t>(size.payments) * 9 / 10);
+    for (int i = 0; i < size.payments; ++i) {
+        const std::size_t at = static_cast<std::size_t>(i);
+        const EnteredDog& dog = at < payers.size() ? payers[at] : dice.Pick(payers);
+        const EnteredOwner& owner = owners[static_cast<std::size_t>(dog.owner)];
+        const Meny& currency = setUp.currencies[static_cast<std::size_t>(owner.currency)];
+        Uhrady payment;
+        payment.ID_Psa = dog.ID;
+        payment.Datum = AnyMoment(setUp.day, dice);
+        payment.Castka = InCurrency(AnyAmount(prices.OwedFor(dog), dice), currency);
+        payment.Mena = currency.ID;
+        payment.Kurs = currency.Kurs;
+        payment.Kc = payment.Castka * currency.Kurs;
+        payment.Uhrada = dice.Below(kWaysOfPayment);
+        payment.Ucet = AnyAccount(payment.Uhrada, dice);
+        const int ID = InsertPayment(payment);
+        if (dice.Chance(kPrintedPercent))
+            SetPaymentPrinted(ID, true);
+    }
+}
+
+} // namespace lorvo::show
