@@ -208,6 +208,11 @@ int RecordSet::RecordCount() const {
     return static_cast<int>(state_->rows.size());
 }
 
+int RecordSet::FieldCount() const {
+    state_->RequireOpen();
+    return static_cast<int>(state_->translation->columns.size());
+}
+
 bool RecordSet::Eof() const {
     state_->RequireOpen();
     return state_->current >= state_->rows.size();

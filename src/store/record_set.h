@@ -31,11 +31,13 @@ class RecordSet {
     bool IsOpen() const;
 
     int RecordCount() const;
+    int FieldCount() const;
     bool Eof() const;
     void MoveNext();
 
-    /// Field of the current row, by name in any letter case (the first of that name) or by
-    /// position from 0. StoreError for a field or a row that is not there.
+    /// Field of the current row, by name in any letter case (the first of that name; a join's
+    /// other ones by "Table.Field") or by position from 0. StoreError for a field or a row that is
+    /// not there.
     const Value& Field(std::string_view name) const;
     const Value& Field(int position) const;
 

@@ -4,6 +4,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace lorvo {
 
@@ -68,17 +69,21 @@ const Table* Schema::FindTable(std::string_view name) const {
 
 Schema ReadSchema(SQLite::Database& database) {
     Schema schema;
-    SQLite::Statement names(database, "SELECT name FROM sqlite_schema WHERE type = 'table' AND "
-                                      "name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid");
-    while (names.executeStep()) {
-        Table table{names.getColumn(0).getString(), {}};
-        SQLite::Statement fields(database, "SELECT name, type FROM pragma_table_info(?)");
-        fields.bind(1, table.name);
-        while (fields.executeStep())
-            table.fields.push_back({fields.getColumn(0).getString(),
-                                    TypeOfDeclaration(fields.getColumn(1).getString())});
-        schema.Add(std::move(table));
+    Table table;
+    SQLite::Statement fields(database,
+                             "SELECT t.name, f.name, f.type FROM sqlite_schema AS t, "
+                             "pragma_table_info(t.name) AS f WHERE t.type = 'table' AND "
+                             "t.name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY t.rowid, f.cid");
+    while (fields.executeStep()) {
+        const std::string name = fields.getColumn(0).getString();
+        if (name != table.name && !table.name.empty())
+            schema.Add(std::exchange(table, {}));
+        table.name = name;
+        table.fields.push_back(
+            {fields.getColumn(1).getString(), TypeOfDeclaration(fields.getColumn(2).getString())});
     }
+    if (!table.name.empty())
+        schema.Add(std::move(table));
     return schema;
 }
 

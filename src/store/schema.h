@@ -32,7 +32,6 @@ class Schema {
     void Add(Table table) { tables_.push_back(std::move(table)); }
     /// Nullptr when there is no such table.
     const Table* FindTable(std::string_view name) const;
-    bool IsEmpty() const { return tables_.empty(); }
 
   private:
     std::vector<Table> tables_;

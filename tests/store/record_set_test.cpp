@@ -1,16 +1,11 @@
-#include "store/record_set.h"
 
 #include "platform/values/errors.h"
-#include "store/data_module.h"
-
-#include "support/temp_database.h"
-
-#include <gtest/gtest.h>
+#include "store/store_test.h"
 
 namespace lorvo {
 namespace {
 
-class RecordSetTest : public ::testing::Test {
+class RecordSetTest : public StoreTest {
   protected:
     /// A dog with a name; its ID.
     int AddDog(const QString& name) {
@@ -23,19 +18,6 @@ class RecordSetTest : public ::testing::Test {
         set.Close();
         return id;
     }
-
-    /// What the failure of `action` says; empty when there is none.
-    template<typename Action> std::string FailureOf(Action action) {
-        try {
-            action();
-        } catch (const Error& error) {
-            return error.what();
-        }
-        return {};
-    }
-
-    TempDatabase database;
-    DataModule& module = TheDataModule();
 };
 
 TEST_F(RecordSetTest, StandsOnTheFirstRowAndWalksToTheEnd) {
