@@ -4,7 +4,9 @@
 
 #include "data_builder.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <array>
 #include <stdexcept>
@@ -47,6 +49,11 @@ TempDatabase::TempDatabase(Content content) {
 
 TempDatabase::~TempDatabase() {
     TheDataModule().Conn1.Close();
+}
+
+QString TempDatabase::FolderTemplate() {
+    const QString memory = u"/dev/shm"_qs;
+    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + u"/lorvo-XXXXXX"_qs;
 }
 
 QString TempDatabase::Path() const {

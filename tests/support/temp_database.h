@@ -33,7 +33,10 @@ class TempDatabase {
     static QString CopyTo(const QString& folder, Content content = Content::Empty);
 
   private:
-    QTemporaryDir folder_;
+    /// In memory where the system has such a place: tests needn't wait for a disk.
+    static QString FolderTemplate();
+
+    QTemporaryDir folder_{FolderTemplate()};
 };
 
 } // namespace lorvo
