@@ -1,6 +1,5 @@
 #include "store/barvy.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {

@@ -1,6 +1,5 @@
 #include "store/majitele.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -11,18 +10,26 @@ RecordSet& Table() {
     return TheDataModule().rsMajitele;
 }
 
-Majitele ReadMajitele(const RecordSet& row) {
+/// The fields in the order of ReadOwners.
+Majitele ReadMajitele(const Query& row) {
     Majitele owner;
-    owner.ID = row.Field("ID").ToInt();
-    owner.Jmeno = row.Field("Jmeno").ToText();
-    owner.Prijmeni = ToOptionalText(row.Field("Prijmeni"));
-    owner.Ulice = row.Field("Ulice").ToText();
-    owner.Mesto = row.Field("Mesto").ToText();
-    owner.PSC = row.Field("PSC").ToInt();
-    owner.Telefon = row.Field("Telefon").ToText();
-    owner.Email = row.Field("Email").ToText();
-    owner.Stat = ToOptionalText(row.Field("Stat"));
+    owner.ID = row.Int(0);
+    owner.Jmeno = row.Text(1);
+    owner.Prijmeni = ToOptionalText(row.Cell(2));
+    owner.Ulice = row.Text(3);
+    owner.Mesto = row.Text(4);
+    owner.PSC = row.Int(5);
+    owner.Telefon = row.Text(6);
+    owner.Email = row.Text(7);
+    owner.Stat = ToOptionalText(row.Cell(8));
     return owner;
+}
+
+std::vector<Majitele> ReadOwners(const std::string& rest) {
+    return ReadMany("SELECT ID, Jmeno, Prijmeni, Ulice, Mesto, PSC, Telefon, Email, Stat "
+                    "FROM Majitele " +
+                        rest,
+                    ReadMajitele);
 }
 
 Assignments Fields(const Majitele& owner) {
@@ -38,39 +45,40 @@ Assignments Fields(const Majitele& owner) {
 } // namespace
 
 std::optional<Majitele> OwnerByID(int majitelID) {
-    return ReadFirst(Table(), "SELECT * FROM Majitele WHERE ID = " + Number(majitelID),
-                     ReadMajitele);
+    std::vector<Majitele> owners = ReadOwners("WHERE ID = " + Number(majitelID));
+    if (owners.empty())
+        return std::nullopt;
+    return std::move(owners.front());
 }
 
 std::vector<Majitele> OwnersByName() {
-    return ReadRows(Table(), "SELECT * FROM Majitele ORDER BY Jmeno ASC", ReadMajitele);
+    return ReadOwners("ORDER BY Jmeno ASC");
 }
 
 std::vector<Majitele> OwnersByNameAndSurname() {
-    return ReadRows(Table(), "SELECT * FROM Majitele ORDER BY Jmeno, Prijmeni", ReadMajitele);
+    return ReadOwners("ORDER BY Jmeno, Prijmeni");
 }
 
 std::unordered_map<int, Majitele> OwnersByID() {
-    return ByID(ReadRows(Table(), "SELECT * FROM Majitele", ReadMajitele));
+    return ByID(ReadOwners({}));
 }
 
 std::vector<OwnerName> OwnerNamesByName() {
-    return ReadRows(
-        Table(), "SELECT ID, Jmeno, Mesto FROM Majitele ORDER BY Jmeno ASC",
-        [](const RecordSet& row) {
-            return OwnerName{row.Field(0).ToInt(), row.Field(1).ToText(), row.Field(2).ToText()};
-        });
+    return ReadMany("SELECT ID, Jmeno, Mesto FROM Majitele ORDER BY Jmeno ASC",
+                    [](const Query& row) {
+                        return OwnerName{row.Int(0), row.Text(1), row.Text(2)};
+                    });
 }
 
 std::unordered_map<int, QString> OwnerNames() {
-    const auto rows = ReadRows(Table(), "SELECT ID, Jmeno FROM Majitele", [](const RecordSet& row) {
-        return std::pair(row.Field(0).ToInt(), row.Field(1).ToText());
-    });
-    return {rows.begin(), rows.end()};
+    std::unordered_map<int, QString> names;
+    for (Query query(TheDataModule().Conn1, "SELECT ID, Jmeno FROM Majitele"); query.Next();)
+        names.emplace(query.Int(0), query.Text(1));
+    return names;
 }
 
 std::vector<Majitele> OwnersNamed(const QString& jmeno) {
-    return ReadRows(Table(), "SELECT * FROM Majitele WHERE Jmeno = " + Quoted(jmeno), ReadMajitele);
+    return ReadOwners("WHERE Jmeno = " + Quoted(jmeno));
 }
 
 int InsertOwner(const Majitele& owner) {

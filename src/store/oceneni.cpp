@@ -1,6 +1,5 @@
 #include "store/oceneni.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {

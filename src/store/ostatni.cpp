@@ -1,6 +1,5 @@
 #include "store/ostatni.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {

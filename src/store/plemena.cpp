@@ -1,6 +1,5 @@
 #include "store/plemena.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {

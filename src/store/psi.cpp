@@ -1,6 +1,5 @@
 #include "store/psi.h"
 
-#include "store/data_module.h"
 #include "store/psi_reader.h"
 #include "store/rows.h"
 
@@ -16,16 +15,16 @@ RecordSet& Table() {
     return TheDataModule().rsPsi;
 }
 
-TreeDog ReadTreeDog(const RecordSet& row) {
+TreeDog ReadTreeDog(const Query& row) {
     TreeDog dog;
-    dog.PrvniPes = row.Field(0).ToBool();
-    dog.PrvniUzaverka = row.Field(1).ToBool();
-    dog.ID = row.Field(2).ToInt();
-    dog.Jmeno = row.Field(3).ToText();
-    dog.Cislo = row.Field(4).ToInt();
-    dog.PlemenoID = row.Field(5).ToInt();
-    dog.PohlaviPes = row.Field(6).ToBool();
-    dog.Trida = row.Field(7).ToInt();
+    dog.PrvniPes = row.Bool(0);
+    dog.PrvniUzaverka = row.Bool(1);
+    dog.ID = row.Int(2);
+    dog.Jmeno = row.Text(3);
+    dog.Cislo = row.Int(4);
+    dog.PlemenoID = row.Int(5);
+    dog.PohlaviPes = row.Bool(6);
+    dog.Trida = row.Int(7);
     return dog;
 }
 
@@ -60,7 +59,7 @@ Assignments EditedFields(const Psi& dog) {
 }
 
 std::vector<QString> DistinctTexts(const std::string& field) {
-    return ReadTexts(Table(), "SELECT DISTINCT " + field + " FROM Psi ORDER BY " + field);
+    return ReadTexts("SELECT DISTINCT " + field + " FROM Psi ORDER BY " + field);
 }
 
 int CountWhere(const std::string& condition) {
@@ -69,60 +68,33 @@ int CountWhere(const std::string& condition) {
 
 } // namespace
 
-Psi ReadPsi(const RecordSet& row) {
-    Psi dog;
-    dog.ID = row.Field("ID").ToInt();
-    dog.Jmeno = row.Field("Jmeno").ToText();
-    dog.ChovnaStanice = row.Field("ChovnaStanice").ToText();
-    dog.Cislo = ToOptionalInt(row.Field("Cislo"));
-    dog.PlemenoID = row.Field("PlemenoID").ToInt();
-    dog.MajitelID = row.Field("MajitelID").ToInt();
-    dog.BarvaID = row.Field("BarvaID").ToInt();
-    dog.PohlaviPes = row.Field("PohlaviPes").ToBool();
-    dog.DatumNar = ToOptionalDate(row.Field("DatumNar"));
-    dog.Trida = row.Field("Trida").ToInt();
-    dog.Otec = row.Field("Otec").ToText();
-    dog.Matka = row.Field("Matka").ToText();
-    dog.PK = row.Field("PK").ToText();
-    dog.Poznamka = row.Field("Poznamka").ToText();
-    dog.Chovatel = row.Field("Chovatel").ToText();
-    dog.PrvniUzaverka = row.Field("PrvniUzaverka").ToBool();
-    dog.PrvniPes = row.Field("PrvniPes").ToBool();
-    return dog;
-}
-
 std::optional<Psi> DogByID(int psiID) {
-    return ReadFirst(Table(), "SELECT * FROM Psi WHERE ID = " + Number(psiID), ReadPsi);
+    std::vector<Psi> dogs = ReadDogs("WHERE ID = " + Number(psiID));
+    if (dogs.empty())
+        return std::nullopt;
+    return std::move(dogs.front());
 }
 
 std::vector<Psi> DogsOfOwner(int majitelID, DogOrder order) {
-    return ReadRows(Table(),
-                    "SELECT * FROM Psi WHERE MajitelID = " + Number(majitelID) + OrderClause(order),
-                    ReadPsi);
+    return ReadDogs("WHERE MajitelID = " + Number(majitelID) + OrderClause(order));
 }
 
 std::vector<Psi> DogsOfBreed(int plemenoID) {
-    return ReadRows(Table(),
-                    "SELECT * FROM Psi WHERE PlemenoID = " + Number(plemenoID) + " ORDER BY " +
-                        kOrderInBreed,
-                    ReadPsi);
+    return ReadDogs("WHERE PlemenoID = " + Number(plemenoID) + " ORDER BY " + kOrderInBreed);
 }
 
 std::vector<Psi> DogsByBreed() {
-    return ReadRows(Table(), std::string("SELECT * FROM Psi ORDER BY PlemenoID, ") + kOrderInBreed,
-                    ReadPsi);
+    return ReadDogs(std::string("ORDER BY PlemenoID, ") + kOrderInBreed);
 }
 
 std::vector<TreeDog> TreeDogsOfBreed(int plemenoID) {
-    return ReadRows(Table(),
-                    std::string(kTreeDogs) + "WHERE Psi!PlemenoID = " + Number(plemenoID) +
+    return ReadMany(std::string(kTreeDogs) + "WHERE Psi!PlemenoID = " + Number(plemenoID) +
                         " ORDER BY " + kOrderInBreed,
                     ReadTreeDog);
 }
 
 std::vector<TreeDog> TreeDogsByBreed() {
-    return ReadRows(Table(), std::string(kTreeDogs) + "ORDER BY PlemenoID, " + kOrderInBreed,
-                    ReadTreeDog);
+    return ReadMany(std::string(kTreeDogs) + "ORDER BY PlemenoID, " + kOrderInBreed, ReadTreeDog);
 }
 
 std::optional<int> OwnerOfDog(int psiID) {

@@ -1,6 +1,5 @@
 #include "store/psi_lists.h"
 
-#include "store/data_module.h"
 #include "store/psi_reader.h"
 #include "store/rows.h"
 
@@ -19,31 +18,26 @@ RecordSet& Table() {
     return TheDataModule().rsPsi;
 }
 
-DogListRow ReadDogListRow(const RecordSet& row) {
+DogListRow ReadDogListRow(const Query& row) {
     DogListRow dog;
-    dog.JmenoMajitele = row.Field(0).ToText();
-    dog.IDPsa = row.Field(2).ToInt();
-    dog.Jmeno = row.Field(3).ToText();
-    dog.ChovnaStanice = row.Field(4).ToText();
-    dog.Trida = row.Field(5).ToInt();
-    dog.PrvniPes = row.Field(6).ToBool();
-    dog.PlemenoID = row.Field(7).ToInt();
-    dog.PohlaviPes = row.Field(8).ToBool();
-    dog.MajitelID = row.Field(9).ToInt();
-    dog.Poznamka = row.Field(10).ToText();
-    dog.PrvniUzaverka = row.Field(11).ToBool();
-    dog.NazevPlemene = row.Field(13).ToText();
-    dog.NazevOrig = row.Field(14).ToText();
+    dog.JmenoMajitele = row.Text(0);
+    dog.IDPsa = row.Int(2);
+    dog.Jmeno = row.Text(3);
+    dog.ChovnaStanice = row.Text(4);
+    dog.Trida = row.Int(5);
+    dog.PrvniPes = row.Bool(6);
+    dog.PlemenoID = row.Int(7);
+    dog.PohlaviPes = row.Bool(8);
+    dog.MajitelID = row.Int(9);
+    dog.Poznamka = row.Text(10);
+    dog.PrvniUzaverka = row.Bool(11);
+    dog.NazevPlemene = row.Text(13);
+    dog.NazevOrig = row.Text(14);
     return dog;
 }
 
-FeeDog ReadFeeDog(const RecordSet& row) {
-    return {row.Field(0).ToInt(), row.Field(1).ToInt(), row.Field(2).ToInt(), row.Field(3).ToBool(),
-            row.Field(4).ToBool()};
-}
-
-std::vector<Psi> Dogs(const std::string& rest) {
-    return ReadRows(Table(), "SELECT * FROM Psi " + rest, ReadPsi);
+FeeDog ReadFeeDog(const Query& row) {
+    return {row.Int(0), row.Int(1), row.Int(2), row.Bool(3), row.Bool(4)};
 }
 
 int CountWhere(const std::string& condition) {
@@ -53,60 +47,58 @@ int CountWhere(const std::string& condition) {
 } // namespace
 
 std::vector<DogListRow> DogsWithOwnersByName() {
-    return ReadRows(Table(), kWithOwners, ReadDogListRow);
+    return ReadMany(kWithOwners, ReadDogListRow);
 }
 
 std::vector<FeeDog> FeeDogs() {
-    return ReadRows(Table(), "SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi",
-                    ReadFeeDog);
+    return ReadMany("SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi", ReadFeeDog);
 }
 
 std::vector<Psi> DogsByNumber() {
-    return Dogs("ORDER BY Cislo ASC");
+    return ReadDogs("ORDER BY Cislo ASC");
 }
 
 std::vector<Psi> FirstFiveDogsByNumber() {
-    return ReadRows(Table(), "SELECT TOP 5 * FROM Psi ORDER BY Cislo ASC", ReadPsi);
+    return ReadDogs("ORDER BY Cislo ASC", "TOP 5 ");
 }
 
 std::vector<Psi> DogsByName() {
-    return Dogs("ORDER BY Jmeno");
+    return ReadDogs("ORDER BY Jmeno");
 }
 
 std::vector<Psi> DogsBySex() {
-    return Dogs("ORDER BY PohlaviPes, Jmeno ASC");
+    return ReadDogs("ORDER BY PohlaviPes, Jmeno ASC");
 }
 
 std::vector<Psi> MalesByClass() {
-    return Dogs("WHERE PohlaviPes ORDER BY Trida, Jmeno ASC");
+    return ReadDogs("WHERE PohlaviPes ORDER BY Trida, Jmeno ASC");
 }
 
 std::vector<Psi> DogsOfBreedByName(int plemenoID) {
-    return Dogs("WHERE Psi!PlemenoID = " + Number(plemenoID) + " ORDER BY Jmeno");
+    return ReadDogs("WHERE Psi!PlemenoID = " + Number(plemenoID) + " ORDER BY Jmeno");
 }
 
 std::vector<Psi> DogsOfFather(const QString& otec) {
-    return Dogs("WHERE Otec = " + Quoted(otec) + " ORDER BY Jmeno");
+    return ReadDogs("WHERE Otec = " + Quoted(otec) + " ORDER BY Jmeno");
 }
 
 std::vector<Psi> DogsOfMother(const QString& matka) {
-    return Dogs("WHERE Matka = " + Quoted(matka) + " ORDER BY Jmeno");
+    return ReadDogs("WHERE Matka = " + Quoted(matka) + " ORDER BY Jmeno");
 }
 
 std::vector<Psi> BitchesOfBreeder(const QString& chovatel) {
-    return Dogs("WHERE Chovatel = " + Quoted(chovatel) + " AND NOT PohlaviPes= true");
+    return ReadDogs("WHERE Chovatel = " + Quoted(chovatel) + " AND NOT PohlaviPes= true");
 }
 
 std::unordered_map<int, int> DogCountsByBreed() {
-    return CountEach(Table(), "SELECT PlemenoID FROM Psi");
+    return CountEach("SELECT PlemenoID FROM Psi");
 }
 
 std::unordered_map<int, std::vector<std::optional<int>>> DogNumbersByOwner() {
     std::unordered_map<int, std::vector<std::optional<int>>> numbers;
-    Table().Open("SELECT MajitelID, Cislo FROM Psi ORDER BY Cislo ASC");
-    for (; !Table().Eof(); Table().MoveNext())
-        numbers[Table().Field(0).ToInt()].push_back(ToOptionalInt(Table().Field(1)));
-    Table().Close();
+    Query query(TheDataModule().Conn1, "SELECT MajitelID, Cislo FROM Psi ORDER BY Cislo ASC");
+    while (query.Next())
+        numbers[query.Int(0)].push_back(ToOptionalInt(query.Cell(1)));
     return numbers;
 }
 

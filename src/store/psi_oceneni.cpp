@@ -1,6 +1,5 @@
 #include "store/psi_oceneni.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -23,25 +22,23 @@ std::string OfDog(int psiID, int oceneniID) {
 } // namespace
 
 std::vector<int> AwardsOfDog(int psiID) {
-    return ReadNumbers(Table(), "SELECT IDOceneni FROM PsiOceneni WHERE IDPsa = " + Number(psiID));
+    return ReadNumbers("SELECT IDOceneni FROM PsiOceneni WHERE IDPsa = " + Number(psiID));
 }
 
 QStringList AwardNamesOfDog(int psiID) {
     QStringList names;
-    Table().Open(std::string(kAwardNames) + "PsiOceneni.IDPsa = " + Number(psiID) + " AND " +
-                 kJoined);
-    for (; !Table().Eof(); Table().MoveNext())
-        names << Table().Field(3).ToText();
-    Table().Close();
+    Query query(TheDataModule().Conn1, std::string(kAwardNames) + "PsiOceneni.IDPsa = " +
+                                           Number(psiID) + " AND " + kJoined);
+    while (query.Next())
+        names << query.Text(3);
     return names;
 }
 
 std::unordered_map<int, QStringList> AwardNamesByDog() {
     std::unordered_map<int, QStringList> names;
-    Table().Open(std::string(kAwardNames) + kJoined);
-    for (; !Table().Eof(); Table().MoveNext())
-        names[Table().Field(0).ToInt()] << Table().Field(3).ToText();
-    Table().Close();
+    Query query(TheDataModule().Conn1, std::string(kAwardNames) + kJoined);
+    while (query.Next())
+        names[query.Int(0)] << query.Text(3);
     return names;
 }
 

@@ -1,6 +1,5 @@
 #include "store/psi_ve_vystavach.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -29,8 +28,7 @@ bool HasOtherDog(int vystavaID, int psiID) {
 } // namespace
 
 std::vector<int> ShowsOfDog(int psiID) {
-    return ReadNumbers(Table(),
-                       "SELECT VystavaID FROM PsiVeVystavach WHERE PesID = " + Number(psiID));
+    return ReadNumbers("SELECT VystavaID FROM PsiVeVystavach WHERE PesID = " + Number(psiID));
 }
 
 std::vector<int> ShowsOfOtherDogs(int psiID) {
@@ -49,7 +47,7 @@ int CountDogsInShow(int vystavaID) {
 }
 
 std::unordered_map<int, std::vector<int>> ShowsByDog() {
-    return ReadLinks(Table(), "SELECT PesID, VystavaID FROM PsiVeVystavach");
+    return ReadLinks("SELECT PesID, VystavaID FROM PsiVeVystavach");
 }
 
 void AddDogToShows(int psiID, const std::vector<int>& vystavaIDs) {

@@ -1,7 +1,5 @@
 #include "store/rows.h"
 
-#include "store/data_module.h"
-
 namespace lorvo {
 
 namespace {
@@ -24,12 +22,12 @@ int ReadCount(RecordSet& set, const std::string& statement) {
     return ReadScalar(set, statement).ToInt();
 }
 
-std::vector<int> ReadNumbers(RecordSet& set, const std::string& statement) {
-    return ReadRows(set, statement, [](const RecordSet& row) { return row.Field(0).ToInt(); });
+std::vector<int> ReadNumbers(const std::string& statement) {
+    return ReadMany(statement, [](const Query& row) { return row.Int(0); });
 }
 
-std::vector<QString> ReadTexts(RecordSet& set, const std::string& statement) {
-    return ReadRows(set, statement, [](const RecordSet& row) { return row.Field(0).ToText(); });
+std::vector<QString> ReadTexts(const std::string& statement) {
+    return ReadMany(statement, [](const Query& row) { return row.Text(0); });
 }
 
 int InsertRow(RecordSet& set, const std::string& table, const Assignments& fields) {
@@ -95,19 +93,17 @@ int CountNamed(RecordSet& set, const std::string& table, const QString& nazev) {
                               " WHERE LCASE(Nazev) = " + Quoted(nazev.toLower()));
 }
 
-std::unordered_map<int, int> CountEach(RecordSet& set, const std::string& statement) {
+std::unordered_map<int, int> CountEach(const std::string& statement) {
     std::unordered_map<int, int> counts;
-    for (const int number : ReadNumbers(set, statement))
-        ++counts[number];
+    for (Query query(TheDataModule().Conn1, statement); query.Next();)
+        ++counts[query.Int(0)];
     return counts;
 }
 
-std::unordered_map<int, std::vector<int>> ReadLinks(RecordSet& set, const std::string& statement) {
+std::unordered_map<int, std::vector<int>> ReadLinks(const std::string& statement) {
     std::unordered_map<int, std::vector<int>> links;
-    set.Open(statement);
-    for (; !set.Eof(); set.MoveNext())
-        links[set.Field(0).ToInt()].push_back(set.Field(1).ToInt());
-    set.Close();
+    for (Query query(TheDataModule().Conn1, statement); query.Next();)
+        links[query.Int(0)].push_back(query.Int(1));
     return links;
 }
 

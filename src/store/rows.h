@@ -1,8 +1,8 @@
 #pragma once
-// What the routines of all tables share: reading and writing rows through a record set.
-// For src/store alone.
+// What the routines of all tables share: reading and writing rows. For src/store alone.
 
-#include "store/record_set.h"
+#include "store/data_module.h"
+#include "store/query.h"
 
 #include <optional>
 #include <string>
@@ -33,6 +33,15 @@ template<class Reader> auto ReadFirst(RecordSet& set, const std::string& stateme
     return row;
 }
 
+/// All rows of `statement`, each read by `read(const Query&)`: for tables that hold many rows.
+template<class Reader> auto ReadMany(const std::string& statement, Reader read) {
+    Query query(TheDataModule().Conn1, statement);
+    std::vector<decltype(read(query))> rows;
+    while (query.Next())
+        rows.push_back(read(query));
+    return rows;
+}
+
 /// The rows by their ID.
 template<class Row> std::unordered_map<int, Row> ByID(std::vector<Row> rows) {
     std::unordered_map<int, Row> byID;
@@ -50,8 +59,8 @@ Value ReadScalar(RecordSet& set, const std::string& statement);
 /// Column 0 of the first row as a whole number, for COUNT.
 int ReadCount(RecordSet& set, const std::string& statement);
 /// Column 0 of every row.
-std::vector<int> ReadNumbers(RecordSet& set, const std::string& statement);
-std::vector<QString> ReadTexts(RecordSet& set, const std::string& statement);
+std::vector<int> ReadNumbers(const std::string& statement);
+std::vector<QString> ReadTexts(const std::string& statement);
 
 /// Stores a new row of `table` with these fields, the others at the table's defaults.
 /// Returns its ID.
@@ -73,9 +82,9 @@ void DeleteAllRows(RecordSet& set, const std::string& table);
 /// How many rows of `table` have this Nazev, whatever the letter case.
 int CountNamed(RecordSet& set, const std::string& table, const QString& nazev);
 /// How often each number stands in column 0 of the rows.
-std::unordered_map<int, int> CountEach(RecordSet& set, const std::string& statement);
+std::unordered_map<int, int> CountEach(const std::string& statement);
 /// Column 1 of the rows by column 0, in row order.
-std::unordered_map<int, std::vector<int>> ReadLinks(RecordSet& set, const std::string& statement);
+std::unordered_map<int, std::vector<int>> ReadLinks(const std::string& statement);
 
 /// Null stays nullopt.
 std::optional<int> ToOptionalInt(const Value& value);

@@ -1,7 +1,6 @@
 // The fee tables of the shows.
 
 #include "platform/values/errors.h"
-#include "store/data_module.h"
 #include "store/rows.h"
 #include "store/vystavy.h"
 

@@ -1,6 +1,5 @@
 #include "store/souteze.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {

@@ -1,6 +1,5 @@
 #include "store/uhrady.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -33,21 +32,21 @@ constexpr const char* kWithOwners =
     "Majitele.ID FROM Uhrady, Psi, Majitele WHERE Uhrady.ID_Psa = Psi.ID AND "
     "Psi.MajitelID = Majitele.ID ORDER BY MajitelID";
 
-PaymentRow ReadPaymentRow(const RecordSet& row) {
+PaymentRow ReadPaymentRow(const Query& row) {
     PaymentRow payment;
-    payment.UID = row.Field("UID").ToInt();
-    payment.ID_Psa = row.Field("ID_Psa").ToInt();
-    payment.Printed = row.Field("Printed").ToBool();
-    payment.Castka = row.Field("Castka").ToCurrency();
-    payment.Ucet = row.Field("Ucet").ToText();
-    payment.Mena = row.Field("Mena").ToInt();
-    payment.Datum = ToOptionalDate(row.Field("Datum"));
-    payment.Kc = row.Field("Kc").ToCurrency();
-    payment.Uhrada = row.Field("Uhrada").ToInt();
-    payment.Jmeno = row.Field("Jmeno").ToText();
-    payment.ChovnaStanice = row.Field("ChovnaStanice").ToText();
-    payment.MajitelID = row.Field("MajitelID").ToInt();
-    payment.MajX = row.Field("MajX").ToText();
+    payment.UID = row.Int(0);
+    payment.ID_Psa = row.Int(1);
+    payment.Printed = row.Bool(2);
+    payment.Castka = row.Amount(3);
+    payment.Ucet = row.Text(4);
+    payment.Mena = row.Int(5);
+    payment.Datum = ToOptionalDate(row.Cell(6));
+    payment.Kc = row.Amount(7);
+    payment.Uhrada = row.Int(8);
+    payment.Jmeno = row.Text(10);
+    payment.ChovnaStanice = row.Text(11);
+    payment.MajitelID = row.Int(12);
+    payment.MajX = row.Text(13);
     return payment;
 }
 
@@ -64,10 +63,8 @@ Currency PaidForDog(int psiID) {
 
 std::unordered_map<int, Currency> PaidByDog() {
     std::unordered_map<int, Currency> paid;
-    Table().Open("SELECT ID_Psa, Kc FROM Uhrady");
-    for (; !Table().Eof(); Table().MoveNext())
-        paid[Table().Field(0).ToInt()] += Table().Field(1).ToCurrency();
-    Table().Close();
+    for (Query query(TheDataModule().Conn1, "SELECT ID_Psa, Kc FROM Uhrady"); query.Next();)
+        paid[query.Int(0)] += query.Amount(1);
     return paid;
 }
 
@@ -78,7 +75,7 @@ std::vector<Uhrady> PaymentsOfDog(int psiID) {
 }
 
 std::vector<PaymentRow> PaymentsWithOwners() {
-    return ReadRows(Table(), kWithOwners, ReadPaymentRow);
+    return ReadMany(kWithOwners, ReadPaymentRow);
 }
 
 std::vector<QString> AccountsOfOwner(int majitelID) {

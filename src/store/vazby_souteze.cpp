@@ -1,6 +1,5 @@
 #include "store/vazby_souteze.h"
 
-#include "store/data_module.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -14,8 +13,7 @@ RecordSet& Table() {
 } // namespace
 
 std::vector<int> CompetitionsOfDog(int psiID) {
-    return ReadNumbers(Table(),
-                       "SELECT ID_Souteze FROM Vazby_Souteze WHERE ID_Psa = " + Number(psiID));
+    return ReadNumbers("SELECT ID_Souteze FROM Vazby_Souteze WHERE ID_Psa = " + Number(psiID));
 }
 
 bool IsDogInCompetition(int psiID, int soutezID) {
@@ -29,11 +27,11 @@ int CountDogsInCompetition(int soutezID) {
 }
 
 std::unordered_map<int, int> DogCountsByCompetition() {
-    return CountEach(Table(), "SELECT ID_Souteze FROM Vazby_Souteze");
+    return CountEach("SELECT ID_Souteze FROM Vazby_Souteze");
 }
 
 std::unordered_map<int, std::vector<int>> CompetitionsByDog() {
-    return ReadLinks(Table(), "SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze");
+    return ReadLinks("SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze");
 }
 
 void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs) {

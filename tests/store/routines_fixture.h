@@ -33,7 +33,7 @@ class RoutinesTest : public ::testing::Test {
     /// The first column of a statement's rows, Null as empty text.
     static Texts Column(const std::string& statement) {
         Texts texts;
-        for (const QString& text : ReadTexts(TheDataModule().rsrsQuery1, statement))
+        for (const QString& text : ReadTexts(statement))
             texts.push_back(text.toStdString());
         return texts;
     }

@@ -174,7 +174,6 @@ TEST_F(VystavyTest, ShowsOfOtherDogsHoldAgainstTheDistinctRead) {
     AddDogToShows(3, {4});
     for (const int psiID : {1, 2, 3, 4}) {
         const Numbers distinct = ReadNumbers(
-            TheDataModule().rsrsQuery1,
             "SELECT DISTINCT(VystavaID) FROM PsiVeVystavach WHERE PesID <> " + Number(psiID));
         Numbers shows = ShowsOfOtherDogs(psiID);
         EXPECT_TRUE(

@@ -1,0 +1,43 @@
+#include "store/psi_reader.h"
+
+#include "store/rows.h"
+
+namespace lorvo {
+
+namespace {
+
+constexpr const char* kFields =
+    "ID, Jmeno, ChovnaStanice, Cislo, PlemenoID, MajitelID, BarvaID, PohlaviPes, DatumNar, Trida, "
+    "Otec, Matka, PK, Poznamka, Chovatel, PrvniUzaverka, PrvniPes";
+
+/// The fields in the order of kFields.
+Psi ReadPsi(const Query& row) {
+    Psi dog;
+    int column = 0;
+    dog.ID = row.Int(column++);
+    dog.Jmeno = row.Text(column++);
+    dog.ChovnaStanice = row.Text(column++);
+    dog.Cislo = ToOptionalInt(row.Cell(column++));
+    dog.PlemenoID = row.Int(column++);
+    dog.MajitelID = row.Int(column++);
+    dog.BarvaID = row.Int(column++);
+    dog.PohlaviPes = row.Bool(column++);
+    dog.DatumNar = ToOptionalDate(row.Cell(column++));
+    dog.Trida = row.Int(column++);
+    dog.Otec = row.Text(column++);
+    dog.Matka = row.Text(column++);
+    dog.PK = row.Text(column++);
+    dog.Poznamka = row.Text(column++);
+    dog.Chovatel = row.Text(column++);
+    dog.PrvniUzaverka = row.Bool(column++);
+    dog.PrvniPes = row.Bool(column++);
+    return dog;
+}
+
+} // namespace
+
+std::vector<Psi> ReadDogs(const std::string& rest, const std::string& top) {
+    return ReadMany("SELECT " + top + kFields + " FROM Psi " + rest, ReadPsi);
+}
+
+} // namespace lorvo
