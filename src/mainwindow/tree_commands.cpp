@@ -8,7 +8,6 @@
 #include "mainwindow/tree_loader.h"
 #include "mainwindow/window_opener.h"
 #include "store/kruhy.h"
-#include "store/psi.h"
 
 namespace lorvo {
 
@@ -102,24 +101,6 @@ void TreeCommands::FindNext() {
         return Find();
     if (const TreeNode* node = FindByText(nodes_, Module().FindText, Module().FindStart))
         tree_.SelectNode(node);
-}
-
-void TreeCommands::HighlightOwnersDogs() {
-    nodes_.ClearDogBackgrounds();
-    for (const Psi& dog : DogsOfOwner(Module().CurrentOwner, DogOrder::ByID)) {
-        // A dog of a breed that the tree doesn't show has no node.
-        TreeNode* node = nodes_.Find(NodeKey::Dog(dog.ID));
-        if (!node)
-            continue;
-        tree_.EnsureVisible(node);
-        nodes_.SetBackground(node, kHighlight);
-    }
-    tree_.SetSelectionBarShown(false);
-}
-
-void TreeCommands::ClearHighlight() {
-    nodes_.ClearDogBackgrounds();
-    tree_.SetSelectionBarShown(true);
 }
 
 void TreeCommands::AddDogToBreed(int breedID) {

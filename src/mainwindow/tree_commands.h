@@ -13,8 +13,8 @@ class TreeEdits;
 class TreeNodes;
 struct TreeNode;
 
-/// Answers the tree's clicks, keys, menus and drops, and the commands that the command bar and the
-/// owner's dog menu share with them.
+/// Answers the tree's clicks, keys, menus and drops, and the commands that the command bar shares
+/// with them.
 class TreeCommands : public QObject {
     Q_OBJECT
   public:
@@ -27,11 +27,6 @@ class TreeCommands : public QObject {
     /// Adds a dog to the breed of the selected node, as the command bar does: only the row with the
     /// show date is asked for.
     void AddDogToSelected();
-    /// Puts the highlight behind all dogs of the current owner, makes them visible and hides the
-    /// selection bar.
-    void HighlightOwnersDogs();
-    /// Takes the highlight from all dogs and shows the selection bar again.
-    void ClearHighlight();
 
   private:
     void ShowMenu(TreeNode* node);

@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "mainwindow/main_tree.h"
+#include "mainwindow/owner_highlight.h"
 #include "mainwindow/tree_commands.h"
 #include "mainwindow/tree_edits.h"
 #include "mainwindow/tree_menus.h"
@@ -92,9 +93,9 @@ void TreeCommands::ShowDogMenu(TreeNode* dog) {
     case kPayments:
         return Open(QStringLiteral("frmUhrady"));
     case kHighlightOwner:
-        return HighlightOwnersDogs();
+        return HighlightOwnersDogs(tree_);
     case kClearHighlight:
-        return ClearHighlight();
+        return ClearHighlight(tree_);
     case kFirstClosing:
         edits_->SetFirstClosing(true);
         return ShowSelected();

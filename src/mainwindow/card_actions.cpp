@@ -1,0 +1,120 @@
+#include "mainwindow/card_actions.h"
+
+#include "app/common_routines.h"
+#include "app/module_values.h"
+#include "mainwindow/awards_section.h"
+#include "mainwindow/dog_panel.h"
+#include "mainwindow/entries_section.h"
+#include "mainwindow/entry_ticks.h"
+#include "mainwindow/main_tree.h"
+#include "mainwindow/node_panels.h"
+#include "mainwindow/owner_panel.h"
+#include "mainwindow/owner_section.h"
+#include "mainwindow/window_opener.h"
+#include "platform/platform.h"
+#include "store/connection.h"
+#include "store/meny.h"
+
+namespace lorvo {
+
+CardActions::CardActions(MainTree& tree, NodePanels& panels, DogPanel& dogPanel,
+                         OwnerPanel& ownerPanel, OwnerNavigation& navigation)
+    : tree_(tree), panels_(panels), navigation_(navigation) {
+    ConnectDogPanel(dogPanel);
+    ConnectOwnerPanel(ownerPanel);
+}
+
+void CardActions::ConnectDogPanel(DogPanel& panel) {
+    connect(&panel, &DogPanel::EditClicked, this, &CardActions::EditDog);
+
+    const OwnerSection* owner = &panel.Owner();
+    connect(owner, &OwnerSection::OwnerClicked, this, &CardActions::ClickOwnerName);
+    connect(owner, &OwnerSection::EmailClicked, this, &CardActions::WriteEmail);
+    connect(owner, &OwnerSection::NeighbourClicked, this,
+            [this](const QString& key) { navigation_.GoToDog(key); });
+    connect(owner, &OwnerSection::DogListClicked, this, [this] { navigation_.ShowDogMenu(); });
+    connect(owner, &OwnerSection::EditOwnerClicked, this,
+            [] { Open(QStringLiteral("frmEditMan")); });
+
+    const EntriesSection* entries = &panel.Entries();
+    connect(entries, &EntriesSection::EntriesTicked, this, &CardActions::WriteTickedEntries);
+    connect(entries, &EntriesSection::NewPaymentClicked, this, &CardActions::TakePayment);
+    connect(entries, &EntriesSection::PaymentsClicked, this, &CardActions::ShowPaymentsOfDog);
+
+    connect(&panel.AwardsList(), &AwardsSection::AwardsTicked, this,
+            [](const CheckLines& awards) { WriteAwards(Module().CurrentDogID, awards); });
+}
+
+void CardActions::ConnectOwnerPanel(OwnerPanel& panel) {
+    connect(&panel, &OwnerPanel::EmailClicked, this, &CardActions::WriteEmail);
+    connect(&panel, &OwnerPanel::PaymentsClicked, this, [] {
+        Module().PaymentsOwner = Module().CurrentOwner;
+        Open(QStringLiteral("frmUhrady"));
+    });
+    connect(&panel, &OwnerPanel::BackClicked, this, &CardActions::BackToDog);
+    connect(&panel, &OwnerPanel::DogClicked, this,
+            [this](const QString& key) { navigation_.SelectDog(key); });
+    connect(&panel, &OwnerPanel::DogDoubleClicked, this, [this] { panels_.ShowSelectedNode(); });
+}
+
+void CardActions::EditDog() {
+    if (!tree_.SelectedNode())
+        return;
+    Module().IsAddingDog = false;
+    Open(QStringLiteral("fm_Dog"));
+}
+
+void CardActions::ClickOwnerName(Qt::MouseButton button) {
+    if (button == Qt::LeftButton)
+        panels_.ShowOwner();
+    else if (button == Qt::RightButton)
+        navigation_.ShowDogMenu();
+}
+
+void CardActions::WriteEmail(const QString& address) {
+    if (address.isEmpty())
+        return;
+    if (IsEmailValid(address))
+        ThePlatform().opener->OpenAddress(QStringLiteral("mailto:") + address);
+    else
+        ShowMessage(QStringLiteral("Neplatný tvar e-mailové adresy"), MessageIcon::Information);
+}
+
+void CardActions::TakePayment() {
+    if (CountCurrencies() == 0) {
+        ShowMessage(QStringLiteral("Platbu nelze přijmout, v seznamu měn není vytvořena žádná "
+                                   "měna. Můžete ji přidat v okně Nastavení/Měny"),
+                    MessageIcon::Exclamation);
+        return;
+    }
+    if (tree_.SelectedNode())
+        Open(QStringLiteral("frmPlatba"));
+}
+
+void CardActions::ShowPaymentsOfDog() {
+    if (!tree_.SelectedNode())
+        return;
+    Module().PaymentsOwner = 0;
+    Open(QStringLiteral("frmUhrady"));
+}
+
+// The events run after the writes and not among them, so that another tick finds all rows written.
+void CardActions::WriteTickedEntries(const CheckLines& lines) {
+    WriteEntries(Module().CurrentDogID, lines);
+    ThePlatform().ui->ProcessEvents();
+    SkipFailure([this] { BackToDog(); });
+}
+
+void CardActions::BackToDog() {
+    const TreeNode* node = tree_.SelectedNode();
+    if (!node)
+        return;
+    tree_.EnsureVisible(node);
+    panels_.ShowNodeInfo(*node);
+}
+
+void CardActions::ShowMessage(const QString& text, MessageIcon icon) {
+    ThePlatform().messages->Show(text, icon, MessageButtons::Ok, panels_.window()->windowTitle());
+}
+
+} // namespace lorvo

@@ -1,0 +1,244 @@
+#include "mainwindow/node_panels.h"
+
+#include "app/module_values.h"
+#include "forms/controls.h"
+#include "mainwindow/breed_panel.h"
+#include "mainwindow/card_actions.h"
+#include "mainwindow/class_panel.h"
+#include "mainwindow/dog_panel.h"
+#include "mainwindow/fci_panel.h"
+#include "mainwindow/main_tree.h"
+#include "mainwindow/node_history.h"
+#include "mainwindow/owner_panel.h"
+#include "mainwindow/ring_panel.h"
+#include "mainwindow/status_panels.h"
+#include "mainwindow/window_opener.h"
+
+#include <QHBoxLayout>
+#include <QScopeGuard>
+#include <QStackedWidget>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kPictureSize = 32;
+
+QPushButton* HistoryButton(const QString& name, const QString& text, const QString& icon,
+                           QWidget* parent) {
+    auto* button = Named(new QPushButton(ProgramIcon(icon), text, parent), name);
+    button->setEnabled(false);
+    return button;
+}
+
+/// How many nodes the path to a node has, itself included.
+int PathLength(const TreeNode& node) {
+    switch (node.Kind()) {
+    case NodeKind::UnassignedRoot:
+    case NodeKind::Ring:
+        return 1;
+    case NodeKind::Breed:
+        return 2;
+    case NodeKind::Class:
+        return 3;
+    case NodeKind::Dog:
+        break;
+    }
+    const bool belowClass = node.parent && node.parent->Kind() == NodeKind::Class;
+    return Module().ShowClassesOn && belowClass ? 4 : 3;
+}
+
+} // namespace
+
+NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& history, QWidget* parent)
+    : QWidget(parent), tree_(tree), nodes_(tree.Nodes()), status_(status), history_(history),
+      stack_(new QStackedWidget(this)), nothing_(new QWidget), picKruhInfo(new RingPanel(nullptr)),
+      picPlemenoInfo(new BreedPanel(nullptr)), picTridaInfo(new ClassPanel(nullptr)),
+      picFCIInfo(new FciPanel(nullptr)), picPesInfo(new DogPanel(nullptr)),
+      picMajitelInfo(new OwnerPanel(nullptr)) {
+    setObjectName(QStringLiteral("picDetails"));
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(TitleRow());
+    column->addWidget(stack_, 1);
+    for (QWidget* panel :
+         std::initializer_list<QWidget*>{nothing_, picKruhInfo, picPlemenoInfo, picTridaInfo,
+                                         picFCIInfo, picPesInfo, picMajitelInfo})
+        AddPanel(panel);
+    navigation_ = std::make_unique<OwnerNavigation>(tree, *this);
+    actions_ =
+        std::make_unique<CardActions>(tree, *this, *picPesInfo, *picMajitelInfo, *navigation_);
+    connect(picKruhInfo, &RingPanel::EditClicked, this, &NodePanels::EditRing);
+}
+
+NodePanels::~NodePanels() = default;
+
+QLayout* NodePanels::TitleRow() {
+    picMode = Named(new QLabel(this), QStringLiteral("picMode"));
+    picMode->setFixedSize(kPictureSize, kPictureSize);
+    lblItemTitle = Named(new QLabel(this), QStringLiteral("lblItemTitle"));
+    lblItemTitle->setTextFormat(Qt::PlainText);
+    lblItemTitle->setWordWrap(true);
+    QFont large = lblItemTitle->font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    large.setBold(true);
+    lblItemTitle->setFont(large);
+    cmdHistoryBack = HistoryButton(QStringLiteral("cmdHistoryBack"), QStringLiteral("Zpět"),
+                                   QStringLiteral("back"), this);
+    cmdHistoryFwd = HistoryButton(QStringLiteral("cmdHistoryFwd"), QStringLiteral("Vpřed"),
+                                  QStringLiteral("forward"), this);
+    const NodeHistory::Show show = [this](const QString& key) {
+        ShowNodeInfo(key);
+    };
+    connect(cmdHistoryBack, &QPushButton::clicked, this, [this, show] {
+        history_.GoBack(show);
+        UpdateHistoryButtons();
+    });
+    connect(cmdHistoryFwd, &QPushButton::clicked, this, [this, show] {
+        history_.GoForward(show);
+        UpdateHistoryButtons();
+    });
+    auto* row = new QHBoxLayout;
+    row->addWidget(picMode);
+    row->addWidget(lblItemTitle, 1);
+    row->addWidget(cmdHistoryBack);
+    row->addWidget(cmdHistoryFwd);
+    return row;
+}
+
+void NodePanels::UpdateHistoryButtons() {
+    cmdHistoryBack->setEnabled(history_.BackEnabled());
+    cmdHistoryFwd->setEnabled(history_.ForwardEnabled());
+}
+
+void NodePanels::ShowNodeInfo(const QString& key) {
+    ShowNodeInfo(nodes_.Get(key));
+}
+
+void NodePanels::ShowSelectedNode() {
+    if (const TreeNode* node = tree_.SelectedNode())
+        ShowNodeInfo(*node);
+}
+
+void NodePanels::ShowNodeInfo(const TreeNode& node) {
+    history_.Record(node.Key());
+    UpdateHistoryButtons();
+    nodes_.ClearPath();
+    SetPicture(tree_.IconOf(node));
+    SetTitle(node.text);
+    // A ring that the store doesn't know yet has no figures.
+    if (!node.keyed)
+        return;
+    ShowPanelOf(node);
+    MarkPath(node);
+}
+
+void NodePanels::ShowPanelOf(const TreeNode& node) {
+    switch (node.Kind()) {
+    case NodeKind::UnassignedRoot:
+    case NodeKind::Ring:
+        ShowRing(node);
+        break;
+    case NodeKind::Breed:
+        ShowBreed(node);
+        break;
+    case NodeKind::Class:
+        ShowClass(node);
+        break;
+    case NodeKind::Dog:
+        ShowDog(node.Id());
+        break;
+    }
+}
+
+void NodePanels::ShowRing(const TreeNode& ring) {
+    BringToFront(picKruhInfo);
+    ringOnShow_ = ring.Key();
+    picKruhInfo->SetEditable(ring.Kind() == NodeKind::Ring &&
+                             CanOpen(QStringLiteral("frmNazevKruhu")));
+    picKruhInfo->ShowFigures(FiguresOfRing(ring.Id()));
+}
+
+void NodePanels::ShowBreed(const TreeNode& breed) {
+    SetTitle(TitleOfBreed(breed.Id()));
+    BringToFront(picPlemenoInfo);
+    picPlemenoInfo->ShowFigures(FiguresOfBreed(breed.Id()));
+}
+
+void NodePanels::ShowClass(const TreeNode& node) {
+    BringToFront(picTridaInfo);
+    picTridaInfo->ShowDogCount(DogCountOfClass(node.Id(), node.key.trida));
+}
+
+void NodePanels::ShowFciGroup(int group) {
+    BringToFront(picFCIInfo);
+    picFCIInfo->ShowFigures(FiguresOfFci(group));
+}
+
+void NodePanels::ShowDog(int psiID) {
+    BringToFront(picPesInfo);
+    // A failure leaves on show what was filled before it.
+    const auto show = qScopeGuard([this] {
+        SetTitle(dogCard_.title);
+        picPesInfo->ShowCard(dogCard_);
+    });
+    FillDogCard(dogCard_, psiID);
+}
+
+void NodePanels::ShowOwner() {
+    Module().CurrentOwner = dogCard_.MajitelID;
+    BringToFront(picMajitelInfo);
+    FillOwnerLines(ownerCard_, Module().CurrentOwner);
+    SetTitle(ownerCard_.title);
+    SetPicture(ProgramIcon(QStringLiteral("owner")));
+    RefillOwnerDogs();
+}
+
+void NodePanels::RefillOwnerDogs() {
+    const auto show = qScopeGuard([this] { picMajitelInfo->ShowCard(ownerCard_); });
+    FillOwnerDogs(ownerCard_, Module().CurrentOwner);
+}
+
+void NodePanels::MarkPath(const TreeNode& node) {
+    std::vector<TreeNode*> ancestors;
+    const int length = PathLength(node);
+    for (TreeNode* above = node.parent; above && std::ssize(ancestors) + 1 < length;
+         above = above->parent)
+        ancestors.insert(ancestors.begin(), above);
+    int panel = 0;
+    for (TreeNode* ancestor : ancestors) {
+        nodes_.MarkOnPath(ancestor);
+        status_.SetPanel(++panel, ancestor->text, tree_.IconOf(*ancestor));
+    }
+    status_.SetPanel(++panel, node.text, tree_.IconOf(node));
+    status_.ShowPanels(panel);
+    while (panel < StatusPanels::kCount)
+        status_.SetPanel(++panel, QString());
+}
+
+// The ring's window works on the selected node, which the history may have left behind.
+void NodePanels::EditRing() {
+    tree_.SelectNode(&nodes_.Get(ringOnShow_));
+    Open(QStringLiteral("frmNazevKruhu"));
+}
+
+void NodePanels::SetTitle(const QString& title) {
+    lblItemTitle->setText(title);
+}
+
+void NodePanels::SetPicture(const QIcon& icon) {
+    picMode->setPixmap(icon.pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+}
+
+void NodePanels::AddPanel(QWidget* panel) {
+    stack_->addWidget(panel);
+}
+
+void NodePanels::BringToFront(QWidget* panel) {
+    stack_->setCurrentWidget(panel);
+}
+
+void NodePanels::HidePanels() {
+    BringToFront(nothing_);
+}
+
+} // namespace lorvo

@@ -1,0 +1,100 @@
+#pragma once
+// The right side of the main window: title and picture of the node on show, the history buttons,
+// and one panel in front of the others.
+
+#include "mainwindow/dog_card.h"
+#include "mainwindow/owner_card.h"
+#include "mainwindow/owner_navigation.h"
+
+#include <QWidget>
+#include <memory>
+
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+
+namespace lorvo {
+
+class BreedPanel;
+class CardActions;
+class ClassPanel;
+class DogPanel;
+class FciPanel;
+class MainTree;
+class NodeHistory;
+class OwnerPanel;
+class RingPanel;
+class StatusPanels;
+class TreeNodes;
+struct TreeNode;
+
+class NodePanels : public QWidget {
+    Q_OBJECT
+  public:
+    /// `status` takes the path to the node on show. All three outlive the panels.
+    NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& history, QWidget* parent);
+    ~NodePanels() override;
+
+    /// Records the node in the history, marks the path to it in the tree and in the status bar, and
+    /// shows its panel, with all figures read afresh. Raises what the store raises; what was filled
+    /// before stays on show.
+    void ShowNodeInfo(const TreeNode& node);
+    /// The same by key; raises Error when there is no such node.
+    void ShowNodeInfo(const QString& key);
+    /// The node selected in the tree; nothing when none is.
+    void ShowSelectedNode();
+    /// The panel of an FCI group.
+    void ShowFciGroup(int group);
+
+    /// Brings the panel of the owner of the dog on show to the front and sets `CurrentOwner`.
+    void ShowOwner();
+    /// Refills the dogs of `CurrentOwner` on the owner panel, which need not be in front.
+    void RefillOwnerDogs();
+
+    void SetTitle(const QString& title);
+    /// A null icon clears the picture.
+    void SetPicture(const QIcon& icon);
+    /// Takes in a panel of the main window's own, not in front.
+    void AddPanel(QWidget* panel);
+    void BringToFront(QWidget* panel);
+    void HidePanels();
+
+    OwnerNavigation& Navigation() { return *navigation_; }
+
+  private:
+    QLayout* TitleRow();
+    void ShowPanelOf(const TreeNode& node);
+    void ShowRing(const TreeNode& ring);
+    void ShowBreed(const TreeNode& breed);
+    void ShowClass(const TreeNode& node);
+    void ShowDog(int psiID);
+    void MarkPath(const TreeNode& node);
+    void UpdateHistoryButtons();
+    void EditRing();
+
+    MainTree& tree_;
+    TreeNodes& nodes_;
+    StatusPanels& status_;
+    NodeHistory& history_;
+
+    QLabel* picMode;
+    QLabel* lblItemTitle;
+    QPushButton* cmdHistoryBack;
+    QPushButton* cmdHistoryFwd;
+    QStackedWidget* stack_;
+    QWidget* nothing_; ///< in front when all panels are hidden
+    RingPanel* picKruhInfo;
+    BreedPanel* picPlemenoInfo;
+    ClassPanel* picTridaInfo;
+    FciPanel* picFCIInfo;
+    DogPanel* picPesInfo;
+    OwnerPanel* picMajitelInfo;
+
+    DogCard dogCard_;
+    OwnerCard ownerCard_;
+    QString ringOnShow_; ///< key of the ring whose panel was filled last
+    std::unique_ptr<OwnerNavigation> navigation_;
+    std::unique_ptr<CardActions> actions_;
+};
+
+} // namespace lorvo

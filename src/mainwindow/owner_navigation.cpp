@@ -1,0 +1,82 @@
+#include "mainwindow/owner_navigation.h"
+
+#include "app/module_values.h"
+#include "mainwindow/main_tree.h"
+#include "mainwindow/node_panels.h"
+#include "mainwindow/owner_highlight.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+#include "store/psi.h"
+
+namespace lorvo {
+
+namespace {
+
+// Numbers of the menu's entries; a positive one is a dog's ID.
+constexpr int kHighlightNumber = -1;
+constexpr int kClearNumber = -3;
+
+MenuEntry Entry(int number, const QString& text) {
+    MenuEntry entry;
+    entry.number = number;
+    entry.text = text;
+    return entry;
+}
+
+int OwnerOfCurrentDog() {
+    const std::optional<int> owner = OwnerOfDog(Module().CurrentDogID);
+    if (!owner)
+        throw StoreError("V tabulce Psi není řádek s číslem " +
+                         std::to_string(Module().CurrentDogID) + ".");
+    return *owner;
+}
+
+std::vector<MenuEntry> DogMenu(int ownerID) {
+    std::vector<MenuEntry> entries;
+    for (const Psi& dog : DogsOfOwner(ownerID)) {
+        entries.push_back(Entry(dog.ID, dog.Jmeno));
+        entries.back().checked = dog.ID == Module().CurrentDogID;
+    }
+    entries.push_back(MenuEntry::Separator());
+    entries.push_back(
+        Entry(kHighlightNumber, QStringLiteral("Zvýraznit všechny psy tohoto majitele")));
+    entries.push_back(Entry(kClearNumber, QStringLiteral("Zrušit zvýraznění")));
+    return entries;
+}
+
+} // namespace
+
+OwnerNavigation::OwnerNavigation(MainTree& tree, NodePanels& panels)
+    : tree_(tree), panels_(panels) {}
+
+void OwnerNavigation::GoToDog(const QString& key) {
+    const TreeNode* node = tree_.Nodes().Find(key);
+    if (!node)
+        return;
+    tree_.SelectNode(node);
+    panels_.ShowNodeInfo(*node);
+    tree_.setFocus();
+    // Taking the keyboard may have moved the selection.
+    tree_.SelectNode(node);
+}
+
+void OwnerNavigation::ShowDogMenu() {
+    CarryOut(ThePlatform().menus->TrackPopup(DogMenu(OwnerOfCurrentDog())));
+    panels_.ShowSelectedNode();
+}
+
+void OwnerNavigation::SelectDog(const QString& key) {
+    if (const TreeNode* node = tree_.Nodes().Find(key))
+        tree_.SelectNode(node);
+}
+
+void OwnerNavigation::CarryOut(int number) {
+    if (number > 0)
+        SelectDog(NodeKey::Dog(number).ToText());
+    else if (number == kHighlightNumber)
+        HighlightOwnersDogs(tree_);
+    else if (number == kClearNumber)
+        ClearHighlight(tree_);
+}
+
+} // namespace lorvo
