@@ -26,6 +26,12 @@ std::string_view EntityOf(char32_t character) {
     }
 }
 
+/// Most of any text: ASCII that stands for itself.
+bool IsOrdinary(QChar unit) {
+    return unit >= u' ' && unit < QChar(0x7F) && unit != u'&' && unit != u'<' && unit != u'>' &&
+           unit != u'"';
+}
+
 /// The code point at `position`, which moves behind it. A lone surrogate is returned as it is.
 char32_t NextCodePoint(QStringView text, qsizetype& position) {
     const QChar unit = text[position++];
@@ -135,6 +141,10 @@ void XmlWriter::Flush() {
 
 void XmlWriter::AppendEscaped(QStringView text) {
     for (qsizetype position = 0; position < text.size();) {
+        if (IsOrdinary(text[position])) {
+            buffer_ += static_cast<char>(text[position++].unicode());
+            continue;
+        }
         const char32_t codePoint = NextCodePoint(text, position);
         if (const std::string_view entity = EntityOf(codePoint); !entity.empty())
             buffer_ += entity;
