@@ -2,6 +2,7 @@
 
 #include "forms/form.h"
 #include "platform/values/errors.h"
+#include "reports/frmTiskKatalog.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -18,8 +19,9 @@ template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
 }
 
 std::map<QString, WindowFactory>& Windows() {
-    // One line for each window, by name: {QStringLiteral("fm_Dog"), Make<fm_Dog>}.
-    static std::map<QString, WindowFactory> windows;
+    static std::map<QString, WindowFactory> windows{
+        {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
+    };
     return windows;
 }
 

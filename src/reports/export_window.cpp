@@ -22,23 +22,20 @@ QString UnderWay() {
 } // namespace
 
 ExportWindow::ExportWindow(const ExportTraits& traits, QWidget* parent)
-    : Form(traits.name, traits.caption, Border::Fixed, parent),
-      cmdOK(Named(new QPushButton(traits.startCaption, this), QStringLiteral("cmdOK"))),
-      cmdCancel(Named(new QPushButton(traits.closeCaption, this), QStringLiteral("cmdCancel"))),
-      chkHTML(Named(new QCheckBox(QStringLiteral("HTML formát"), this), QStringLiteral("chkHTML"))),
-      traits_(traits) {
-    connect(cmdOK, &QPushButton::clicked, this, &ExportWindow::StartOrStop);
-    connect(cmdCancel, &QPushButton::clicked, this, &ExportWindow::reject);
-}
+    : Form(traits.name, traits.caption, Border::Fixed, parent), traits_(traits) {}
 
 void ExportWindow::LayOut(QWidget* options) {
+    chkHTML = Named(new QCheckBox(QStringLiteral("HTML formát"), this), QStringLiteral("chkHTML"));
+    cmdOK = Named(new QPushButton(traits_.startCaption, this), QStringLiteral("cmdOK"));
+    cmdCancel = Named(new QPushButton(traits_.closeCaption, this), QStringLiteral("cmdCancel"));
+    connect(cmdOK, &QPushButton::clicked, this, &ExportWindow::StartOrStop);
+    connect(cmdCancel, &QPushButton::clicked, this, &ExportWindow::reject);
+
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(options);
     layout->addWidget(chkHTML);
     layout->addStretch();
     layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
-    setTabOrder(chkHTML, cmdOK);
-    setTabOrder(cmdOK, cmdCancel);
 }
 
 // The tag outlives a run, so in a window that stays open the first click after a run only clears

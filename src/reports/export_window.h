@@ -40,7 +40,8 @@ class ExportWindow : public Form, public RunProgress {
 
   protected:
     ExportWindow(const ExportTraits& traits, QWidget* parent);
-    /// Puts the report's own options above the common controls; the last step of a constructor.
+    /// Makes the common controls and puts the report's own options above them; the last step of
+    /// a constructor, so that the Tab key comes to the options first.
     void LayOut(QWidget* options);
 
     /// Types the whole document; showing it is the frame's.
@@ -60,9 +61,9 @@ class ExportWindow : public Form, public RunProgress {
     /// A window whose run is under way closes when the run has ended, which is asked to stop.
     bool QueryUnload() override;
 
-    QPushButton* cmdOK;
-    QPushButton* cmdCancel;
-    QCheckBox* chkHTML;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* cmdCancel = nullptr;
+    QCheckBox* chkHTML = nullptr;
 
   private:
     void StartOrStop();

@@ -4,6 +4,7 @@
 #include "store/psi.h"
 #include "support/recording_platform.h"
 #include "support/temp_database.h"
+#include "support/window_walk.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
@@ -53,6 +54,13 @@ TEST_F(CatalogueWindow, OpensWithTheDocumentRouteAlone) {
     QTest::mouseClick(&html, Qt::LeftButton);
     QTest::keyClick(&html, Qt::Key_Space);
     EXPECT_FALSE(html.isChecked());
+}
+
+TEST_F(CatalogueWindow, IsLaidOutForReadingAndForTheKeyboard) {
+    WalkWindow(window);
+    EXPECT_TRUE(Control<QPushButton>("cmdOK").isDefault());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(CatalogueWindow, PutsTheCatalogueOutAndStaysOpen) {
