@@ -36,7 +36,7 @@ DogListRow ReadDogListRow(const Query& row) {
     return dog;
 }
 
-FeeDog ReadFeeDog(const Query& row) {
+DogFeeRow ReadDogFeeRow(const Query& row) {
     return {row.Int(0), row.Int(1), row.Int(2), row.Bool(3), row.Bool(4)};
 }
 
@@ -50,8 +50,8 @@ std::vector<DogListRow> DogsWithOwnersByName() {
     return ReadMany(kWithOwners, ReadDogListRow);
 }
 
-std::vector<FeeDog> FeeDogs() {
-    return ReadMany("SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi", ReadFeeDog);
+std::vector<DogFeeRow> DogFeeRows() {
+    return ReadMany("SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi", ReadDogFeeRow);
 }
 
 std::vector<Psi> DogsByNumber() {

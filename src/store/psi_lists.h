@@ -26,7 +26,7 @@ struct DogListRow {
 };
 
 /// What the fee of a dog depends on.
-struct FeeDog {
+struct DogFeeRow {
     int ID = 0;
     int MajitelID = 0;
     int Trida = 0;
@@ -37,7 +37,7 @@ struct FeeDog {
 /// Dogs whose breed and owner exist, in Czech order of Jmeno.
 std::vector<DogListRow> DogsWithOwnersByName();
 /// All dogs in ID order.
-std::vector<FeeDog> FeeDogs();
+std::vector<DogFeeRow> DogFeeRows();
 
 /// All dogs by Cislo; those without a number first.
 std::vector<Psi> DogsByNumber();

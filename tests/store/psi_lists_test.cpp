@@ -46,10 +46,10 @@ TEST_F(PsiListsTest, TheDogListJoinsOwnerAndBreedAndDropsOrphans) {
     EXPECT_EQ(row.JmenoMajitele, u"Jan O'Neil");
 }
 
-TEST_F(PsiListsTest, FeeDogsComeInIDOrder) {
+TEST_F(PsiListsTest, FeeRowsComeInIDOrder) {
     const int b = AddDog("b", {{"MajitelID", 2}, {"Trida", 3}, {"PrvniUzaverka", true}});
     const int a = AddDog("a", {{"MajitelID", 1}, {"Trida", Value()}, {"PrvniPes", true}});
-    const std::vector<FeeDog> dogs = FeeDogs();
+    const std::vector<DogFeeRow> dogs = DogFeeRows();
     ASSERT_EQ(dogs.size(), 2u);
     EXPECT_EQ(dogs[0].ID, b);
     EXPECT_EQ(dogs[0].MajitelID, 2);

@@ -144,8 +144,8 @@ TEST_F(PsiTest, EqualNamesComeInIDOrder) {
 TEST_F(PsiTest, DogsOfABreedComeBySexClassAndName) {
     AddDog("Žofie", {{"PlemenoID", 4}, {"PohlaviPes", false}, {"Trida", 1}});
     AddDog("Rek", {{"PlemenoID", 4}, {"PohlaviPes", true}, {"Trida", 2}});
-    AddDog("Ířa", {{"PlemenoID", 4}, {"PohlaviPes", true}, {"Trida", 1}});
     AddDog("Jeník", {{"PlemenoID", 4}, {"PohlaviPes", true}, {"Trida", 1}});
+    AddDog("Ířa", {{"PlemenoID", 4}, {"PohlaviPes", true}, {"Trida", 1}});
     AddDog("Bez třídy", {{"PlemenoID", 4}, {"PohlaviPes", true}, {"Trida", Value()}});
     AddDog("Cizí", {{"PlemenoID", 3}, {"PohlaviPes", true}});
     const Texts order = {"Bez třídy", "Ířa", "Jeník", "Rek", "Žofie"};
