@@ -1,0 +1,24 @@
+# Puts the program folder together; run as a script with
+#   FOLDER     the program folder
+#   DATABASE   the delivered database
+#   TEMPLATES  the folder of delivered templates
+#   HELP       the compiled help
+# What a clerk has worked on is never overwritten: the database not at all, a template only when
+# the delivered one is newer.
+file(MAKE_DIRECTORY ${FOLDER})
+
+if(NOT EXISTS ${FOLDER}/data.mdb)
+  file(COPY ${DATABASE} DESTINATION ${FOLDER})
+endif()
+
+file(COPY_FILE ${HELP} ${FOLDER}/Lorvo.chm ONLY_IF_DIFFERENT)
+
+get_filename_component(name ${TEMPLATES} NAME)
+file(MAKE_DIRECTORY ${FOLDER}/${name})
+file(GLOB templates ${TEMPLATES}/*.html)
+foreach(template ${templates})
+  get_filename_component(file ${template} NAME)
+  if(${template} IS_NEWER_THAN ${FOLDER}/${name}/${file})
+    file(COPY ${template} DESTINATION ${FOLDER}/${name} NO_SOURCE_PERMISSIONS)
+  endif()
+endforeach()
