@@ -8,7 +8,7 @@
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
-#include <algorithm>
+#include <array>
 
 namespace lorvo {
 
@@ -18,34 +18,29 @@ QString GroupOf(QStringView key) {
     return key.left(key.indexOf(u':')).toString();
 }
 
-/// The pictures by position, one list for the buttons of the main bar, one for its drop-down bars,
-/// one for the bars beside lists.
-QIcon CommandIcon(const Command& command) {
-    static const QStringList kMain = {QStringLiteral("add"),
-                                      QStringLiteral("tables"),
-                                      QStringLiteral("export"),
-                                      QStringLiteral("settings"),
-                                      QString(),
-                                      QStringLiteral("help")};
-    static const QStringList kTables = {QStringLiteral("ring"),        QStringLiteral("dog"),
-                                        QStringLiteral("breed"),       QStringLiteral("show"),
-                                        QStringLiteral("competition"), QStringLiteral("owner"),
-                                        QStringLiteral("payment"),     QStringLiteral("parents"),
-                                        QStringLiteral("colour"),      QStringLiteral("award")};
-    static const QStringList kListBars = {QStringLiteral("add"), QStringLiteral("edit"),
-                                          QStringLiteral("delete"), QStringLiteral("filter"),
-                                          QStringLiteral("help")};
-    static const QStringList kDogList = {QStringLiteral("filter")};
+/// The pictures of one list by position; the bars of the main window have a large and a small list,
+/// the bars beside lists share one.
+using Pictures = std::array<const char16_t*, 10>;
+constexpr Pictures kMainPictures = {u"add", u"tables", u"export", u"settings", u"blank", u"help"};
+constexpr Pictures kMenuPictures = {u"ring",      u"dog",     u"breed",   u"show",   u"competition",
+                                    u"exhibitor", u"payment", u"parents", u"colour", u"award"};
+constexpr Pictures kListPictures = {u"add", u"edit", u"delete", u"hide", u"help"};
+constexpr Pictures kDogListPictures = {u"filter"};
 
+const Pictures& PicturesOf(const QString& key) {
+    const QString group = GroupOf(key);
+    if (group == key)
+        return kMainPictures;
+    if (group == u"ADD" || group == u"TABLES")
+        return kMenuPictures;
+    return group == u"DOGLIST" ? kDogListPictures : kListPictures;
+}
+
+QIcon CommandIcon(const Command& command) {
     if (command.icon < 0)
         return {};
-    const QString group = GroupOf(command.key);
-    const bool dropDown = group == u"ADD" || group == u"TABLES";
-    const QStringList& names = !command.key.contains(u':') ? kMain
-                               : dropDown                  ? kTables
-                               : group == u"DOGLIST"       ? kDogList
-                                                           : kListBars;
-    return ProgramIcon(names[command.icon]);
+    const Pictures& pictures = PicturesOf(command.key.toString());
+    return ProgramIcon(QString::fromUtf16(pictures.at(static_cast<std::size_t>(command.icon))));
 }
 
 } // namespace

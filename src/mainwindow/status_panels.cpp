@@ -12,35 +12,37 @@ StatusPanels::StatusPanels(const QString& name, QWidget* parent) : QStatusBar(pa
     setObjectName(name);
     for (int number = 1; number <= kCount; ++number) {
         PanelAt(number) = MakePanel(number);
-        addWidget(PanelAt(number).box);
+        SetPanel(number, QString());
+        addWidget(PanelAt(number).text);
     }
     ShowPanels(0);
 }
 
 StatusPanels::Panel StatusPanels::MakePanel(int number) {
     const QString name = QStringLiteral("%1(%2)").arg(objectName()).arg(number);
-    auto* box = new QWidget(this);
-    auto* picture = Named(new QLabel(box), name + QStringLiteral(".picture"));
-    auto* text = Named(new QLabel(box), name);
+    auto* text = Named(new QLabel(this), name);
     // A name is shown as it is, whatever signs it holds.
     text->setTextFormat(Qt::PlainText);
     text->setAccessibleName(QStringLiteral("Cesta %1").arg(number));
-    auto* row = new QHBoxLayout(box);
-    row->setContentsMargins(0, 0, style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing), 0);
+    auto* picture = Named(new QLabel(text), name + QStringLiteral(".picture"));
+    auto* row = new QHBoxLayout(text);
+    row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(picture);
-    row->addWidget(text);
-    return {box, picture, text};
+    row->addStretch();
+    return {text, picture};
 }
 
 void StatusPanels::SetPanel(int number, const QString& text, const QIcon& icon) {
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    const int gap = size / 4;
     Panel& panel = PanelAt(number);
-    panel.text->setText(text);
     panel.picture->setPixmap(icon.pixmap(QSize(size, size), devicePixelRatioF()));
+    panel.text->setText(text);
+    panel.text->setIndent(icon.isNull() ? gap : size + gap);
 }
 
 void StatusPanels::SetPanelVisible(int number, bool visible) {
-    PanelAt(number).box->setVisible(visible);
+    PanelAt(number).text->setVisible(visible);
 }
 
 void StatusPanels::ShowPanels(int count) {

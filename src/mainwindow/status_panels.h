@@ -26,9 +26,8 @@ class StatusPanels : public QStatusBar {
 
   private:
     struct Panel {
-        QWidget* box;
-        QLabel* picture;
         QLabel* text;
+        QLabel* picture; ///< lies on the text's left end
     };
     Panel MakePanel(int number);
     Panel& PanelAt(int number) { return panels_.at(static_cast<std::size_t>(number - 1)); }

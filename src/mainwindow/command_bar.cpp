@@ -1,0 +1,120 @@
+#include "mainwindow/command_bar.h"
+
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "mainwindow/window_opener.h"
+#include "platform/platform.h"
+
+#include <QAction>
+#include <QMap>
+
+namespace lorvo {
+
+namespace {
+
+const QString kContextHelp = QStringLiteral("HELP:CONTEXT");
+
+/// The window that a command opens.
+const QMap<QString, QString>& WindowsOfCommands() {
+    static const QMap<QString, QString> windows = {
+        {QStringLiteral("SETTINGS"), QStringLiteral("fm_Settings")},
+        {QStringLiteral("TABLES:PLEMENA"), QStringLiteral("fm_Plemena")},
+        {QStringLiteral("TABLES:PSI"), QStringLiteral("fm_DogsList")},
+        {QStringLiteral("TABLES:BARVY"), QStringLiteral("fm_Colors")},
+        {QStringLiteral("TABLES:SOUTEZE"), QStringLiteral("fm_Souteze")},
+        {QStringLiteral("TABLES:VYSTAVY"), QStringLiteral("frmVystavy")},
+        {QStringLiteral("TABLES:VYSTAVOVATELE"), QStringLiteral("frmVystavovatele")},
+        {QStringLiteral("TABLES:OCENENI"), QStringLiteral("frmOceneni")},
+        {QStringLiteral("TABLES:PLATBY"), QStringLiteral("frmPrehledPlateb")},
+        {QStringLiteral("TABLES:RODICE"), QStringLiteral("frmParents")},
+        {QStringLiteral("EXPORT:SEZNAMPSU"), QStringLiteral("frmTiskSeznamuPsu")},
+        {QStringLiteral("EXPORT:DIPLOMY"), QStringLiteral("fmDiplom")},
+        {QStringLiteral("EXPORT:PREHLEDPLEMEN"), QStringLiteral("frmPrehledPlemen")},
+        {QStringLiteral("EXPORT:SEZNAMVYSTAVOVATELU"),
+         QStringLiteral("frmTiskSeznamVystavovatelu")},
+        {QStringLiteral("EXPORT:POSUDKOVELISTY"), QStringLiteral("frmTiskPosudku")},
+        {QStringLiteral("EXPORT:KATALOG"), QStringLiteral("frmTiskKatalog")},
+        {QStringLiteral("EXPORT:POZVANKY"), QStringLiteral("frmTiskPozvanek")},
+        {QStringLiteral("EXPORT:PLATBY"), QStringLiteral("frmTiskPlateb")},
+    };
+    return windows;
+}
+
+} // namespace
+
+MainCommandBar::MainCommandBar(CommandTarget& target, QObject* parent)
+    : CommandCollection(QStringLiteral("cmdBar"),
+                        {QStringLiteral("ADD"), QStringLiteral("TABLES"), QStringLiteral("EXPORT"),
+                         QStringLiteral("SETTINGS"), QStringLiteral("HELP"),
+                         QStringLiteral("COLORS")},
+                        parent),
+      target_(target) {
+    const auto& windows = WindowsOfCommands();
+    for (auto row = windows.begin(); row != windows.end(); ++row)
+        Action(row.key())->setEnabled(CanOpen(row.value()));
+    connect(this, &CommandCollection::CommandClick, this, &MainCommandBar::Run);
+}
+
+void MainCommandBar::Run(const QString& key) {
+    if (WindowsOfCommands().contains(key))
+        OpenWindowOf(key);
+    else if (key == u"ADD:CIRCLE")
+        target_.AddRing();
+    else if (key == u"ADD:DOG")
+        target_.AddDog();
+    else if (key == u"HELP:ABOUT")
+        target_.ShowAbout();
+    else if (key == u"HELP:GENERAL")
+        OpenHelp();
+    else if (key == kContextHelp)
+        SwitchContextHelp();
+}
+
+void MainCommandBar::OpenWindowOf(const QString& key) {
+    const QString window = WindowsOfCommands().value(key);
+    Open(window);
+    if (window == u"fm_Plemena")
+        ReturnFromBreeds();
+    else if (window == u"fm_DogsList")
+        ReturnFromDogs();
+}
+
+void MainCommandBar::ReturnFromBreeds() {
+    MainWindowServices& mainWindow = TheMainWindow();
+    if (Module().BreedListChanged)
+        mainWindow.LoadData();
+    if (Module().JumpToBreed <= 0)
+        return;
+    const QString breed = u'R' + QString::number(Module().JumpToBreed);
+    target_.FocusTree();
+    mainWindow.MakeNodeVisible(breed);
+    mainWindow.SelectNode(breed);
+    ThePlatform().ui->ProcessEvents();
+    mainWindow.ShowNodeInfo(breed);
+}
+
+void MainCommandBar::ReturnFromDogs() {
+    if (!Module().ListJumpedToDog)
+        return;
+    target_.FocusTree();
+    TheMainWindow().ShowNodeInfo(TheMainWindow().SelectedNode());
+}
+
+void MainCommandBar::SwitchContextHelp() {
+    target_.SetHelpPointer(Action(kContextHelp)->isChecked());
+}
+
+void MainCommandBar::NodeClicked() {
+    QAction* contextHelp = Action(kContextHelp);
+    if (!contextHelp->isChecked())
+        return;
+    OpenHelp();
+    target_.SetHelpPointer(false);
+    contextHelp->setChecked(false);
+}
+
+void OpenHelp() {
+    ThePlatform().opener->OpenFile(ThePlatform().programFolder + QStringLiteral("/Lorvo.chm"));
+}
+
+} // namespace lorvo

@@ -1,0 +1,45 @@
+#pragma once
+// The main window's menu and tool bar in one: its commands, the bar STANDARD, and what each command
+// does.
+
+#include "forms/command_collection.h"
+
+namespace lorvo {
+
+/// What commands do on the main window itself.
+class CommandTarget {
+  public:
+    virtual ~CommandTarget() = default;
+    virtual void AddRing() = 0;
+    virtual void AddDog() = 0;
+    virtual void ShowAbout() = 0;
+    virtual void FocusTree() = 0;
+    virtual void SetHelpPointer(bool on) = 0;
+};
+
+class MainCommandBar : public CommandCollection {
+    Q_OBJECT
+  public:
+    /// A command whose window the program doesn't have stands greyed.
+    MainCommandBar(CommandTarget& target, QObject* parent);
+
+    /// Carries out a command; one without an action of its own does nothing.
+    void Run(const QString& key);
+
+    /// A node has been clicked: while the help pointer is on this opens the help and puts the
+    /// pointer back.
+    void NodeClicked();
+
+  private:
+    void OpenWindowOf(const QString& key);
+    void ReturnFromBreeds();
+    void ReturnFromDogs();
+    void SwitchContextHelp();
+
+    CommandTarget& target_;
+};
+
+/// Opens the help file of the program's folder.
+void OpenHelp();
+
+} // namespace lorvo

@@ -1,0 +1,254 @@
+#include "mainwindow/fm_main.h"
+
+#include "app/common_routines.h"
+#include "app/module_values.h"
+#include "app/start_up.h"
+#include "forms/controls.h"
+#include "forms/form_settings.h"
+#include "forms/report_list.h"
+#include "mainwindow/about_panel.h"
+#include "mainwindow/main_tree.h"
+#include "mainwindow/node_panels.h"
+#include "mainwindow/return_watch.h"
+#include "mainwindow/status_panels.h"
+#include "mainwindow/tree_commands.h"
+#include "platform/platform.h"
+#include "store/data_module.h"
+
+#include <QCloseEvent>
+#include <QSplitter>
+#include <QToolBar>
+#include <utility>
+
+namespace lorvo {
+
+namespace {
+
+constexpr QSize kDesignedSize(1120, 720);
+constexpr int kDesignedTreeWidth = 340;
+
+const QString kSplitterKey = QStringLiteral("Splitters\\fm_main");
+const QString kLeft = QStringLiteral("Left");
+
+/// Puts the divider at `left`; what is right of it follows the window's width.
+void PlaceSplitter(QSplitter& splitter, int left) {
+    splitter.setSizes({left, std::max(1, splitter.window()->width() - left)});
+}
+
+} // namespace
+
+fm_main::fm_main()
+    : cmdBar(new MainCommandBar(*this, this)),
+      sbMain(new StatusPanels(QStringLiteral("sbMain"), this)) {
+    setObjectName(QStringLiteral("fm_main"));
+    setWindowTitle(QStringLiteral("Lorvo"));
+    resize(kDesignedSize);
+    addToolBar(cmdBar->MakeBar(QStringLiteral("STANDARD"), this));
+    setStatusBar(sbMain);
+    MakeSplitter();
+    MakeAboutPanel();
+    treeCommands_ = new TreeCommands(*tvwMain, *this, this);
+    SetTheMainWindow(this);
+    SetActivatedBelow(this);
+}
+
+fm_main::~fm_main() {
+    SetActivatedBelow(nullptr);
+    SetTheMainWindow(nullptr);
+    // They look at the nodes to their end, and members go before children.
+    delete treeCommands_;
+    delete vbuSplit;
+}
+
+void fm_main::MakeSplitter() {
+    vbuSplit = Named(new QSplitter(this), QStringLiteral("vbuSplit"));
+    tvwMain = new MainTree(nodes_, vbuSplit);
+    picDetails = new NodePanels(*tvwMain, *sbMain, history_, vbuSplit);
+    vbuSplit->addWidget(tvwMain);
+    vbuSplit->addWidget(picDetails);
+    vbuSplit->setChildrenCollapsible(false);
+    vbuSplit->setStretchFactor(0, 0);
+    vbuSplit->setStretchFactor(1, 1);
+    PlaceSplitter(*vbuSplit, kDesignedTreeWidth);
+    setCentralWidget(vbuSplit);
+    connect(tvwMain, &MainTree::NodeClick, cmdBar, &MainCommandBar::NodeClicked);
+}
+
+void fm_main::MakeAboutPanel() {
+    picAbout = new AboutPanel(picDetails);
+    picDetails->AddPanel(picAbout);
+    connect(picAbout, &AboutPanel::MailAddressShown, sbMain, [this](const QString& address) {
+        sbMain->SetPanel(1, address);
+        sbMain->SetPanelVisible(1, true);
+    });
+    connect(picAbout, &AboutPanel::MailAddressHidden, sbMain, &StatusPanels::Clear);
+}
+
+// Start and end -----------------------------------------------------------------------------------
+
+void fm_main::Start() {
+    Load();
+    show();
+    connect(new ReturnWatch(*this), &ReturnWatch::Returned, this, [this] {
+        if (!IsModalOpen())
+            Activate();
+    });
+    QMetaObject::invokeMethod(
+        this, [this] { Activate(); }, Qt::QueuedConnection);
+}
+
+void fm_main::Load() {
+    ReadShowClasses();
+    SkipFailure(EnsureShow);
+    if (!TheDataModule().Conn1.IsOpen())
+        SkipFailure(OpenDatabase);
+    LoadFormSettings(*this, false);
+    RestoreSplitter();
+    FillConstantTables(Module());
+    SkipFailure([this] { LoadData(); });
+    picDetails->HidePanels();
+    SkipFailure([this] { RestoreSelection(); });
+    ShowGridLines(ShowGridPreferred());
+    EnsureMainCurrency();
+}
+
+void fm_main::RestoreSplitter() {
+    const auto left = ThePlatform().locale->PlainNumber(ReadRegValue(kSplitterKey, kLeft));
+    if (left && left->toDouble() >= 1)
+        PlaceSplitter(*vbuSplit, static_cast<int>(left->toDouble()));
+}
+
+void fm_main::RestoreSelection() {
+    const QString key = RememberedNode();
+    if (!key.isEmpty() && NodeExists(key))
+        SelectNode(key);
+}
+
+void fm_main::ShowGridLines(bool shown) {
+    for (const auto* name : {"lvwSouteze", "lvwOceneni", "lvwDogs"})
+        if (auto* list = picDetails->findChild<ReportList*>(QString::fromLatin1(name)))
+            list->SetGridLines(shown);
+}
+
+void fm_main::Activate() {
+    ReadShowClasses();
+    if (Module().PaymentsOwner != 0) {
+        Module().PaymentsOwner = 0;
+        picDetails->RefillOwnerDogs();
+        return;
+    }
+    const QString key = SelectedNode();
+    if (Module().BreedsDirty || Module().TreeDirty) {
+        LoadData();
+        Module().BreedsDirty = false;
+        Module().TreeDirty = false;
+    }
+    ThePlatform().ui->ProcessEvents();
+    if (NodeExists(key))
+        ShowAgain(key);
+}
+
+void fm_main::ShowAgain(const QString& key) {
+    MakeNodeVisible(key);
+    picDetails->HidePanels();
+    ThePlatform().ui->ProcessEvents();
+    SkipFailure([&] { ShowNodeInfo(key); });
+    ThePlatform().ui->ProcessEvents();
+}
+
+void fm_main::closeEvent(QCloseEvent* event) {
+    Unload();
+    event->accept();
+}
+
+void fm_main::Unload() {
+    SaveFormSettings(*this);
+    WriteRegValue(kSplitterKey, kLeft, QString::number(vbuSplit->sizes().constFirst()));
+    StoreTreeState(SelectedNode(), tvwMain->ExpandedKeys());
+}
+
+// What other windows ask --------------------------------------------------------------------------
+
+QString fm_main::SelectedNode() const {
+    const TreeNode* node = tvwMain->SelectedNode();
+    return node ? node->Key() : QString();
+}
+
+bool fm_main::NodeExists(const QString& key) const {
+    return nodes_.Find(key) != nullptr;
+}
+
+QString fm_main::NodeText(const QString& key) const {
+    return nodes_.Get(key).text;
+}
+
+QString fm_main::NodeTag(const QString& key) const {
+    return nodes_.Get(key).Tag();
+}
+
+QString fm_main::ParentNode(const QString& key) const {
+    const TreeNode* parent = nodes_.Get(key).parent;
+    return parent ? parent->Key() : QString();
+}
+
+void fm_main::SelectNode(const QString& key) {
+    tvwMain->SelectNode(&nodes_.Get(key));
+}
+
+void fm_main::MakeNodeVisible(const QString& key) {
+    tvwMain->EnsureVisible(&nodes_.Get(key));
+}
+
+void fm_main::AddDogNode(const QString& parentKey, int psiID, const QString& text, bool male) {
+    nodes_.AddDog(&nodes_.Get(parentKey), psiID, text, male);
+}
+
+void fm_main::SetNodeText(const QString& key, const QString& text) {
+    nodes_.SetText(&nodes_.Get(key), text);
+}
+
+void fm_main::LoadData() {
+    tvwMain->LoadData();
+}
+
+void fm_main::ShowNodeInfo(const QString& key) {
+    picDetails->ShowNodeInfo(key);
+}
+
+void fm_main::SetItemTitle(const QString& text) {
+    picDetails->SetTitle(text);
+}
+
+QString fm_main::Caption() const {
+    return windowTitle();
+}
+
+// What commands ask -------------------------------------------------------------------------------
+
+void fm_main::AddRing() {
+    treeCommands_->AddRing();
+}
+
+void fm_main::AddDog() {
+    treeCommands_->AddDogToSelected();
+}
+
+void fm_main::ShowAbout() {
+    picDetails->SetTitle(QStringLiteral("O programu"));
+    picDetails->BringToFront(picAbout);
+    picAbout->ShowVersion();
+    picDetails->SetPicture(QIcon());
+}
+
+void fm_main::FocusTree() {
+    tvwMain->setFocus();
+}
+
+void fm_main::SetHelpPointer(bool on) {
+    if (on)
+        setCursor(Qt::WhatsThisCursor);
+    else
+        unsetCursor();
+}
+
+} // namespace lorvo

@@ -1,0 +1,90 @@
+#pragma once
+// The main window: the tree of the show on the left, the panel of the selected node on the right.
+// It is the program; closing it ends the program.
+
+#include "app/main_window_services.h"
+#include "forms/form.h"
+#include "mainwindow/command_bar.h"
+#include "mainwindow/node_history.h"
+#include "mainwindow/tree_nodes.h"
+
+#include <QMainWindow>
+
+class QSplitter;
+
+namespace lorvo {
+
+class AboutPanel;
+class MainTree;
+class NodePanels;
+class StatusPanels;
+class TreeCommands;
+
+class fm_main : public QMainWindow,
+                public MainWindowServices,
+                public Activatable,
+                private CommandTarget {
+    Q_OBJECT
+  public:
+    fm_main();
+    ~fm_main() override;
+
+    /// Loads and shows the window; the first Activate comes with the next turn of the event loop.
+    /// The database is open. Whatever fails on the way leaves its part undone, in silence.
+    void Start();
+
+    /// The way back from every other window, and from other programs: rebuilds the tree if somebody
+    /// has asked for it, and shows the selected node afresh. Raises what LoadData raises.
+    void Activate() override;
+
+    // MainWindowServices
+    QString SelectedNode() const override;
+    bool NodeExists(const QString& key) const override;
+    QString NodeText(const QString& key) const override;
+    QString NodeTag(const QString& key) const override;
+    QString ParentNode(const QString& key) const override;
+    void SelectNode(const QString& key) override;
+    void MakeNodeVisible(const QString& key) override;
+    void AddDogNode(const QString& parentKey, int psiID, const QString& text, bool male) override;
+    void SetNodeText(const QString& key, const QString& text) override;
+    void LoadData() override;
+    void ShowNodeInfo(const QString& key) override;
+    void SetItemTitle(const QString& text) override;
+    QString Caption() const override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    // Building.
+    void MakeSplitter();
+    void MakeAboutPanel();
+
+    // Start and end.
+    void Load();
+    void Unload();
+    void RestoreSplitter();
+    void RestoreSelection();
+    void ShowGridLines(bool shown);
+    void ShowAgain(const QString& key);
+
+    // CommandTarget
+    void AddRing() override;
+    void AddDog() override;
+    void ShowAbout() override;
+    void FocusTree() override;
+    void SetHelpPointer(bool on) override;
+
+    TreeNodes nodes_;
+    NodeHistory history_;
+
+    MainCommandBar* cmdBar;
+    StatusPanels* sbMain;
+    QSplitter* vbuSplit = nullptr;
+    MainTree* tvwMain = nullptr;
+    NodePanels* picDetails = nullptr;
+    AboutPanel* picAbout = nullptr;
+    TreeCommands* treeCommands_ = nullptr;
+};
+
+} // namespace lorvo

@@ -1,0 +1,77 @@
+#include "app/version.h"
+#include "mainwindow/shell_fixture.h"
+
+#include <QAction>
+#include <QEnterEvent>
+#include <QTest>
+
+namespace lorvo {
+namespace {
+
+class ShellAbout : public Shell {
+  protected:
+    void ShowAbout() {
+        Start();
+        Control<QAction>(u"HELP:ABOUT"_qs).trigger();
+    }
+    QString Text(const QString& name) { return Control<QLabel>(name).text(); }
+    void MouseOver(const QString& name) {
+        const QPointF middle = Control<QLabel>(name).rect().center();
+        QEnterEvent event(middle, middle, middle);
+        QCoreApplication::sendEvent(&Control<QLabel>(name), &event);
+    }
+    static QString Version(const QString& pattern) {
+        return pattern.arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision);
+    }
+};
+
+TEST_F(ShellAbout, TellsNameAndVersion) {
+    ShowAbout();
+    EXPECT_EQ(Title(), u"O programu"_qs);
+    EXPECT_EQ(Text(u"lbl_About"_qs), u"Lorvo"_qs);
+    EXPECT_EQ(Text(u"lbl_Ver"_qs), Version(u"Verze %1.%2 build %3"_qs));
+    EXPECT_TRUE(Control<QWidget>(u"picAbout"_qs).isVisible());
+    EXPECT_TRUE(Control<QLabel>(u"picMode"_qs).pixmap(Qt::ReturnByValue).isNull());
+}
+
+TEST_F(ShellAbout, ThePictureStandsInTheMiddle) {
+    ShowAbout();
+    const auto& panel = Control<QWidget>(u"picAbout"_qs);
+    const auto& picture = Control<QLabel>(u"imgBkg"_qs);
+    window_->resize(window_->size() + QSize(80, 60));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(picture.x(), (panel.width() - picture.width()) / 2);
+    EXPECT_EQ(picture.y(), (panel.height() - picture.height()) / 2);
+}
+
+TEST_F(ShellAbout, TheAuthorsNameShowsTheAddressInTheStatusBar) {
+    ShowAbout();
+    MouseOver(u"lbl_Mailto"_qs);
+    EXPECT_EQ(Status(1), u"lorvo@hollowpeak.example"_qs);
+    EXPECT_TRUE(Control<QLabel>(u"sbMain(1)"_qs).isVisible());
+    EXPECT_TRUE(Control<QLabel>(u"lbl_Mailto"_qs).font().underline());
+    MouseOver(u"Label9"_qs);
+    for (int panel = 1; panel <= 4; ++panel) {
+        EXPECT_EQ(Status(panel), QString());
+        const auto& picture = Control<QLabel>(u"sbMain(%1).picture"_qs.arg(panel));
+        EXPECT_TRUE(picture.pixmap(Qt::ReturnByValue).isNull());
+    }
+}
+
+TEST_F(ShellAbout, AClickWritesToTheAuthor) {
+    ShowAbout();
+    QTest::mouseClick(&Control<QLabel>(u"lbl_Mailto"_qs), Qt::LeftButton);
+    ASSERT_EQ(platform_.openedAddresses.size(), 1);
+    EXPECT_EQ(platform_.openedAddresses.constFirst(),
+              Version(u"mailto:lorvo@hollowpeak.example?subject=Lorvo_%1.%2.%3"_qs));
+}
+
+TEST_F(ShellAbout, TheNextNodeTakesThePanelsPlace) {
+    AddSmallShow();
+    ShowAbout();
+    window_->ShowNodeInfo(u"R10"_qs);
+    EXPECT_FALSE(Control<QWidget>(u"picAbout"_qs).isVisible());
+}
+
+} // namespace
+} // namespace lorvo

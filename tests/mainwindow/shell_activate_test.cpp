@@ -1,0 +1,134 @@
+#include "mainwindow/return_watch.h"
+#include "mainwindow/shell_fixture.h"
+#include "platform/values/errors.h"
+
+#include <QWindow>
+
+namespace lorvo {
+namespace {
+
+class ShellActivate : public Shell {
+  protected:
+    void StartOn(const QString& key) {
+        AddSmallShow();
+        Start();
+        window_->SelectNode(key);
+        window_->ShowNodeInfo(key);
+        platform_.onProcessEvents = [this] {
+            ++turns_;
+        };
+    }
+    void OpenAndClose(std::function<void()> deed = {}) {
+        const StandIn window(u"frmStandIn"_qs, std::move(deed));
+        Open(u"frmStandIn"_qs);
+    }
+
+    int turns_ = 0; ///< how often Activate has let events run: three times for a selected node
+};
+
+TEST_F(ShellActivate, RunsOnceAfterAModalWindowAndShowsTheNodeAfresh) {
+    StartOn(u"R10"_qs);
+    OpenAndClose([this] { RenameBreed(10, "Knírač"); });
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs)) << Title().toStdString();
+    EXPECT_EQ(turns_, 3);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(turns_, 3) << "the focus that comes back counts no second time";
+    EXPECT_EQ(window_->NodeText(u"R10"_qs), u"Pudl"_qs) << "the tree isn't rebuilt";
+}
+
+TEST_F(ShellActivate, RunsOnceAfterWindowsOverWindows) {
+    StartOn(u"R10"_qs);
+    const StandIn upper(u"frmUpper"_qs, {});
+    OpenAndClose([] { Open(u"frmUpper"_qs); });
+    EXPECT_EQ(turns_, 3);
+}
+
+TEST_F(ShellActivate, EitherDirtyFlagRebuildsTheTree) {
+    StartOn(u"R10"_qs);
+    for (bool ModuleValues::*flag : {&ModuleValues::BreedsDirty, &ModuleValues::TreeDirty}) {
+        window_->SelectNode(u"R10"_qs);
+        const QString name = window_->NodeText(u"R10"_qs) + u'+';
+        OpenAndClose([&] {
+            RenameBreed(10, name.toStdString());
+            Module().*flag = true;
+        });
+        EXPECT_FALSE(Module().*flag);
+        EXPECT_EQ(window_->NodeText(u"R10"_qs), name);
+        EXPECT_TRUE(Title().startsWith(name)) << "the panel keeps its node";
+        EXPECT_EQ(window_->SelectedNode(), QString()) << "but the new tree selects none";
+    }
+}
+
+TEST_F(ShellActivate, ReadsAgainWhetherClassesAreShown) {
+    StartOn(u"R10"_qs);
+    OpenAndClose([this] {
+        Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+        Module().TreeDirty = true;
+    });
+    EXPECT_TRUE(Module().ShowClassesOn);
+    EXPECT_TRUE(window_->NodeExists(u"TR10|1"_qs));
+}
+
+TEST_F(ShellActivate, AfterAnOwnersStatementOnlyHisDogsAreRefilled) {
+    StartOn(u"R10"_qs);
+    OpenAndClose([] {
+        Module().PaymentsOwner = 5;
+        Module().TreeDirty = true;
+    });
+    EXPECT_EQ(Module().PaymentsOwner, 0);
+    EXPECT_TRUE(Module().TreeDirty) << "the tree waits for the next return";
+    EXPECT_EQ(turns_, 0);
+}
+
+TEST_F(ShellActivate, ANodeThatIsGoneAfterTheReloadIsPassedOver) {
+    StartOn(u"P100"_qs);
+    OpenAndClose([this] {
+        database_.Execute("DELETE FROM Psi WHERE ID = 100");
+        Module().TreeDirty = true;
+    });
+    EXPECT_FALSE(window_->NodeExists(u"P100"_qs));
+    EXPECT_EQ(turns_, 1);
+}
+
+TEST_F(ShellActivate, AReloadThatFailsIsRaisedAndKeepsTheFlag) {
+    StartOn(u"R10"_qs);
+    database_.Execute("DROP TABLE Kruhy");
+    Module().TreeDirty = true;
+    EXPECT_THROW(window_->Activate(), StoreError);
+    EXPECT_TRUE(Module().TreeDirty);
+}
+
+TEST_F(ShellActivate, APanelThatFailsIsSkippedInSilence) {
+    StartOn(u"P100"_qs);
+    database_.Execute("DROP TABLE Psi");
+    window_->Activate();
+    EXPECT_EQ(turns_, 3);
+    EXPECT_TRUE(platform_.messages.empty());
+}
+
+TEST_F(ShellActivate, RunsWhenTheClerkComesBackFromAnotherProgram) {
+    StartOn(u"R10"_qs);
+    RenameBreed(10, "Knírač");
+    Q_EMIT qGuiApp->focusWindowChanged(window_->windowHandle());
+    Q_EMIT qGuiApp->focusWindowChanged(nullptr);
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    EXPECT_EQ(turns_, 0);
+    Q_EMIT qGuiApp->focusWindowChanged(window_->windowHandle());
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_EQ(turns_, 3);
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs));
+}
+
+TEST_F(ShellActivate, FocusLostByAWindowOfTheProgramIsNoReturn) {
+    StartOn(u"R10"_qs);
+    QWindow other;
+    Q_EMIT qGuiApp->focusWindowChanged(&other);
+    Q_EMIT qGuiApp->focusWindowChanged(nullptr);
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    Q_EMIT qGuiApp->focusWindowChanged(window_->windowHandle());
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_EQ(turns_, 0);
+}
+
+} // namespace
+} // namespace lorvo

@@ -1,0 +1,158 @@
+#include "forms/report_list.h"
+#include "mainwindow/shell_fixture.h"
+#include "platform/values/errors.h"
+#include "store/vystavy.h"
+
+#include <QSplitter>
+#include <QToolBar>
+
+namespace lorvo {
+namespace {
+
+class ShellStart : public Shell {
+  protected:
+    int TreeWidth() { return Control<QSplitter>(u"vbuSplit"_qs).sizes().constFirst(); }
+};
+
+TEST_F(ShellStart, AnEmptyDatabaseOpensWithTheMainShowAndAnAlmostEmptyTree) {
+    Start();
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(window_->windowTitle(), u"Lorvo"_qs);
+    ASSERT_EQ(Shows().size(), 1u);
+    EXPECT_EQ(Shows().front().Nazev, u"Hlavní výstava"_qs);
+    EXPECT_EQ(Tree().Nodes().Count(), 1);
+    EXPECT_TRUE(window_->NodeExists(u"K0"_qs));
+    EXPECT_EQ(window_->SelectedNode(), QString());
+    EXPECT_TRUE(platform_.messages.empty());
+}
+
+TEST_F(ShellStart, FillsTheTablesOfConstants) {
+    Start();
+    EXPECT_EQ(Module().ClassNames[3], u"mezitřída"_qs);
+    EXPECT_EQ(Module().SpecialClassTo[2], 24);
+    EXPECT_EQ(Module().DogSizes[5], u"velký"_qs);
+    EXPECT_EQ(Module().CoatTypes[4], u"bez srsti"_qs);
+    EXPECT_EQ(Module().PaymentModes[1], u"hotově"_qs);
+    EXPECT_EQ(Module().MainCurrency, u"Kč"_qs);
+}
+
+TEST_F(ShellStart, MissingTablesAreMetInSilence) {
+    database_.Execute("DROP TABLE Vystavy");
+    database_.Execute("DROP TABLE Meny");
+    AddSmallShow();
+    Start();
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(window_->NodeExists(u"P100"_qs));
+    EXPECT_TRUE(platform_.messages.empty());
+}
+
+TEST_F(ShellStart, ATreeThatFailsHalfwayStaysAsFarAsItGot) {
+    AddSmallShow();
+    AddDog(102, "Zbloudilý", 10, 0);
+    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+    Start();
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(window_->NodeExists(u"R10"_qs));
+    EXPECT_FALSE(window_->NodeExists(u"P102"_qs));
+    EXPECT_EQ(Module().MainCurrency, u"Kč"_qs) << "what comes later in the sequence still runs";
+}
+
+TEST_F(ShellStart, TheRememberedNodeIsSelectedAndShown) {
+    AddSmallShow();
+    Setting(u"Sys\\RememberTree"_qs) = u"R10"_qs;
+    Start();
+    EXPECT_EQ(window_->SelectedNode(), u"R10"_qs);
+    EXPECT_TRUE(Title().startsWith(u"Pudl"_qs)) << Title().toStdString();
+}
+
+TEST_F(ShellStart, ARememberedNodeThatIsGoneSelectsNothing) {
+    AddSmallShow();
+    Setting(u"Sys\\RememberTree"_qs) = u"P999"_qs;
+    Start();
+    EXPECT_EQ(window_->SelectedNode(), QString());
+    EXPECT_TRUE(Module().RememberTreeOn);
+    EXPECT_TRUE(platform_.messages.empty());
+}
+
+TEST_F(ShellStart, ARememberedClassNodeIsNotRestored) {
+    AddSmallShow();
+    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+    Setting(u"Sys\\RememberTree"_qs) = u"TR10|5"_qs;
+    Start();
+    EXPECT_TRUE(window_->NodeExists(u"TR10|5"_qs));
+    EXPECT_EQ(window_->SelectedNode(), QString());
+    EXPECT_TRUE(Module().RememberTreeOn);
+}
+
+TEST_F(ShellStart, TheDividerStandsWhereItWasLeft) {
+    Setting(u"Splitters\\fm_main\\Left"_qs) = u"250"_qs;
+    Start();
+    EXPECT_EQ(TreeWidth(), 250);
+    Close();
+    EXPECT_EQ(Setting(u"Splitters\\fm_main\\Left"_qs), u"250"_qs);
+}
+
+TEST_F(ShellStart, AUselessDividerPositionKeepsTheDesignedOne) {
+    Start();
+    const int designed = TreeWidth();
+    for (const QString& text : {u"0"_qs, u"-250"_qs, u"abc"_qs, u"0,5"_qs}) {
+        window_.reset();
+        Setting(u"Splitters\\fm_main\\Left"_qs) = text;
+        Start();
+        EXPECT_EQ(TreeWidth(), designed) << text.toStdString();
+    }
+}
+
+TEST_F(ShellStart, GridLinesFollowThePreferenceBothWays) {
+    for (const bool shown : {true, false}) {
+        Setting(u"Sys\\ShowGrid"_qs) = shown ? u"1"_qs : u"0"_qs;
+        Start();
+        for (const QString& name : {u"lvwSouteze"_qs, u"lvwOceneni"_qs, u"lvwDogs"_qs})
+            EXPECT_EQ(Control<ReportList>(name).GridLines(), shown) << name.toStdString();
+        window_.reset();
+    }
+}
+
+TEST_F(ShellStart, ClosingWithoutRememberingStoresAnEmptyNode) {
+    AddSmallShow();
+    Setting(u"Sys\\ExpandedItems"_qs) = u"K7"_qs;
+    Start();
+    window_->SelectNode(u"P100"_qs);
+    Close();
+    EXPECT_EQ(Setting(u"Sys\\RememberTree"_qs), QString());
+    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_qs), u"K7"_qs);
+}
+
+TEST_F(ShellStart, ClosingWithRememberingStoresTheSelectedAndTheExpandedNodes) {
+    AddSmallShow();
+    Start();
+    Module().RememberTreeOn = true;
+    window_->SelectNode(u"P101"_qs);
+    Close();
+    EXPECT_EQ(Setting(u"Sys\\RememberTree"_qs), u"P101"_qs);
+    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_qs), u"K1|R10"_qs);
+}
+
+TEST_F(ShellStart, ExpandedBreedsComeBackButNotTheirClasses) {
+    AddSmallShow();
+    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+    Setting(u"Sys\\RememberTree"_qs) = u"K1"_qs;
+    Start();
+    window_->SelectNode(u"P100"_qs);
+    Close();
+    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_qs), u"K1|R10|TR10|5"_qs);
+    Setting(u"Sys\\RememberTree"_qs) = u"K1"_qs;
+    Start();
+    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_qs, u"R10"_qs}));
+}
+
+TEST_F(ShellStart, TheWindowKeepsItsSize) {
+    Start();
+    window_->resize(900, 600);
+    Close();
+    Start();
+    EXPECT_EQ(window_->size(), QSize(900, 600));
+}
+
+} // namespace
+} // namespace lorvo
