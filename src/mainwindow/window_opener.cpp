@@ -3,6 +3,7 @@
 #include "forms/form.h"
 #include "platform/values/errors.h"
 #include "reports/frmTiskKatalog.h"
+#include "setup/frmNazevKruhu.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -21,6 +22,7 @@ template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
 std::map<QString, WindowFactory>& Windows() {
     static std::map<QString, WindowFactory> windows{
         {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
+        {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
     };
     return windows;
 }
