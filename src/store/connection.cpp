@@ -16,6 +16,7 @@ namespace lorvo {
 namespace {
 
 constexpr int kBusyMilliseconds = 3000;
+constexpr int kBusyMillisecondsAtEnd = 200; ///< nobody waits gladly for a window to close
 
 constexpr std::array kShowTables = {"Barvy",          "Kruhy",   "Plemena",   "Psi",
                                     "Vazby_Trida",    "Ostatni", "Majitele",  "Souteze",
@@ -60,6 +61,7 @@ void StartWriting(SQLite::Database& database) {
 /// Moves the journal into the file and gives it up. Where another program reads the file, the
 /// journal stays, and the next start takes it up.
 void StopWriting(SQLite::Database& database) {
+    sqlite3_busy_timeout(database.getHandle(), kBusyMillisecondsAtEnd);
     try {
         database.exec("PRAGMA wal_checkpoint(TRUNCATE)");
         database.exec("PRAGMA journal_mode = DELETE");

@@ -32,10 +32,11 @@ class TempDatabase {
     /// Puts a fresh database into a folder without opening it; returns its path.
     static QString CopyTo(const QString& folder, Content content = Content::Empty);
 
-  private:
-    /// In memory where the system has such a place: tests needn't wait for a disk.
+    /// Where temporary folders of databases belong: in memory where the system has such a place,
+    /// so that tests needn't wait for a disk.
     static QString FolderTemplate();
 
+  private:
     QTemporaryDir folder_{FolderTemplate()};
 };
 
