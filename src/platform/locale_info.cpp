@@ -75,10 +75,9 @@ class QtLocaleInfo final : public LocaleInfo {
     }
     char DecimalSign() const override { return locale_.decimalPoint() == u","_qs ? ',' : '.'; }
     QString DateText(DateValue value) const override {
-        const QString day = ShortDate(value);
         if (value.SecondOfDay() == 0)
-            return day;
-        return day + u' ' + locale_.toString(ToQDateTime(value).time(), u"H:mm:ss"_qs);
+            return ShortDate(value);
+        return ShortDate(value) + u' ' + locale_.toString(ToQDateTime(value).time(), u"H:mm:ss"_qs);
     }
     QString ShortDate(DateValue value) const override {
         return locale_.toString(ToQDate(value), datePattern_);

@@ -220,7 +220,8 @@ void RecordingPlatform::ExpectMessage(const QString& text, MessageAnswer answer,
                                       std::optional<QString> title,
                                       std::function<void()> whileOpen) {
     const RecordedMessage message{text, icon.value_or(MessageIcon::None),
-                                  buttons.value_or(MessageButtons::Ok), title.value_or(QString())};
+                                  buttons.value_or(MessageButtons::Ok),
+                                  std::move(title).value_or(QString())};
     expectedMessages_.push_back({message, !icon, !buttons, !title, answer, std::move(whileOpen)});
 }
 
