@@ -183,16 +183,16 @@ void ClearFirstDogs(int majitelID) {
                {{"PrvniPes", false}});
 }
 
-void NumberDogs(const std::vector<int>& psiIDs) {
-    EditRun run(TheDataModule().Conn1);
-    int cislo = 0;
-    for (const int psiID : psiIDs)
-        ChangeRow(Table(), "Psi", psiID, {{"Cislo", ++cislo}});
-    run.Finish();
+void SetDogNumber(int psiID, int cislo) {
+    // Thousands of dogs are numbered in one go, so that only what is needed is read.
+    Table().Open("SELECT Cislo FROM Psi WHERE ID = " + Number(psiID));
+    Table().Set("Cislo", cislo);
+    Table().Update();
+    Table().Close();
 }
 
 void RemoveDogNumbers() {
-    ChangeRows(Table(), "SELECT * FROM Psi", {{"Cislo", 0}});
+    ChangeRows(Table(), "SELECT Cislo FROM Psi", {{"Cislo", 0}});
 }
 
 } // namespace lorvo

@@ -95,9 +95,8 @@ void MarkFirstDog(int psiID);
 /// Takes PrvniPes from every dog of the owner.
 void ClearFirstDogs(int majitelID);
 
-/// Numbers the dogs from 1 in the order given; each dog is a write of its own, and what was
-/// written before a failure stays written. StoreError when a dog is gone.
-void NumberDogs(const std::vector<int>& psiIDs);
+/// Sets Cislo. StoreError when the dog is gone. Many in one go stand in an EditRun.
+void SetDogNumber(int psiID, int cislo);
 /// Sets Cislo of every dog to 0, row by row.
 void RemoveDogNumbers();
 

@@ -13,7 +13,7 @@ void Assign(RecordSet& set, const Assignments& fields) {
 
 Value ReadScalar(RecordSet& set, const std::string& statement) {
     set.Open(statement);
-    const Value value = set.Field(0);
+    Value value = set.Field(0);
     set.Close();
     return value;
 }

@@ -112,7 +112,7 @@ void SetPaymentPrinted(int uhradaID, bool printed) {
 }
 
 void MarkAllPaymentsPrinted() {
-    ChangeRows(Table(), "SELECT * FROM Uhrady", {{"Printed", true}});
+    ChangeRows(Table(), "SELECT Printed FROM Uhrady", {{"Printed", true}});
 }
 
 void DeletePayment(int uhradaID) {

@@ -232,20 +232,28 @@ TEST_F(PsiTest, MarksMoveOnTheirOwnRowsAlone) {
     EXPECT_EQ(Column("SELECT PlemenoID FROM Psi"), (Texts{"0", "42", "0"}));
 }
 
-TEST_F(PsiTest, DogsAreNumberedInTheOrderGiven) {
-    const int a = AddDog("a");
+TEST_F(PsiTest, NumbersAreSetOneByOneAndRemovedTogether) {
+    const int a = AddDog("a", {{"Trida", 3}});
     const int b = AddDog("b");
     AddDog("c");
-    NumberDogs({b, a});
+    SetDogNumber(b, 1);
+    SetDogNumber(a, 2);
     EXPECT_EQ(Column("SELECT Cislo FROM Psi"), (Texts{"2", "1", ""}));
+    EXPECT_EQ(DogByID(a)->Trida, 3);
     RemoveDogNumbers();
     EXPECT_EQ(Column("SELECT Cislo FROM Psi"), (Texts{"0", "0", "0"}));
 }
 
 TEST_F(PsiTest, NumbersWrittenBeforeAFailureStay) {
     const int a = AddDog("a");
-    const int b = AddDog("b");
-    EXPECT_THROW(NumberDogs({a, 99, b}), StoreError);
+    AddDog("b");
+    EXPECT_THROW(
+        {
+            EditRun run(TheDataModule().Conn1);
+            SetDogNumber(a, 1);
+            SetDogNumber(99, 2);
+        },
+        StoreError);
     EXPECT_EQ(Column("SELECT Cislo FROM Psi"), (Texts{"1", ""}));
 }
 
