@@ -124,6 +124,20 @@ QModelIndex MainTree::indexAt(const QPoint& point) const {
     return point.x() < visualRect(index).left() + width ? index : QModelIndex();
 }
 
+void MainTree::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
+    // The base asks indexAt for the corners; at the left edge each row has its node.
+    QTreeView::setSelection({QPoint(0, rect.top()), QPoint(0, rect.bottom())}, command);
+}
+
+QItemSelectionModel::SelectionFlags MainTree::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* event) const {
+    // Neither a click beside the nodes nor one with Ctrl leaves the tree without a selection.
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    const auto command = QTreeView::selectionCommand(index, event);
+    return command & QItemSelectionModel::Deselect ? QItemSelectionModel::NoUpdate : command;
+}
+
 TreeNode* MainTree::NodeUnder(const QPoint& point) const {
     return TreeModel::NodeAt(indexAt(point));
 }
@@ -162,8 +176,8 @@ void MainTree::keyPressEvent(QKeyEvent* event) {
 void MainTree::mousePressEvent(QMouseEvent* event) {
     const TreeNode* node = NodeUnder(event->position().toPoint());
     QTreeView::mousePressEvent(event);
-    // The view itself leaves the selection alone at a press of some buttons, with Ctrl, and on the
-    // opening sign. Nothing may scroll here, or the release would hit another node.
+    // The view itself leaves the selection alone on the opening sign. Nothing may scroll here, or
+    // the release would hit another node.
     if (node && node != SelectedNode())
         selectionModel()->setCurrentIndex(model_->IndexOf(node),
                                           QItemSelectionModel::ClearAndSelect);

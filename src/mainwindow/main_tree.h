@@ -63,6 +63,9 @@ class MainTree : public QTreeView {
     void NodeDropped(lorvo::TreeNode* dragged, lorvo::TreeNode* target);
 
   protected:
+    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

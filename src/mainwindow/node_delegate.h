@@ -5,7 +5,7 @@
 
 namespace lorvo {
 
-/// Draws a selected node with or without the selection bar.
+/// Draws a selected node with or without the selection bar and the focus frame.
 class NodeDelegate : public QStyledItemDelegate {
     Q_OBJECT
   public:

@@ -1,0 +1,166 @@
+#include "mainwindow/tree_host.h"
+
+#include <QImage>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+namespace lorvo::test {
+namespace {
+
+class MainTreeTest : public TreeTest {
+  protected:
+    bool IsExpanded(const QString& key) const {
+        const auto& model = static_cast<const TreeModel&>(*Tree().model());
+        return Tree().isExpanded(model.IndexOf(&Node(key)));
+    }
+    void SetExpanded(const QString& key, bool expanded) const {
+        const auto& model = static_cast<const TreeModel&>(*Tree().model());
+        Tree().setExpanded(model.IndexOf(&Node(key)), expanded);
+    }
+};
+
+TEST_F(MainTreeTest, StartsCollapsedWithNothingSelected) {
+    EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
+    EXPECT_EQ(Tree().SelectedNode(), nullptr);
+    EXPECT_EQ(Tree().objectName(), u"tvwMain"_qs);
+    EXPECT_TRUE(Tree().uniformRowHeights());
+}
+
+TEST_F(MainTreeTest, SelectsTheNodeUnderAPressOfAnyButton) {
+    Choose(u"P1"_qs, 0);
+    EXPECT_EQ(host.SelectedNode(), u"P1"_qs);
+    Click(u"K2"_qs, Qt::MiddleButton);
+    EXPECT_EQ(host.SelectedNode(), u"K2"_qs);
+    EXPECT_EQ(host.shown, QStringList());
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, Qt::ControlModifier, PlaceOf(u"K2"_qs));
+    EXPECT_EQ(host.SelectedNode(), u"K2"_qs);
+}
+
+TEST_F(MainTreeTest, ShowsTheNodeOnALeftClick) {
+    Click(u"R10"_qs);
+    EXPECT_EQ(host.shown, QStringList{u"R10"_qs});
+}
+
+TEST_F(MainTreeTest, SelectsByAPressOnTheOpeningSignToo) {
+    const QPoint text = PlaceOf(u"K1"_qs);
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, {8, text.y()});
+    EXPECT_EQ(host.SelectedNode(), u"K1"_qs);
+    EXPECT_TRUE(IsExpanded(u"K1"_qs));
+}
+
+TEST_F(MainTreeTest, FindsNoNodeRightOfItsText) {
+    const QPoint text = PlaceOf(u"K1"_qs);
+    EXPECT_TRUE(Tree().indexAt(text).isValid());
+    EXPECT_FALSE(Tree().indexAt({Tree().viewport()->width() - 4, text.y()}).isValid());
+}
+
+TEST_F(MainTreeTest, KeepsTheSelectionWhileTheMouseMovesWithAButtonDown) {
+    const QPoint from = PlaceOf(u"K1"_qs), to = PlaceOf(u"K2"_qs);
+    QTest::mousePress(Tree().viewport(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(Tree().viewport(), to);
+    QTest::mouseRelease(Tree().viewport(), Qt::LeftButton, {}, to);
+    EXPECT_EQ(host.SelectedNode(), u"K1"_qs);
+    EXPECT_EQ(host.shown, QStringList());
+}
+
+TEST_F(MainTreeTest, ShowsANodeThatTheClerkCollapses) {
+    SetExpanded(u"K1"_qs, true);
+    EXPECT_EQ(host.shown, QStringList());
+    SetExpanded(u"K1"_qs, false);
+    EXPECT_EQ(host.shown, QStringList{u"K1"_qs});
+}
+
+TEST_F(MainTreeTest, EndsEveryKeyByShowingTheSelectedNode) {
+    Press(Qt::Key_A);
+    host.SelectNode(u"K1"_qs);
+    host.shown.clear();
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(host.shown, (QStringList{u"K2"_qs, u"K2"_qs}));
+}
+
+TEST_F(MainTreeTest, ShowsNothingOnAKeyWithoutASelection) {
+    Press(Qt::Key_F3);
+    EXPECT_EQ(host.shown, QStringList());
+}
+
+TEST_F(MainTreeTest, PutsTheSearchBackToTheStartOnHome) {
+    host.SelectNode(u"P1"_qs);
+    Module().FindStart = 7;
+    Press(Qt::Key_Home);
+    EXPECT_EQ(Module().FindStart, 1);
+    EXPECT_EQ(host.shown, QStringList{u"K0"_qs});
+}
+
+TEST_F(MainTreeTest, RefusesToEditInPlaceUnlessAllowed) {
+    host.SelectNode(u"K1"_qs);
+    Tree().StartLabelEdit(&Node(u"K1"_qs));
+    EXPECT_EQ(Editor(), nullptr);
+    Module().LabelEditAllowed = true;
+    Tree().StartLabelEdit(&Node(u"K1"_qs));
+    EXPECT_NE(Editor(), nullptr);
+    EXPECT_FALSE(Module().LabelEditAllowed);
+}
+
+TEST_F(MainTreeTest, ExpandsAllAboveANodeThatIsMadeVisible) {
+    host.MakeNodeVisible(u"P2"_qs);
+    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_qs, u"R10"_qs}));
+    EXPECT_EQ(Tree().SelectedNode(), nullptr);
+}
+
+TEST_F(MainTreeTest, RestoresExpandedRingsAndBreedsButNoClasses) {
+    platform.settings[u"Sys\\ExpandedItems"_qs] = u"K1|R10|TR10|3"_qs;
+    Module().ShowClassesOn = true;
+    Load();
+    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_qs, u"R10"_qs}));
+}
+
+TEST_F(MainTreeTest, IgnoresWhatWasExpandedWhileClassesAreOff) {
+    platform.settings[u"Sys\\ExpandedItems"_qs] = u"K1|R10"_qs;
+    Load();
+    EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
+}
+
+TEST_F(MainTreeTest, ForgetsSelectionAndExpansionAtAReload) {
+    host.SelectNode(u"P1"_qs);
+    Load();
+    EXPECT_EQ(Tree().SelectedNode(), nullptr);
+    EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
+}
+
+TEST_F(MainTreeTest, ShowsTheHighlightOfASelectedNodeWithoutTheSelectionBar) {
+    host.SelectNode(u"P1"_qs);
+    host.nodes.SetBackground(&Node(u"P1"_qs), kHighlight);
+    const QPoint place = PlaceOf(u"P1"_qs);
+    const auto pixel = [&] {
+        return Tree().viewport()->grab().toImage().pixelColor(Tree().viewport()->width() - 6,
+                                                              place.y());
+    };
+    EXPECT_NE(pixel(), QColor(255, 255, 0));
+    Tree().SetSelectionBarShown(false);
+    EXPECT_EQ(pixel(), QColor(255, 255, 0));
+    Tree().SetSelectionBarShown(true);
+    EXPECT_NE(pixel(), QColor(255, 255, 0));
+}
+
+TEST_F(MainTreeTest, SelectsTheNextNodeWhenTheSelectedOneGoes) {
+    host.SelectNode(u"P1"_qs);
+    host.nodes.Remove(&Node(u"P1"_qs));
+    EXPECT_EQ(host.SelectedNode(), u"P2"_qs);
+    host.nodes.Remove(&Node(u"P2"_qs));
+    EXPECT_EQ(host.SelectedNode(), u"R10"_qs);
+}
+
+TEST_F(MainTreeTest, JumpsToAFarDogInALargeTree) {
+    std::string sql = "BEGIN;";
+    for (int dog = 100; dog < 3100; ++dog)
+        sql += "INSERT INTO Psi (ID, Jmeno, PlemenoID) VALUES (" + std::to_string(dog) +
+               ", 'Pes', 10);";
+    Load(sql + "COMMIT");
+    host.SelectNode(u"P3099"_qs);
+    const QRect viewport = Tree().viewport()->rect();
+    EXPECT_TRUE(viewport.contains(PlaceOf(u"P3099"_qs)));
+}
+
+} // namespace
+} // namespace lorvo::test

@@ -1,0 +1,225 @@
+// Adding and editing dogs from the tree, dragging, and searching on.
+
+#include "forms/application.h"
+#include "mainwindow/tree_host.h"
+#include "platform/values/errors.h"
+
+namespace lorvo::test {
+namespace {
+
+class TreeDogsTest : public TreeTest {
+  protected:
+    TreeDogsTest() {
+        StandInFor(u"fm_Dog"_qs);
+        database.Execute("INSERT INTO Meny (Zkratka, Hlavni) VALUES ('Kč', -1);"
+                         "INSERT INTO Ostatni VALUES ('2005-05-14T00:00:00')");
+    }
+    void ExpectRefusal(const QString& text) {
+        platform.ExpectMessage(text, MessageAnswer::Ok, MessageIcon::Exclamation,
+                               MessageButtons::Ok, u"Hlavní okno"_qs);
+    }
+};
+
+const QString kNoDate = u"Psa nelze přidat. Datum výstavy nebylo určeno"_qs;
+const QString kNoBreed = u"Není vybráno plemeno, do kterého se má pes přidat"_qs;
+
+TEST_F(TreeDogsTest, AddsADogToTheBreedPointedAt) {
+    Choose(u"R20"_qs, 603);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+    EXPECT_TRUE(Module().IsAddingDog);
+    EXPECT_EQ(Module().CurrentBreedID, 20);
+    EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_qs);
+}
+
+TEST_F(TreeDogsTest, RefusesADogWithoutAMainCurrencyFirst) {
+    database.Execute("UPDATE Meny SET Hlavni = 0; UPDATE Psi SET Cislo = 1; DELETE FROM Ostatni");
+    ExpectRefusal(u"Psa nelze přidat. V seznamu měn není zadána hlavní měna"_qs);
+    Choose(u"R20"_qs, 603);
+    EXPECT_EQ(opened, QStringList());
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_qs);
+}
+
+TEST_F(TreeDogsTest, RefusesADogOnceTheFirstRowHasANumber) {
+    database.Execute("UPDATE Psi SET Cislo = 1 WHERE ID = 1; DELETE FROM Ostatni");
+    ExpectRefusal(u"Psa nelze přidat. Psi mají přiřazena čísla"_qs);
+    Choose(u"R20"_qs, 603);
+    EXPECT_EQ(opened, QStringList());
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_qs);
+}
+
+TEST_F(TreeDogsTest, LooksAtNoOtherNumberThanTheFirstRows) {
+    database.Execute("UPDATE Psi SET Cislo = ID WHERE ID > 1");
+    Choose(u"R20"_qs, 603);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+}
+
+TEST_F(TreeDogsTest, RefusesTheFirstDogWithoutAShowDateAfterAddingTheShow) {
+    database.Execute("DELETE FROM Psi; DELETE FROM Ostatni");
+    ExpectRefusal(kNoDate);
+    Choose(u"R20"_qs, 603);
+    EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_qs);
+    database.Execute("INSERT INTO Ostatni VALUES ('1899-12-30T00:00:00')");
+    ExpectRefusal(kNoDate);
+    Choose(u"R20"_qs, 603);
+    EXPECT_EQ(opened, QStringList());
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"1"_qs);
+}
+
+TEST_F(TreeDogsTest, LetsADateThatWasNeverGivenPass) {
+    database.Execute("UPDATE Ostatni SET DatumVystavy = NULL");
+    Choose(u"R20"_qs, 603);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+}
+
+TEST_F(TreeDogsTest, AddsByTheCommandBarToTheBreedOfTheSelectedNode) {
+    host.SelectNode(u"R30"_qs);
+    host.commands->AddDogToSelected();
+    EXPECT_EQ(Module().CurrentBreedID, 30);
+    host.SelectNode(u"P1"_qs);
+    host.commands->AddDogToSelected();
+    EXPECT_EQ(Module().CurrentBreedID, 10);
+    EXPECT_TRUE(Module().IsAddingDog);
+    EXPECT_EQ(opened.size(), 2);
+}
+
+TEST_F(TreeDogsTest, RefusesByTheCommandBarWithoutABreed) {
+    Module().ShowClassesOn = true;
+    Load();
+    ExpectRefusal(kNoBreed);
+    host.commands->AddDogToSelected();
+    for (const char16_t* key : {u"K0", u"K1", u"TR10|3"}) {
+        host.SelectNode(QString::fromUtf16(key));
+        ExpectRefusal(kNoBreed);
+        host.commands->AddDogToSelected();
+    }
+    host.SelectNode(u"P1"_qs);
+    host.commands->AddDogToSelected();
+    EXPECT_EQ(Module().CurrentBreedID, 10);
+    EXPECT_EQ(opened.size(), 1);
+}
+
+TEST_F(TreeDogsTest, AsksByTheCommandBarForTheDatesRowAlone) {
+    database.Execute("DELETE FROM Meny; UPDATE Psi SET Cislo = 1;"
+                     "UPDATE Ostatni SET DatumVystavy = '1899-12-30T00:00:00'");
+    host.SelectNode(u"R10"_qs);
+    host.commands->AddDogToSelected();
+    EXPECT_EQ(opened.size(), 1);
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_qs);
+    database.Execute("DELETE FROM Ostatni");
+    ExpectRefusal(kNoDate);
+    host.commands->AddDogToSelected();
+    EXPECT_EQ(opened.size(), 1);
+}
+
+TEST_F(TreeDogsTest, EditsADogOnADoubleClick) {
+    Module().IsAddingDog = true;
+    DoubleClick(u"P3"_qs);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+    EXPECT_FALSE(Module().IsAddingDog);
+    EXPECT_EQ(Module().CurrentBreedID, 20);
+    EXPECT_EQ(host.SelectedNode(), u"P3"_qs);
+}
+
+TEST_F(TreeDogsTest, TakesTheBreedFromAboveTheClass) {
+    Module().ShowClassesOn = true;
+    Load();
+    DoubleClick(u"P1"_qs);
+    EXPECT_EQ(Module().CurrentBreedID, 10);
+}
+
+TEST_F(TreeDogsTest, DoesNothingOnADoubleClickElsewhere) {
+    DoubleClick(u"R10"_qs);
+    DoubleClick(u"K2"_qs);
+    EXPECT_EQ(opened, QStringList());
+    EXPECT_EQ(Tree().ExpandedKeys(), QStringList{u"K1"_qs}); // opened to show the breed
+}
+
+TEST_F(TreeDogsTest, MovesABreedToTheRingItIsDroppedOn) {
+    Drop(u"R20"_qs, u"K1"_qs);
+    EXPECT_EQ(host.ParentNode(u"R20"_qs), u"K1"_qs);
+    EXPECT_TRUE(Node(u"R20"_qs).bold);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 20"), u"1"_qs);
+    Drop(u"R20"_qs, u"K0"_qs);
+    EXPECT_EQ(host.ParentNode(u"R20"_qs), u"K0"_qs);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 20"), u"0"_qs);
+    EXPECT_EQ(host.shown, QStringList());
+}
+
+TEST_F(TreeDogsTest, LeavesABreedInPlaceThatIsDroppedOnItsOwnRing) {
+    Drop(u"R10"_qs, u"K1"_qs);
+    EXPECT_EQ(host.ParentNode(u"R10"_qs), u"K1"_qs);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_qs);
+}
+
+TEST_F(TreeDogsTest, LosesAnUnusedBreedDroppedOnTheUnassignedRootAtTheNextReload) {
+    Load("UPDATE Plemena SET Pouzivat = 0 WHERE ID = 10");
+    Drop(u"R10"_qs, u"K0"_qs);
+    EXPECT_EQ(host.ParentNode(u"R10"_qs), u"K0"_qs);
+    Load();
+    EXPECT_FALSE(host.NodeExists(u"R10"_qs));
+}
+
+TEST_F(TreeDogsTest, MovesADogToTheBreedItIsDroppedOn) {
+    database.Execute("UPDATE Psi SET Cislo = 5 WHERE ID = 1");
+    Drop(u"P1"_qs, u"R20"_qs);
+    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"R20"_qs);
+    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"20"_qs);
+    EXPECT_EQ(Scalar("SELECT Trida FROM Psi WHERE ID = 1"), u"3"_qs);
+}
+
+TEST_F(TreeDogsTest, PutsADroppedDogBesideTheClassesUntilTheNextReload) {
+    Module().ShowClassesOn = true;
+    Load();
+    Drop(u"P1"_qs, u"R10"_qs);
+    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"R10"_qs);
+    Load();
+    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"TR10|3"_qs);
+}
+
+TEST_F(TreeDogsTest, DoesNothingOnAnyOtherDrop) {
+    Module().ShowClassesOn = true;
+    Load();
+    const std::pair<const char16_t*, const char16_t*> drops[] = {
+        {u"P1", u"K2"},  {u"P1", u"TR10|5"},  {u"P1", u"P2"}, {u"R10", u"R20"},
+        {u"R10", u"P3"}, {u"R10", u"TR20|1"}, {u"K1", u"K2"}, {u"P99", u"R10"}};
+    for (const auto& [dragged, target] : drops)
+        Drop(QString::fromUtf16(dragged), QString::fromUtf16(target));
+    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"TR10|3"_qs);
+    EXPECT_EQ(host.ParentNode(u"R10"_qs), u"K1"_qs);
+    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_qs);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_qs);
+}
+
+TEST_F(TreeDogsTest, LeavesTreeAndStoreApartWhenADropFailsInTheStore) {
+    database.Execute("DELETE FROM Psi WHERE ID = 1");
+    Drop(u"P1"_qs, u"R20"_qs);
+    EXPECT_THROW(Application::RethrowFailure(), StoreError);
+    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"R20"_qs);
+}
+
+TEST_F(TreeDogsTest, SearchesOnFromMatchToMatch) {
+    StandInFor(u"frmFind"_qs);
+    Press(Qt::Key_F3);
+    EXPECT_EQ(opened, QStringList{u"frmFind"_qs});
+    Module().FindText = u"r"_qs;
+    QStringList found;
+    for (int times = 0; times < 4; ++times) {
+        Press(Qt::Key_F3);
+        found.append(host.SelectedNode());
+    }
+    EXPECT_EQ(found, (QStringList{u"P3"_qs, u"R10"_qs, u"P2"_qs, u"P2"_qs}));
+    EXPECT_EQ(host.shown, found);
+    Press(Qt::Key_Home);
+    Press(Qt::Key_F3);
+    EXPECT_EQ(host.SelectedNode(), u"P3"_qs);
+}
+
+TEST_F(TreeDogsTest, OpensTheSearchByCtrlF) {
+    StandInFor(u"frmFind"_qs);
+    Module().FindText = u"r"_qs;
+    Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(opened, QStringList{u"frmFind"_qs});
+}
+
+} // namespace
+} // namespace lorvo::test
