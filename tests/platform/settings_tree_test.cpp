@@ -71,7 +71,7 @@ TEST_F(SettingsTreeTest, ValuesOfAnotherTypeReadAsEmpty) {
 }
 
 TEST_F(SettingsTreeTest, ABrokenFileReadsAsEmpty) {
-    QByteArray bytes("[Soft\nware==\n\0\xff\xfe]]\n@@=\"", 25);
+    QByteArray bytes("[Soft\nware==\n\0\xff\xfe]]\n@@=\"", 23);
     for (int byte = 255; byte >= 0; --byte)
         bytes.append(static_cast<char>(byte));
     Put(bytes);
