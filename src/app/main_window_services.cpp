@@ -14,6 +14,10 @@ MainWindowServices& TheMainWindow() {
     return *theMainWindow;
 }
 
+TreeNodes& MainWindowServices::Nodes() {
+    throw Error("Hlavní okno nemá strom.");
+}
+
 void SetTheMainWindow(MainWindowServices* window) {
     theMainWindow = window;
 }

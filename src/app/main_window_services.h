@@ -5,6 +5,8 @@
 
 namespace lorvo {
 
+class TreeNodes;
+
 class MainWindowServices {
   public:
     virtual ~MainWindowServices() = default;
@@ -33,6 +35,9 @@ class MainWindowServices {
     /// The title above the panels.
     virtual void SetItemTitle(const QString& text) = 0;
     virtual QString Caption() const = 0;
+    /// The nodes of the tree as they stand, for the numbering's walk. A stand-in without a tree
+    /// raises Error.
+    virtual TreeNodes& Nodes();
 };
 
 /// The main window of the running program, or a test's stand-in.

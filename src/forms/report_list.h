@@ -15,7 +15,7 @@ namespace lorvo {
 /// A cell beside its text: only what differs from the list's look.
 struct ReportCell {
     QString text;
-    std::optional<QColor> colour;
+    std::optional<QColor> colour = {};
     int icon = -1; ///< position in the list's icons, -1 for none
 };
 

@@ -21,6 +21,10 @@ std::optional<Kruhy> RingByID(int kruhID) {
     return ReadFirst(Table(), "SELECT * FROM Kruhy WHERE ID = " + Number(kruhID), ReadKruhy);
 }
 
+std::vector<Kruhy> Rings() {
+    return ReadRows(Table(), "SELECT * FROM Kruhy", ReadKruhy);
+}
+
 std::vector<Kruhy> RingsByName() {
     return ReadRows(Table(), "SELECT * FROM Kruhy ORDER BY Nazev", ReadKruhy);
 }

@@ -15,6 +15,8 @@ struct Kruhy {
 };
 
 std::optional<Kruhy> RingByID(int kruhID);
+/// All rings in ID order.
+std::vector<Kruhy> Rings();
 /// All rings in Czech order of Nazev.
 std::vector<Kruhy> RingsByName();
 

@@ -1,0 +1,120 @@
+#include "payments/frmEditCurrency.h"
+
+#include "app/common_routines.h"
+#include "app/module_values.h"
+#include "forms/controls.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+#include "store/meny.h"
+#include "store/uhrady.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+enum Box { kName, kAbbreviation, kRate };
+}
+
+QString CurrencyRateCaption() {
+    return u"Kurs (x "_s + Module().MainCurrency + u"/ 1 jednotka)"_s;
+}
+
+frmEditCurrency::frmEditCurrency(std::function<void(bool)> onStored, QWidget* parent)
+    : Form("frmEditCurrency", u"Editace měny"_s, Border::Fixed, parent),
+      onStored_(std::move(onStored)),
+      chkMainCurr(Named(new QCheckBox(u"Používat jako hlavní měnu"_s, this), u"chkMainCurr"_s)),
+      cmdOK(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s)) {
+    BuildControls();
+    for (QLineEdit* box : txtEditCurr)
+        connect(box, &QLineEdit::textChanged, this, &frmEditCurrency::EnableOK);
+    connect(chkMainCurr, &QCheckBox::toggled, this, &frmEditCurrency::FollowMainMark);
+    connect(cmdOK, &QPushButton::clicked, this, &frmEditCurrency::Store);
+}
+
+void frmEditCurrency::BuildControls() {
+    const QString captions[] = {u"Název"_s, u"Zkratka"_s, CurrencyRateCaption()};
+    auto* form = new QFormLayout;
+    for (int i = 0; i < 3; ++i) {
+        txtEditCurr[i] = Named(new QLineEdit(this), ElementName("txtEditCurr", i));
+        form->addRow(CaptionFor(txtEditCurr[i], captions[i], this), txtEditCurr[i]);
+    }
+    auto* note = new QLabel(
+        u"Tuto volbu nelze změnit, pokud již byla přijata alespoň jedna platba."_s, this);
+    note->setWordWrap(true);
+    auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(form);
+    column->addWidget(chkMainCurr);
+    column->addWidget(note);
+    column->addLayout(ButtonRow({cmdOK, cmdCancel}));
+}
+
+void frmEditCurrency::Load() {
+    if (Module().EditedCurrency != 0)
+        LoadCurrency();
+    else
+        PrepareNewCurrency();
+    cmdOK->setEnabled(!txtEditCurr[kName]->text().isEmpty());
+    // Past payments are amounts in the main currency: it can't change its meaning under them.
+    chkMainCurr->setEnabled(CountPayments() == 0);
+}
+
+void frmEditCurrency::LoadCurrency() {
+    setWindowTitle(u"Upravit měnu"_s);
+    const auto currency = CurrencyByID(Module().EditedCurrency);
+    if (!currency)
+        return;
+    txtEditCurr[kName]->setText(currency->Nazev);
+    txtEditCurr[kAbbreviation]->setText(currency->Zkratka);
+    txtEditCurr[kRate]->setText(PlainAmount(currency->Kurs));
+    chkMainCurr->setChecked(currency->Hlavni);
+}
+
+void frmEditCurrency::PrepareNewCurrency() {
+    setWindowTitle(u"Přidat měnu"_s);
+    if (CountCurrencies() == 0)
+        chkMainCurr->setChecked(true);
+}
+
+void frmEditCurrency::FollowMainMark(bool main) {
+    if (main)
+        txtEditCurr[kRate]->setText(u"1"_s);
+    txtEditCurr[kRate]->setEnabled(!main);
+}
+
+void frmEditCurrency::EnableOK() {
+    cmdOK->setEnabled(!txtEditCurr[kName]->text().isEmpty() &&
+                      !txtEditCurr[kAbbreviation]->text().isEmpty() &&
+                      ThePlatform().locale->IsNumeric(txtEditCurr[kRate]->text()));
+}
+
+void frmEditCurrency::Store() {
+    Meny currency;
+    currency.ID = Module().EditedCurrency;
+    currency.Nazev = txtEditCurr[kName]->text().trimmed();
+    currency.Zkratka = txtEditCurr[kAbbreviation]->text().trimmed();
+    currency.Hlavni = chkMainCurr->isChecked();
+    try {
+        currency.Kurs = AmountFromText(txtEditCurr[kRate]->text());
+    } catch (const RangeError& failure) {
+        ThePlatform().messages->Show(u"Kurs: "_s + QString::fromUtf8(failure.what()),
+                                     MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+        return;
+    }
+    if (currency.ID != 0)
+        UpdateCurrency(currency);
+    else
+        InsertCurrency(currency);
+    onStored_(currency.Hlavni);
+    if (currency.Hlavni)
+        ClearMainMarkExceptNamed(currency.Nazev);
+    accept();
+}
+
+} // namespace lorvo

@@ -1,0 +1,43 @@
+#pragma once
+// The editor of one currency.
+
+#include "forms/form.h"
+
+#include <array>
+#include <functional>
+
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+
+namespace lorvo {
+
+/// "Kurs (x Kč/ 1 jednotka)" with the main currency in it.
+QString CurrencyRateCaption();
+
+/// Edits the currency `Module().EditedCurrency`; 0 adds a new one.
+class frmEditCurrency : public Form {
+    Q_OBJECT
+  public:
+    /// `onStored` is told, before other currencies lose their main mark, whether this one is
+    /// marked.
+    frmEditCurrency(std::function<void(bool main)> onStored, QWidget* parent);
+
+  protected:
+    void Load() override;
+
+  private:
+    void BuildControls();
+    void LoadCurrency();
+    void PrepareNewCurrency();
+    void FollowMainMark(bool main);
+    void EnableOK();
+    void Store();
+
+    std::function<void(bool)> onStored_;
+    std::array<QLineEdit*, 3> txtEditCurr{};
+    QCheckBox* chkMainCurr;
+    QPushButton* cmdOK;
+};
+
+} // namespace lorvo

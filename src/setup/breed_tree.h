@@ -1,0 +1,52 @@
+#pragma once
+// The view of the breeds with columns and check boxes.
+
+#include "setup/breed_tree_model.h"
+
+#include <QTreeView>
+#include <optional>
+
+namespace lorvo {
+
+class BreedTree : public QTreeView {
+    Q_OBJECT
+  public:
+    BreedTree(const char* name, std::vector<BreedTreeModel::Column> columns, QWidget* parent);
+
+    BreedTreeModel& Model() const { return *model_; }
+
+    /// Null when none is selected.
+    BreedNode* SelectedNode() const;
+    /// Selects the node and makes it visible.
+    void SelectNode(const BreedNode& node);
+    /// Grid lines by the preference.
+    void FollowGridPreference();
+
+  Q_SIGNALS:
+    void DeletePressed();
+    /// The right button was released over the node, which is selected.
+    void RightClick();
+    /// Editing in place begins; set *cancel to keep it from starting.
+    void BeforeLabelEdit(lorvo::BreedNode* node, bool* cancel);
+    /// Editing in place ended with a text; the node still shows its old one.
+    void AfterLabelEdit(lorvo::BreedNode* node, const QString& text);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
+
+  private:
+    friend class BreedTitleDelegate;
+    void JumpToLetter(QChar letter);
+
+    BreedTreeModel* model_;
+    bool gridLines_ = false;
+    std::optional<QString> editedText_; ///< what an edit that is just ending has committed
+    int editedID_ = 0;
+};
+
+} // namespace lorvo

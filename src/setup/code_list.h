@@ -1,0 +1,68 @@
+#pragma once
+// The window of a code list, edited in place: the colours and the awards differ in their texts and
+// in the store's routines alone.
+
+#include "forms/form.h"
+
+#include <functional>
+#include <vector>
+
+class QToolBar;
+
+namespace lorvo {
+
+class ReportList;
+
+/// What sets one code list apart.
+struct CodeListTexts {
+    const char* window;
+    const char* list;
+    const char* toolBar;
+    QStringView caption;
+    QStringView usedHeading;
+    QStringView newName;
+    QStringView duplicate;
+    QStringView deleteQuestion;
+    QStringView inUse; ///< with %1 for the count
+};
+
+struct CodeListRow {
+    int ID = 0;
+    QString Nazev;
+};
+
+struct CodeListStore {
+    std::function<std::vector<CodeListRow>()> rows;
+    std::function<int(int ID)> countUses;
+    std::function<int(const QString&)> countNamed;
+    std::function<int(const QString&)> insert;
+    std::function<void(int ID, const QString&)> rename;
+    std::function<void(int ID)> remove;
+};
+
+/// A tool bar of the lists edited in place: "Přidat", "Přejmenovat", "Smazat" with the keys Add,
+/// Edit and Remove.
+QToolBar* CodeListToolBar(const char* name, QWidget* parent);
+
+class CodeListForm : public Form {
+    Q_OBJECT
+  public:
+    CodeListForm(const CodeListTexts& texts, CodeListStore store, QWidget* parent);
+
+  protected:
+    void Load() override;
+
+  private:
+    void AddEntry();
+    void EditEntry();
+    void RemoveEntry();
+    void StoreEntry(int position, const QString& text, bool* cancel);
+    void RefuseDuplicate(int position, bool* cancel);
+    int SelectedID() const;
+
+    const CodeListTexts& texts_;
+    CodeListStore store_;
+    ReportList* list_;
+};
+
+} // namespace lorvo

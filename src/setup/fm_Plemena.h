@@ -1,0 +1,59 @@
+#pragma once
+// The breed register: which breeds the show uses, the user's own subgroups, rings and FCI groups.
+
+#include "forms/form.h"
+
+class QLabel;
+
+namespace lorvo {
+
+class BreedTree;
+class CommandCollection;
+struct BreedNode;
+
+class fm_Plemena : public Form {
+    Q_OBJECT
+  public:
+    explicit fm_Plemena(QWidget* parent);
+
+  protected:
+    void Load() override;
+
+  private:
+    void BuildControls();
+    void LoadTree();
+    void ShowStatus();
+    void CarryOut(const QString& command);
+
+    // Ticks.
+    void Tick(int ID);
+    /// Why the node can't be ticked or unticked as it now stands; empty when it can.
+    QString TickRefusal(const BreedNode& node, bool* tickAfterRefusal) const;
+
+    // Commands.
+    void AddSubgroup();
+    void RenameSelected();
+    void DeleteSelected();
+    void ShowHelp();
+    void OpenNaming(int ID);
+
+    // Editing in place.
+    void RefuseBaseBreed(const BreedNode& node, bool* cancel);
+    void StoreTitle(BreedNode& node, const QString& text);
+
+    // The menu on a node; the number chosen carries its argument.
+    void ShowMenu();
+    void CarryOutMenu(BreedNode& node, int number);
+    void AssignFci(BreedNode& node, int fci);
+    void AssignRing(BreedNode& node, int kruhID);
+
+    void Inform(const QString& text) const;
+    void Refuse(const QString& text) const;
+
+    bool HideUnused = false;
+    CommandCollection* commands_;
+    BreedTree* tvwPlemena;
+    QLabel* status_;
+};
+
+} // namespace lorvo

@@ -1,0 +1,258 @@
+#include "setup/fm_Settings.h"
+
+#include "app/common_routines.h"
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "forms/controls.h"
+#include "payments/currency_list.h"
+#include "platform/platform.h"
+#include "setup/catalogue_numbers.h"
+#include "setup/frmCisteniDB.h"
+#include "setup/frmWizard.h"
+#include "store/meny.h"
+#include "store/ostatni.h"
+#include "store/psi.h"
+#include "store/vystavy.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const DateValue kUnknownShowDate = DateValue::FromCalendar(2000, 1, 1);
+const DateValue kDesignedDate = DateValue::FromCalendar(2004, 5, 26);
+
+const QString kPreferences = u"Sys"_s;
+
+QLabel* Note(const QString& text, QWidget* parent) {
+    auto* note = new QLabel(text, parent);
+    note->setWordWrap(true);
+    return note;
+}
+
+/// Changing the tree's shape by the mouse makes the tree stale at once, before anything is stored.
+class ShapeWatcher : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease)
+            Module().TreeDirty = true;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+void TickIfPreferred(QCheckBox& box, const char* name) {
+    if (ReadRegValue(kPreferences, QString::fromLatin1(name)) == u"1")
+        box.setChecked(true);
+}
+
+void StorePreference(const QCheckBox& box, const char* name) {
+    WriteRegValue(kPreferences, QString::fromLatin1(name), box.isChecked() ? u"1"_s : u"0"_s);
+}
+
+void ReadMainCurrency() {
+    const std::vector<Meny> marked = MainCurrencies();
+    Module().MainCurrency = marked.empty() ? u"Kč"_s : marked.front().Zkratka;
+}
+
+} // namespace
+
+fm_Settings::fm_Settings(QWidget* parent)
+    : Form("fm_Settings", u"Nastavení"_s, Border::Fixed, parent) {
+    auto* pages = Named(new QTabWidget(this), u"XTab"_s);
+    pages->addTab(MakeSystemPage(), u" Systém "_s);
+    pages->addTab(currencies_ = new CurrencyList(pages), u" Měny "_s);
+    pages->addTab(MakeLookPage(), u" Vzhled "_s);
+
+    auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
+    auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(pages);
+    column->addLayout(ButtonRow({cmdOK, cmdCancel}));
+
+    connect(cmdOK, &QPushButton::clicked, this, &fm_Settings::Store);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cmdGenerateNumbers, &QPushButton::clicked, this, &fm_Settings::GenerateNumbers);
+    connect(cmdRemoveNumbers, &QPushButton::clicked, this, &fm_Settings::RemoveNumbers);
+    connect(cmdClearDatabase, &QPushButton::clicked, this, [this] {
+        frmCisteniDB window(this);
+        OpenModal(window);
+    });
+    connect(Command1, &QPushButton::clicked, this, [this] {
+        frmWizard window(this);
+        OpenModal(window);
+    });
+}
+
+QWidget* fm_Settings::MakeSystemPage() {
+    auto* page = new QWidget(this);
+    auto* column = new QVBoxLayout(page);
+    column->addWidget(MakeDatesFrame());
+    column->addWidget(MakeNumbersFrame());
+    column->addWidget(MakeDatabaseFrame());
+    column->addWidget(MakeWizardFrame());
+    column->addStretch();
+    return page;
+}
+
+QWidget* fm_Settings::MakeDatesFrame() {
+    auto* frame = new QGroupBox(u"Data"_s, this);
+    auto* form = new QFormLayout;
+    const auto picker = [&](const char* name, const QString& caption) {
+        QDateEdit* made = DatePicker(QString::fromLatin1(name), frame);
+        SetPickedDate(*made, kDesignedDate);
+        form->addRow(CaptionFor(made, caption, frame), made);
+        return made;
+    };
+    dtMeeting = picker("dtMeeting", u"Datum konání výstavy"_s);
+    dtPrvniUzaverka = picker("dtPrvniUzaverka", u"Datum první uzávěrky"_s);
+    dtDruhaUzaverka = picker("dtDruhaUzaverka", u"Datum druhé uzávěrky"_s);
+
+    auto* column = new QVBoxLayout(frame);
+    column->addLayout(form);
+    column->addWidget(Note(u"Datum konání výstavy po nastavení nelze měnit, pokud je už na výstavu "
+                           u"přihlášen přinejmenším jeden pes."_s,
+                           frame));
+    return frame;
+}
+
+QWidget* fm_Settings::MakeNumbersFrame() {
+    auto* frame = new QGroupBox(u"Pořadová čísla psů"_s, this);
+    cmdGenerateNumbers =
+        Named(new QPushButton(u"Vygenerovat pořadová čísla"_s, frame), u"cmdGenerateNumbers"_s);
+    cmdRemoveNumbers =
+        Named(new QPushButton(u"Zrušit pořadová čísla"_s, frame), u"cmdRemoveNumbers"_s);
+    auto* row = new QHBoxLayout(frame);
+    row->addWidget(cmdGenerateNumbers);
+    row->addWidget(cmdRemoveNumbers);
+    return frame;
+}
+
+QWidget* fm_Settings::MakeDatabaseFrame() {
+    auto* frame = new QGroupBox(u"Databáze"_s, this);
+    cmdClearDatabase = Named(new QPushButton(u"Smazat data"_s, frame), u"cmdClearDatabase"_s);
+    auto* row = new QHBoxLayout(frame);
+    row->addWidget(Note(u"Smazáním obsahu databáze přijdete o všechna data. Po stisknutí tlačítka "
+                        u"budete dotázáni, zda chcete skutečně data smazat."_s,
+                        frame),
+                   1);
+    row->addWidget(cmdClearDatabase);
+    return frame;
+}
+
+QWidget* fm_Settings::MakeWizardFrame() {
+    auto* frame = new QGroupBox(u"Průvodce"_s, this);
+    Command1 = Named(new QPushButton(u"Spustit průvodce"_s, frame), u"Command1"_s);
+    auto* row = new QHBoxLayout(frame);
+    row->addStretch();
+    row->addWidget(Command1);
+    return frame;
+}
+
+QWidget* fm_Settings::MakeLookPage() {
+    auto* page = new QWidget(this);
+    auto* frame = new QGroupBox(u"Volby"_s, page);
+    auto* column = new QVBoxLayout(frame);
+    const auto box = [&](const char* name, const QString& caption) {
+        auto* made = Named(new QCheckBox(caption, frame), QString::fromLatin1(name));
+        column->addWidget(made);
+        return made;
+    };
+    chkGrids = box("chkGrids", u"Zobrazovat mřížky v seznamech"_s);
+    chkRememberItem = box("chkRememberItem", u"Zapamatovat rozbalení hlavního stromečku"_s);
+    chkShowClasses = box("chkShowClasses", u"Zobrazit ve stromečku třídy"_s);
+    chkSourozenci = box("chkSourozenci", u"Po vybrání psa ve stromečku označit všechny psy "
+                                         u"stejného majitele"_s);
+    chkShowClasses->installEventFilter(new ShapeWatcher(this));
+
+    auto* pageColumn = new QVBoxLayout(page);
+    pageColumn->addWidget(frame);
+    pageColumn->addStretch();
+    return page;
+}
+
+void fm_Settings::Activated() {
+    LoadSettings();
+    ReadMainCurrency();
+    currencies_->Refill();
+}
+
+void fm_Settings::LoadSettings() {
+    LoadDates();
+    EnableNumberButtons();
+    LoadLooks();
+}
+
+void fm_Settings::LoadDates() {
+    // The date decides the classes of the dogs already entered.
+    dtMeeting->setEnabled(CountDogs() == 0);
+    if (!ShowWideValues())
+        SetShowDate(kUnknownShowDate);
+    const DateValue stored = ShowWideValues()->DatumVystavy.value_or(DateValue());
+    SetPickedDate(*dtMeeting, stored.IsZero() ? kUnknownShowDate : stored);
+
+    const std::vector<Vystavy> shows = Shows();
+    if (shows.empty())
+        return;
+    if (shows.front().Uzaverka1)
+        SetPickedDate(*dtPrvniUzaverka, *shows.front().Uzaverka1);
+    if (shows.front().Uzaverka2)
+        SetPickedDate(*dtDruhaUzaverka, *shows.front().Uzaverka2);
+}
+
+void fm_Settings::EnableNumberButtons() {
+    const bool numbered = CountNumberedDogs() > 0;
+    cmdRemoveNumbers->setEnabled(numbered);
+    cmdGenerateNumbers->setEnabled(!numbered);
+}
+
+void fm_Settings::LoadLooks() {
+    TickIfPreferred(*chkGrids, "ShowGrid");
+    TickIfPreferred(*chkShowClasses, "ShowClasses");
+    TickIfPreferred(*chkSourozenci, "ShowSiblings");
+    chkRememberItem->setChecked(Module().RememberTreeOn);
+}
+
+void fm_Settings::Store() {
+    SetShowDate(PickedDate(*dtMeeting));
+    StorePreference(*chkGrids, "ShowGrid");
+    StorePreference(*chkShowClasses, "ShowClasses");
+    StorePreference(*chkSourozenci, "ShowSiblings");
+    Module().RememberTreeOn = chkRememberItem->isChecked();
+    SetClosingsOfFirstShow(PickedDate(*dtPrvniUzaverka), PickedDate(*dtDruhaUzaverka));
+    accept();
+}
+
+bool fm_Settings::Confirm(const QString& question) const {
+    return ThePlatform().messages->Show(question, MessageIcon::Question, MessageButtons::YesNo,
+                                        windowTitle()) == MessageAnswer::Yes;
+}
+
+void fm_Settings::GenerateNumbers() {
+    if (!Confirm(u"Určitě vygenerovat pořadová čísla psů?"_s))
+        return;
+    const WaitCursor waiting(*ThePlatform().ui);
+    GenerateCatalogueNumbers(TheMainWindow().Nodes());
+    cmdGenerateNumbers->setEnabled(false);
+    cmdRemoveNumbers->setEnabled(true);
+}
+
+void fm_Settings::RemoveNumbers() {
+    if (!Confirm(u"Určitě zrušit pořadová čísla psů?"_s))
+        return;
+    const WaitCursor waiting(*ThePlatform().ui);
+    if (CountDogs() == 0)
+        return;
+    RemoveDogNumbers();
+    cmdGenerateNumbers->setEnabled(true);
+    cmdRemoveNumbers->setEnabled(false);
+    TheMainWindow().LoadData();
+}
+
+} // namespace lorvo

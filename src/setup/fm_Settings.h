@@ -1,0 +1,56 @@
+#pragma once
+// The settings: dates of the show, catalogue numbers, clearing, the wizard, currencies, looks.
+
+#include "forms/form.h"
+
+class QCheckBox;
+class QDateEdit;
+class QPushButton;
+
+namespace lorvo {
+
+class CurrencyList;
+
+class fm_Settings : public Form {
+    Q_OBJECT
+  public:
+    explicit fm_Settings(QWidget* parent);
+
+    void Activated() override;
+
+  protected:
+    void Load() override;
+
+  private:
+    QWidget* MakeSystemPage();
+    QWidget* MakeDatesFrame();
+    QWidget* MakeNumbersFrame();
+    QWidget* MakeDatabaseFrame();
+    QWidget* MakeWizardFrame();
+    QWidget* MakeLookPage();
+
+    /// Puts what is stored on the screen; runs again whenever the window comes back to the front.
+    void LoadSettings();
+    void LoadDates();
+    void EnableNumberButtons();
+    void LoadLooks();
+    void Store();
+    void GenerateNumbers();
+    void RemoveNumbers();
+    bool Confirm(const QString& question) const;
+
+    QDateEdit* dtMeeting;
+    QDateEdit* dtPrvniUzaverka;
+    QDateEdit* dtDruhaUzaverka;
+    QPushButton* cmdGenerateNumbers;
+    QPushButton* cmdRemoveNumbers;
+    QPushButton* cmdClearDatabase;
+    QPushButton* Command1;
+    CurrencyList* currencies_;
+    QCheckBox* chkGrids;
+    QCheckBox* chkRememberItem;
+    QCheckBox* chkShowClasses;
+    QCheckBox* chkSourozenci;
+};
+
+} // namespace lorvo

@@ -1,0 +1,60 @@
+#include "setup/fm_classes.h"
+
+#include "app/module_values.h"
+#include "forms/report_list.h"
+#include "platform/platform.h"
+#include "setup/code_list.h"
+#include "store/psi_lists.h"
+
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int kRows = 10;
+}
+
+// The bar's buttons have never acted; names are edited by a click on the text.
+fm_classes::fm_classes(QWidget* parent)
+    : Form("fm_classes", u"Třídy"_s, Border::Sizable, parent),
+      lvwClasses(new ReportList("lvwClasses", {u"Název třídy"_s, u"Počet psů"_s}, this)) {
+    lvwClasses->SetColumnWidths({260, 90});
+    lvwClasses->SetLabelEdit(true);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(CodeListToolBar("tbrPlemena", this));
+    column->addWidget(lvwClasses);
+    resize(400, 360);
+    lvwClasses->setFocus();
+    connect(lvwClasses, &ReportList::AfterLabelEdit, this, &fm_classes::Rename);
+}
+
+void fm_classes::Load() {
+    Module().BreedsDirty = false;
+    std::vector<ReportRow> rows;
+    for (int trida = 1; trida <= kRows; ++trida) {
+        const QString& name = Module().ClassNames[static_cast<std::size_t>(trida - 1)];
+        if (!name.isEmpty())
+            rows.push_back({u"C"_s + QString::number(trida),
+                            {},
+                            {{name}, {QString::number(CountDogsWithClass(trida))}}});
+    }
+    while (rows.size() < kRows)
+        rows.push_back({u"C"_s + QString::number(rows.size() + 1), {}, {{u"-nepoužito-"_s}}});
+    lvwClasses->SetRows(std::move(rows));
+}
+
+void fm_classes::Rename(int position, const QString& text, bool* cancel) {
+    if (text.isEmpty()) {
+        ThePlatform().messages->Show(u"Název musí být zadán!"_s, MessageIcon::Stop,
+                                     MessageButtons::Ok, windowTitle());
+        *cancel = true;
+        return;
+    }
+    Module().ClassNames[static_cast<std::size_t>(position)] = text;
+    Module().BreedsDirty = true;
+}
+
+} // namespace lorvo

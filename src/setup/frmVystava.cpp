@@ -1,0 +1,115 @@
+#include "setup/frmVystava.h"
+
+#include "app/common_routines.h"
+#include "forms/controls.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+#include "setup/fee_grid.h"
+#include "store/vystavy.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Whether prices depend on the class is one setting of the installation, not of a show.
+const QString kSection = u"Main"_s;
+const QString kIgnoreClasses = u"Ignorovat tridy"_s;
+
+QString IniPath() {
+    return ThePlatform().programFolder + u"/Lorvosys.ini"_s;
+}
+
+} // namespace
+
+frmVystava::frmVystava(int vystavaID, std::function<void(const QString&)> onStored, QWidget* parent)
+    : Form("frmVystava", u"Výstava"_s, Border::Fixed, parent), vystavaID_(vystavaID),
+      onStored_(std::move(onStored)), txtName(Named(new QLineEdit(this), u"txtName"_s)),
+      chkRozliseni(Named(new QCheckBox(u"Rozlišovat ceny podle tříd"_s, this), u"chkRozliseni"_s)),
+      fees_(new FeeGrid(this)) {
+    BuildControls();
+    connect(chkRozliseni, &QCheckBox::toggled, this, &frmVystava::ChooseGrid);
+}
+
+void frmVystava::BuildControls() {
+    auto* name = new QGroupBox(u"Název"_s, this);
+    txtName->setAccessibleName(u"Název"_s);
+    (new QVBoxLayout(name))->addWidget(txtName);
+
+    auto* prices = new QGroupBox(u"Poplatky v Kč"_s, this);
+    auto* rows = new QVBoxLayout(prices);
+    rows->addWidget(fees_);
+    rows->addWidget(chkRozliseni);
+
+    auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
+    auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
+    connect(cmdOK, &QPushButton::clicked, this, &frmVystava::Store);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(name);
+    column->addWidget(prices);
+    column->addLayout(ButtonRow({cmdOK, cmdCancel}));
+}
+
+void frmVystava::Load() {
+    Loading = true;
+    fees_->SetFees(ShowFees(vystavaID_));
+    if (const auto show = ShowByID(vystavaID_))
+        txtName->setText(show->Nazev);
+    const bool ignoreClasses = ReadIniValue(kSection, kIgnoreClasses, IniPath()) == u"1";
+    if (ignoreClasses)
+        fees_->CopyFirstClassToSimple();
+    fees_->ShowSimple(ignoreClasses);
+    chkRozliseni->setChecked(!ignoreClasses);
+    Loading = false;
+}
+
+void frmVystava::ChooseGrid(bool byClass) {
+    if (Loading)
+        return;
+    fees_->ShowSimple(!byClass);
+    if (byClass)
+        fees_->SpreadSimple();
+    else
+        fees_->CopyFirstClassToSimple();
+}
+
+bool frmVystava::CheckFees() const {
+    const auto texts = fees_->Texts();
+    for (int column = 0; column < kFeeColumns; ++column) {
+        try {
+            if (!texts[column].isEmpty())
+                AmountFromText(texts[column]);
+        } catch (const RangeError& failure) {
+            Refuse(FeeGrid::BoxCaption(column) + u": "_s + QString::fromUtf8(failure.what()));
+            return false;
+        }
+    }
+    return true;
+}
+
+void frmVystava::Store() {
+    if (txtName->text().isEmpty())
+        return Refuse(u"Neplatný název výstavy"_s);
+    const bool byClass = chkRozliseni->isChecked();
+    if (!byClass)
+        fees_->SpreadSimple();
+    if (!CheckFees())
+        return;
+    ThePlatform().iniFiles->Write(kSection, kIgnoreClasses, byClass ? u"0"_s : u"1"_s, IniPath());
+    const QString name = txtName->text().trimmed();
+    UpdateShow(vystavaID_, name, fees_->Texts());
+    onStored_(name);
+    accept();
+}
+
+void frmVystava::Refuse(const QString& text) const {
+    ThePlatform().messages->Show(text, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+}
+
+} // namespace lorvo

@@ -1,0 +1,41 @@
+#pragma once
+// The editor of one show: its name and its entry fees.
+
+#include "forms/form.h"
+
+#include <functional>
+
+class QCheckBox;
+class QLineEdit;
+
+namespace lorvo {
+
+class FeeGrid;
+
+class frmVystava : public Form {
+    Q_OBJECT
+  public:
+    /// `onStored` is told the show's name when it has been stored.
+    frmVystava(int vystavaID, std::function<void(const QString&)> onStored, QWidget* parent);
+
+  protected:
+    void Load() override;
+
+  private:
+    void BuildControls();
+    void ChooseGrid(bool byClass);
+    void Store();
+    /// Whether the store can take every fee; a message names the box that it can't.
+    bool CheckFees() const;
+    void Refuse(const QString& text) const;
+
+    int vystavaID_;
+    std::function<void(const QString&)> onStored_;
+    bool Loading = false;
+
+    QLineEdit* txtName;
+    QCheckBox* chkRozliseni;
+    FeeGrid* fees_;
+};
+
+} // namespace lorvo
