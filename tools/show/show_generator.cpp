@@ -20,7 +20,9 @@ void NumberEnteredDogs(Numbers numbers) {
     }
     if (numbers == Numbers::Some)
         order.resize(order.size() * 2 / 3);
-    NumberDogs(order);
+    int cislo = 0;
+    for (const int psiID : order)
+        SetDogNumber(psiID, ++cislo);
 }
 
 void GenerateShow(const ShowSize& size, std::uint64_t seed, Numbers numbers) {
