@@ -8,7 +8,7 @@
 file(MAKE_DIRECTORY ${FOLDER})
 
 if(NOT EXISTS ${FOLDER}/data.mdb)
-  file(COPY ${DATABASE} DESTINATION ${FOLDER})
+  file(COPY_FILE ${DATABASE} ${FOLDER}/data.mdb)
 endif()
 
 file(COPY_FILE ${HELP} ${FOLDER}/Lorvo.chm ONLY_IF_DIFFERENT)
@@ -19,6 +19,6 @@ file(GLOB templates ${TEMPLATES}/*.html)
 foreach(template ${templates})
   get_filename_component(file ${template} NAME)
   if(${template} IS_NEWER_THAN ${FOLDER}/${name}/${file})
-    file(COPY ${template} DESTINATION ${FOLDER}/${name} NO_SOURCE_PERMISSIONS)
+    file(COPY_FILE ${template} ${FOLDER}/${name}/${file})
   endif()
 endforeach()

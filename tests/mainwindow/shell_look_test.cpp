@@ -1,0 +1,36 @@
+#include "mainwindow/shell_fixture.h"
+#include "support/window_walk.h"
+
+#include <QAction>
+
+namespace lorvo {
+namespace {
+
+/// The window in order with each of its panels in front.
+class ShellLook : public Shell, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(ShellLook, IsInOrderWithANodeShown) {
+    AddSmallShow();
+    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+    Start();
+    const QString key = QString::fromUtf8(GetParam());
+    window_->SelectNode(key);
+    window_->ShowNodeInfo(key);
+    test::WalkWindow(*window_);
+}
+
+INSTANTIATE_TEST_SUITE_P(Nodes, ShellLook, ::testing::Values("K0", "K1", "R10", "TR10|5"));
+
+TEST_F(Shell, IsInOrderBeforeAnyNodeIsShown) {
+    Start();
+    test::WalkWindow(*window_);
+}
+
+TEST_F(Shell, IsInOrderWithTheAboutPanel) {
+    Start();
+    Control<QAction>(u"HELP:ABOUT"_qs).trigger();
+    test::WalkWindow(*window_);
+}
+
+} // namespace
+} // namespace lorvo
