@@ -53,10 +53,8 @@ void SetPickedDate(QDateEdit& picker, DateValue value) {
 QLayout* ButtonRow(std::initializer_list<QPushButton*> buttons) {
     auto* row = new QHBoxLayout;
     row->addStretch();
-    for (QPushButton* button : buttons) {
-        button->setAutoDefault(false);
+    for (QPushButton* button : buttons)
         row->addWidget(button);
-    }
     (*buttons.begin())->setDefault(true);
     return row;
 }

@@ -1,5 +1,6 @@
 #include "mainwindow/window_opener.h"
 
+#include "dogs/fm_Dog.h"
 #include "forms/form.h"
 #include "platform/values/errors.h"
 #include "reports/frmTiskKatalog.h"
@@ -21,6 +22,7 @@ template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
 
 std::map<QString, WindowFactory>& Windows() {
     static std::map<QString, WindowFactory> windows{
+        {QStringLiteral("fm_Dog"), Make<fm_Dog>},
         {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
         {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
     };

@@ -99,7 +99,7 @@ TEST(WindowWalkTest, PassesATidyWindow) {
     TidyWindow window;
     test::WalkWindow(window);
     EXPECT_TRUE(window.cmdOK->isDefault());
-    EXPECT_FALSE(window.cmdCancel->autoDefault());
+    EXPECT_FALSE(window.cmdCancel->isDefault());
 }
 
 TEST(WindowWalkTest, NoticesWhatIsWrong) {

@@ -1,0 +1,104 @@
+#include "dogs/dog_class_box.h"
+
+#include "app/module_values.h"
+#include "dogs/class_eligibility.h"
+#include "forms/controls.h"
+#include "platform/platform.h"
+#include "store/connection.h"
+#include "store/ostatni.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QRadioButton>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kColumns = 2;
+constexpr int kCaptionLines = 3; ///< at the narrowest
+
+/// The day of the show; the date value 0 as long as it isn't set. Gives the table its row.
+DateValue ShowDate() {
+    DateValue date;
+    SkipFailure([&date] {
+        const auto values = ShowWideValues();
+        if (!values)
+            InsertEmptyShowWideValues();
+        else
+            date = values->DatumVystavy.value_or(DateValue());
+    });
+    return date;
+}
+
+} // namespace
+
+DogClassBox::DogClassBox(QWidget* parent)
+    : QGroupBox(QStringLiteral("Třída"), parent),
+      Label8(Named(new QLabel(this), QStringLiteral("Label8"))), choice_(new QButtonGroup(this)) {
+    setObjectName(QStringLiteral("fraClasses"));
+    Label8->setToolTip(
+        QStringLiteral("Vyberte jednu ze tříd. Třídy jsou dostupné podle věku psa v den výstavy"));
+    Label8->setText(Label8->toolTip());
+    Label8->setTextFormat(Qt::PlainText);
+    Label8->setWordWrap(true);
+    Label8->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(Label8, 0, 0, 1, kColumns);
+    for (int i = 0; i < static_cast<int>(optClasses.size()); ++i) {
+        auto* button = Named(new QRadioButton(this), ElementName("optClasses", i));
+        layout->addWidget(button, 1 + i / kColumns, i % kColumns);
+        choice_->addButton(button, i);
+        optClasses[static_cast<size_t>(i)] = button;
+    }
+    connect(choice_, &QButtonGroup::idClicked, this, &DogClassBox::Clicked);
+}
+
+void DogClassBox::NameClasses() {
+    // Room for the caption at any date, so that nothing moves when its length changes.
+    Label8->setMinimumHeight(kCaptionLines * Label8->fontMetrics().lineSpacing());
+    const ModuleValues& module = Module();
+    const TextTable& names = module.SpecialBreed ? module.SpecialClassNames : module.ClassNames;
+    for (size_t i = 0; i < optClasses.size(); ++i) {
+        QString caption = names[i];
+        optClasses[i]->setText(caption.replace(u'&', QStringLiteral("&&")));
+        optClasses[i]->setHidden(caption.isEmpty());
+    }
+}
+
+void DogClassBox::Choose(int trida) {
+    if (QAbstractButton* button = choice_->button(trida - 1))
+        button->setChecked(true);
+}
+
+int DogClassBox::Chosen() const {
+    return choice_->checkedId() + 1;
+}
+
+void DogClassBox::Drop(QRadioButton* button) {
+    choice_->setExclusive(false);
+    button->setChecked(false);
+    choice_->setExclusive(true);
+}
+
+void DogClassBox::UpdateClassButtons(DateValue born) {
+    const ModuleValues& module = Module();
+    const NumberTable& from = module.SpecialBreed ? module.SpecialClassFrom : module.ClassFrom;
+    const NumberTable& to = module.SpecialBreed ? module.SpecialClassTo : module.ClassTo;
+    const DateValue show = ShowDate();
+    const int age =
+        AgeInMonths(born, show, module.SpecialBreed ? ClassList::Special : ClassList::Standard);
+    for (size_t i = 0; i < optClasses.size(); ++i) {
+        QRadioButton* button = optClasses[i];
+        if (button->isHidden())
+            continue;
+        button->setEnabled(IsClassOpen(age, from[i], to[i]));
+        if (!button->isEnabled())
+            Drop(button);
+    }
+    Label8->setText(QString::fromStdString(
+        ClassCaption(Label8->toolTip().toStdString(),
+                     ThePlatform().locale->ShortDate(show).toStdString(), age)));
+}
+
+} // namespace lorvo

@@ -1,0 +1,41 @@
+#pragma once
+// The classes of the dog editor, of which the dog's age leaves some to choose from.
+
+#include "platform/values/date_value.h"
+
+#include <QGroupBox>
+#include <array>
+
+class QButtonGroup;
+class QLabel;
+class QRadioButton;
+
+namespace lorvo {
+
+class DogClassBox : public QGroupBox {
+    Q_OBJECT
+  public:
+    explicit DogClassBox(QWidget* parent);
+
+    /// Names the buttons by the class list in force (Module().SpecialBreed) and hides the rest.
+    void NameClasses();
+    /// Chooses the class of that code; a code without a button chooses none.
+    void Choose(int trida);
+    /// Code of the chosen class, from 1; 0 when none is.
+    int Chosen() const;
+    /// Opens the classes that a dog born then may be shown in on the show's day, drops the choice
+    /// of a closed one and renews the caption. A store that fails counts as a show without a date.
+    void UpdateClassButtons(DateValue born);
+
+  Q_SIGNALS:
+    void Clicked();
+
+  private:
+    void Drop(QRadioButton* button);
+
+    QLabel* Label8;
+    std::array<QRadioButton*, 10> optClasses;
+    QButtonGroup* choice_;
+};
+
+} // namespace lorvo

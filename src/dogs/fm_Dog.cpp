@@ -1,0 +1,124 @@
+#include "dogs/fm_Dog.h"
+
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "dogs/dog_class_box.h"
+#include "dogs/dog_owner_box.h"
+#include "dogs/dog_saving.h"
+#include "dogs/stored_texts_combo.h"
+#include "forms/controls.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+
+#include <QComboBox>
+#include <QRadioButton>
+
+namespace lorvo {
+
+namespace {
+
+/// ID of the dog whose node is selected in the tree; 0 when none is.
+int SelectedDog() {
+    return TheMainWindow().SelectedNode().mid(1).toInt();
+}
+
+Psi StoredDog(int psiID) {
+    const auto dog = DogByID(psiID);
+    if (!dog)
+        throw StoreError("Pes č. " + std::to_string(psiID) + " v databázi není.");
+    return *dog;
+}
+
+} // namespace
+
+void fm_Dog::Load() {
+    Module().SpecialBreed = Module().CurrentBreedID == kSpecialBreedID;
+    classes_->NameClasses();
+    SetStoredTexts(*icStanice, DistinctKennels());
+    SetStoredTexts(*icOtec, DistinctFathers());
+    SetStoredTexts(*icMatka, DistinctMothers());
+    owner_->LoadMajitele();
+    if (!Module().IsAddingDog) {
+        setWindowTitle(QStringLiteral("Upravit psa"));
+        Module().CurrentDogID = SelectedDog();
+        if (Module().CurrentDogID == 0)
+            return;
+        const Psi dog = StoredDog(Module().CurrentDogID);
+        ShowDog(dog);
+        owner_->ShowOwnerOfDog(dog.MajitelID);
+    }
+    UpdateClasses();
+    connect(dtBorn, &QDateEdit::dateChanged, this, &fm_Dog::UpdateClasses);
+}
+
+void fm_Dog::ShowDog(const Psi& dog) {
+    txtbox[0]->setText(dog.Jmeno);
+    colour_ = KeptColour(dog.BarvaID);
+    optGender[dog.PohlaviPes ? 0 : 1]->setChecked(true);
+    if (dog.DatumNar)
+        SetPickedDate(*dtBorn, *dog.DatumNar);
+    classes_->Choose(dog.Trida);
+    icStanice->setEditText(dog.ChovnaStanice);
+    icOtec->setEditText(dog.Otec);
+    icMatka->setEditText(dog.Matka);
+    txtbox[1]->setText(dog.Chovatel);
+    txtbox[2]->setText(dog.PK);
+    txtbox[3]->setText(dog.Poznamka);
+    firstClosing_ = dog.PrvniUzaverka;
+}
+
+void fm_Dog::UpdateClasses() {
+    classes_->UpdateClassButtons(PickedDate(*dtBorn));
+    UpdateOKButton();
+}
+
+void fm_Dog::UpdateOKButton() {
+    cmd_OK->setEnabled(classes_->Chosen() > 0 && !txtbox[0]->text().isEmpty());
+}
+
+bool fm_Dog::CheckPostCode() {
+    const QString cleaned = CleanedPostCode(owner_->PostCodeBox().text());
+    owner_->PostCodeBox().setText(cleaned);
+    if (IsPostCode(cleaned))
+        return true;
+    ThePlatform().messages->Show(QStringLiteral("Chyba v zadání PSČ"), MessageIcon::Stop,
+                                 MessageButtons::Ok, windowTitle());
+    return false;
+}
+
+bool fm_Dog::CheckOwnerName() {
+    if (!owner_->NameBox().text().isEmpty())
+        return true;
+    ThePlatform().messages->Show(QStringLiteral("Jméno  majitele musí být vyplněno"),
+                                 MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+    return false;
+}
+
+Psi fm_Dog::DogFromBoxes() const {
+    Psi dog;
+    dog.ID = SelectedDog();
+    dog.PlemenoID = Module().CurrentBreedID;
+    dog.Jmeno = txtbox[0]->text();
+    dog.BarvaID = colour_;
+    dog.PohlaviPes = optGender[0]->isChecked();
+    dog.DatumNar = PickedDate(*dtBorn);
+    dog.ChovnaStanice = icStanice->currentText();
+    dog.Otec = icOtec->currentText();
+    dog.Matka = icMatka->currentText();
+    dog.PK = txtbox[2]->text();
+    dog.Poznamka = txtbox[3]->text();
+    dog.Chovatel = txtbox[1]->text();
+    dog.PrvniUzaverka = firstClosing_;
+    dog.MajitelID = owner_->SelectedOwnerID();
+    dog.Trida = classes_->Chosen();
+    return dog;
+}
+
+void fm_Dog::OK() {
+    if (!CheckPostCode() || !CheckOwnerName())
+        return;
+    SaveDog({Module().IsAddingDog, DogFromBoxes(), owner_->Boxes(), owner_->IsNewOwner()});
+    accept();
+}
+
+} // namespace lorvo

@@ -1,0 +1,58 @@
+#pragma once
+// The window in which a dog is added or edited, together with its owner.
+
+#include "forms/form.h"
+#include "store/psi.h"
+
+#include <array>
+
+class QComboBox;
+class QDateEdit;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace lorvo {
+
+class DogClassBox;
+class DogOwnerBox;
+
+/// Takes from the module values whether a dog is added (IsAddingDog) and to which breed
+/// (CurrentBreedID); an edited dog is the tree's selected node. After OK the dog is selected there.
+class fm_Dog : public Form {
+    Q_OBJECT
+  public:
+    explicit fm_Dog(QWidget* parent);
+
+  protected:
+    void Load() override;
+
+  private:
+    QWidget* MakeDogSide();
+    QWidget* MakeOwnerSide();
+    QWidget* MakeGenderRow(QWidget* parent);
+    void ShowDog(const Psi& dog);
+    void UpdateClasses();
+    void UpdateOKButton();
+    bool CheckPostCode();
+    bool CheckOwnerName();
+    Psi DogFromBoxes() const;
+    void OK();
+
+    std::array<QLineEdit*, 4> txtbox{}; ///< the dog's boxes of the window's array
+    std::array<QRadioButton*, 2> optGender{};
+    QComboBox* icStanice = nullptr;
+    QDateEdit* dtBorn = nullptr;
+    DogClassBox* classes_ = nullptr;
+    QComboBox* icOtec = nullptr;
+    QComboBox* icMatka = nullptr;
+    DogOwnerBox* owner_ = nullptr;
+    QPushButton* cmd_OK = nullptr;
+    QPushButton* cmdCancel = nullptr;
+
+    // What isn't shown here and an edit keeps.
+    bool firstClosing_ = true;
+    int colour_ = 0;
+};
+
+} // namespace lorvo

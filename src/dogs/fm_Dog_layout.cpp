@@ -1,0 +1,105 @@
+// How the dog editor is laid out: the dog on the left, its owner on the right. Controls are made in
+// reading order, which is the order that the Tab key follows.
+#include "dogs/dog_class_box.h"
+#include "dogs/dog_owner_box.h"
+#include "dogs/fm_Dog.h"
+#include "dogs/stored_texts_combo.h"
+#include "forms/controls.h"
+#include "platform/platform.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QRadioButton>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kDesignedWidth = 760;
+constexpr int kGapBetweenSides = 18;
+
+template<typename Field> Field* AddRow(QGridLayout& grid, const QString& caption, Field* field) {
+    const int row = grid.rowCount();
+    grid.addWidget(CaptionFor(field, caption, field->parentWidget()), row, 0);
+    grid.addWidget(field, row, 1);
+    return field;
+}
+
+QLineEdit* TextBox(int index, QWidget* parent) {
+    return Named(new QLineEdit(parent), ElementName("txtbox", index));
+}
+
+} // namespace
+
+fm_Dog::fm_Dog(QWidget* parent)
+    : Form("fm_Dog", QStringLiteral("Přidat psa"), Border::Sizable, parent) {
+    auto* sides = new QHBoxLayout;
+    sides->setSpacing(kGapBetweenSides);
+    sides->addWidget(MakeDogSide(), 1);
+    sides->addWidget(MakeOwnerSide(), 1);
+    cmd_OK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmd_OK"));
+    cmdCancel = Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"));
+    cmd_OK->setEnabled(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(sides);
+    layout->addStretch();
+    layout->addLayout(ButtonRow({cmd_OK, cmdCancel}));
+    resize(kDesignedWidth, sizeHint().height());
+    connect(txtbox[0], &QLineEdit::textChanged, this, &fm_Dog::UpdateOKButton);
+    connect(classes_, &DogClassBox::Clicked, this, &fm_Dog::UpdateOKButton);
+    connect(cmd_OK, &QPushButton::clicked, this, &fm_Dog::OK);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QWidget* fm_Dog::MakeDogSide() {
+    auto* side = new QWidget(this);
+    auto* grid = new QGridLayout(side);
+    grid->setContentsMargins({});
+    txtbox[0] = AddRow(*grid, QStringLiteral("&Jméno"), TextBox(0, side));
+    icStanice = AddRow(*grid, QStringLiteral("Chovatelská &stanice"),
+                       StoredTextsCombo(QStringLiteral("icStanice"), side));
+    grid->addWidget(new QLabel(QStringLiteral("Pohlaví"), side), grid->rowCount(), 0);
+    grid->addWidget(MakeGenderRow(side), grid->rowCount() - 1, 1);
+    dtBorn = AddRow(*grid, QStringLiteral("&Datum narození"),
+                    DatePicker(QStringLiteral("dtBorn"), side));
+    SetPickedDate(*dtBorn, ThePlatform().clock->Now().DateOnly());
+    classes_ = new DogClassBox(side);
+    grid->addWidget(classes_, grid->rowCount(), 0, 1, 2);
+    icOtec =
+        AddRow(*grid, QStringLiteral("&Otec"), StoredTextsCombo(QStringLiteral("icOtec"), side));
+    icMatka =
+        AddRow(*grid, QStringLiteral("&Matka"), StoredTextsCombo(QStringLiteral("icMatka"), side));
+    txtbox[1] = AddRow(*grid, QStringLiteral("&Chovatel"), TextBox(1, side));
+    txtbox[2] = AddRow(*grid, QStringLiteral("Zkr. PK a č. &záp."), TextBox(2, side));
+    grid->setColumnStretch(1, 1);
+    return side;
+}
+
+QWidget* fm_Dog::MakeGenderRow(QWidget* parent) {
+    auto* gender = new QWidget(parent);
+    auto* row = new QHBoxLayout(gender);
+    row->setContentsMargins({});
+    optGender = {
+        Named(new QRadioButton(QStringLiteral("&Pes"), gender), ElementName("optGender", 0)),
+        Named(new QRadioButton(QStringLiteral("&Fena"), gender), ElementName("optGender", 1))};
+    for (QRadioButton* button : optGender)
+        row->addWidget(button);
+    row->addStretch();
+    optGender[0]->setChecked(true);
+    return gender;
+}
+
+QWidget* fm_Dog::MakeOwnerSide() {
+    auto* side = new QWidget(this);
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins({});
+    owner_ = new DogOwnerBox(side);
+    column->addWidget(owner_);
+    auto* grid = new QGridLayout;
+    txtbox[3] = AddRow(*grid, QStringLiteral("Poznám&ka"), TextBox(3, side));
+    column->addLayout(grid);
+    column->addStretch();
+    return side;
+}
+
+} // namespace lorvo

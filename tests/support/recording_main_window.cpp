@@ -1,0 +1,86 @@
+#include "support/recording_main_window.h"
+
+#include "platform/values/errors.h"
+
+#include <algorithm>
+
+namespace lorvo::test {
+
+RecordingMainWindow::RecordingMainWindow() {
+    SetTheMainWindow(this);
+}
+
+RecordingMainWindow::~RecordingMainWindow() {
+    SetTheMainWindow(nullptr);
+}
+
+void RecordingMainWindow::AddNode(const QString& key, const QString& text, const QString& parent) {
+    nodes_.push_back({key, text, parent});
+}
+
+const RecordingMainWindow::Node& RecordingMainWindow::Find(const QString& key) const {
+    const auto found = std::find_if(nodes_.begin(), nodes_.end(),
+                                    [&](const Node& node) { return node.key == key; });
+    if (found == nodes_.end())
+        throw Error("no node " + key.toStdString());
+    return *found;
+}
+
+RecordingMainWindow::Node& RecordingMainWindow::Find(const QString& key) {
+    return const_cast<Node&>(std::as_const(*this).Find(key));
+}
+
+bool RecordingMainWindow::NodeExists(const QString& key) const {
+    return std::any_of(nodes_.begin(), nodes_.end(),
+                       [&](const Node& node) { return node.key == key; });
+}
+
+QString RecordingMainWindow::NodeText(const QString& key) const {
+    return Find(key).text;
+}
+
+QString RecordingMainWindow::NodeTag(const QString& key) const {
+    return Find(key).key;
+}
+
+QString RecordingMainWindow::ParentNode(const QString& key) const {
+    return Find(key).parent;
+}
+
+void RecordingMainWindow::SelectNode(const QString& key) {
+    selected = Find(key).key;
+    calls << QStringLiteral("SelectNode %1").arg(key);
+}
+
+void RecordingMainWindow::MakeNodeVisible(const QString& key) {
+    calls << QStringLiteral("MakeNodeVisible %1").arg(Find(key).key);
+}
+
+void RecordingMainWindow::AddDogNode(const QString& parentKey, int psiID, const QString& text,
+                                     bool male) {
+    const QString key = QStringLiteral("P%1").arg(psiID);
+    AddNode(key, text, Find(parentKey).key);
+    calls << QStringLiteral("AddDogNode %1 %2 %3 %4")
+                 .arg(parentKey, key, text,
+                      male ? QStringLiteral("male") : QStringLiteral("female"));
+}
+
+void RecordingMainWindow::SetNodeText(const QString& key, const QString& text) {
+    Find(key).text = text;
+    calls << QStringLiteral("SetNodeText %1 %2").arg(key, text);
+}
+
+void RecordingMainWindow::LoadData() {
+    calls << QStringLiteral("LoadData");
+}
+
+void RecordingMainWindow::ShowNodeInfo(const QString& key) {
+    calls << QStringLiteral("ShowNodeInfo %1").arg(key);
+}
+
+void RecordingMainWindow::SetItemTitle(const QString& text) {
+    title = text;
+    calls << QStringLiteral("SetItemTitle %1").arg(text);
+}
+
+} // namespace lorvo::test
