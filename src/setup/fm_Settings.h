@@ -18,9 +18,6 @@ class fm_Settings : public Form {
 
     void Activated() override;
 
-  protected:
-    void Load() override;
-
   private:
     QWidget* MakeSystemPage();
     QWidget* MakeDatesFrame();
