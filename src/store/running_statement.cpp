@@ -27,18 +27,22 @@ int BindNumber(sqlite3_stmt* handle, int index, const std::string& digits, bool 
     return sqlite3_bind_int64(handle, index, number);
 }
 
-int BindToken(const CachedStatement& statement, const Token& token, const Value* parameter) {
+bool IsAmount(const CachedStatement& statement, const Token& token) {
+    return statement.Translated()->currencyParameters[static_cast<std::size_t>(token.parameter)];
+}
+
+int BindLiteral(const CachedStatement& statement, const Token& token) {
     const int index = token.parameter + 1;
-    const bool isAmount =
-        statement.Translated()->currencyParameters[static_cast<std::size_t>(token.parameter)];
     if (token.kind == Token::Kind::Number)
-        return BindNumber(statement.Handle(), index, token.text, isAmount);
-    if (token.kind == Token::Kind::Text)
-        return sqlite3_bind_text64(statement.Handle(), index, token.text.data(), token.text.size(),
-                                   SQLITE_TRANSIENT, SQLITE_UTF8);
-    const bool toAmount = isAmount && !parameter->IsNull();
-    return BindStored(statement.Handle(), index,
-                      toAmount ? Value(parameter->ToCurrency()) : *parameter);
+        return BindNumber(statement.Handle(), index, token.text, IsAmount(statement, token));
+    return sqlite3_bind_text64(statement.Handle(), index, token.text.data(), token.text.size(),
+                               SQLITE_TRANSIENT, SQLITE_UTF8);
+}
+
+int BindValue(const CachedStatement& statement, const Token& token, const Value& value) {
+    const bool toAmount = IsAmount(statement, token) && !value.IsNull();
+    return BindStored(statement.Handle(), token.parameter + 1,
+                      toAmount ? Value(value.ToCurrency()) : value);
 }
 
 void RequireBound(const CachedStatement& statement, int code) {
@@ -54,13 +58,12 @@ void BindParameters(const CachedStatement& statement, const StatementTokens& tok
     for (const Token& token : tokens.tokens) {
         if (token.parameter < 0)
             continue;
-        const Value* parameter = nullptr;
-        if (token.kind == Token::Kind::Parameter) {
-            if (next == parameters.size())
-                throw StoreError("Příkaz má více otazníků než hodnot.");
-            parameter = &parameters[next++];
-        }
-        RequireBound(statement, BindToken(statement, token, parameter));
+        if (token.kind != Token::Kind::Parameter)
+            RequireBound(statement, BindLiteral(statement, token));
+        else if (next < parameters.size())
+            RequireBound(statement, BindValue(statement, token, parameters[next++]));
+        else
+            throw StoreError("Příkaz má více otazníků než hodnot.");
     }
     if (next != parameters.size())
         throw StoreError("Příkaz má méně otazníků než hodnot.");
