@@ -116,6 +116,15 @@ bool MainTree::IsSelectionBarShown() const {
     return delegate_->selectionBarShown;
 }
 
+void MainTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const {
+    // The bar left of a node is the row's, not the delegate's.
+    QStyleOptionViewItem row(option);
+    if (!IsSelectionBarShown())
+        row.palette.setBrush(QPalette::Highlight, Qt::transparent);
+    QTreeView::drawRow(painter, row, index);
+}
+
 QModelIndex MainTree::indexAt(const QPoint& point) const {
     const QModelIndex index = QTreeView::indexAt(point);
     if (!index.isValid())

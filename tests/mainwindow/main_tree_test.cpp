@@ -131,16 +131,19 @@ TEST_F(MainTreeTest, ForgetsSelectionAndExpansionAtAReload) {
 TEST_F(MainTreeTest, ShowsTheHighlightOfASelectedNodeWithoutTheSelectionBar) {
     host.SelectNode(u"P1"_qs);
     host.nodes.SetBackground(&Node(u"P1"_qs), kHighlight);
-    const QPoint place = PlaceOf(u"P1"_qs);
-    const auto pixel = [&] {
-        return Tree().viewport()->grab().toImage().pixelColor(Tree().viewport()->width() - 6,
-                                                              place.y());
+    const int y = PlaceOf(u"P1"_qs).y();
+    const auto pixel = [&](int x) {
+        return Tree().viewport()->grab().toImage().pixelColor(x, y);
     };
-    EXPECT_NE(pixel(), QColor(255, 255, 0));
+    const int right = Tree().viewport()->width() - 6;
+    const QColor bar = pixel(right);
+    EXPECT_NE(bar, QColor(kHighlight));
+    EXPECT_NE(pixel(2), QColor(Qt::white));
     Tree().SetSelectionBarShown(false);
-    EXPECT_EQ(pixel(), QColor(255, 255, 0));
+    EXPECT_EQ(pixel(right), QColor(kHighlight));
+    EXPECT_EQ(pixel(2), QColor(Qt::white));
     Tree().SetSelectionBarShown(true);
-    EXPECT_NE(pixel(), QColor(255, 255, 0));
+    EXPECT_EQ(pixel(right), bar);
 }
 
 TEST_F(MainTreeTest, SelectsTheNextNodeWhenTheSelectedOneGoes) {
