@@ -9,6 +9,7 @@ packages=(
   qt6-base-dev libqt6svg6-dev libqt6svg6 libgl-dev
   libsqlitecpp-dev libsqlite3-dev libicu-dev libzip-dev
   fp-utils             # chmcmd, which compiles the help file
+  qt6-translations-l10n # Czech texts of the toolkit's own menus
   fonts-dejavu-core
 )
 if [ "${1:-run}" = test ]; then

@@ -11,8 +11,8 @@ enum class CommandStyle { Plain, Separator, CheckBox };
 
 struct Command {
     QStringView key;     ///< group and item in capitals, joined by a colon: "TABLES:PSI"
-    int icon;            ///< position among the pictures of the command's bar, -1 for none
     QStringView caption; ///< an ampersand marks the access letter
+    int icon;            ///< position among the pictures of the command's bar, -1 for none
     CommandStyle style = CommandStyle::Plain;
     QStringView toolTip = {};
 };

@@ -17,7 +17,7 @@ namespace {
 
 class StartUp : public ::testing::Test {
   protected:
-    ~StartUp() override { Module() = {}; }
+    void TearDown() override { Module() = {}; }
 
     void AddCurrency(const QString& zkratka, bool main) {
         database_.Execute("INSERT INTO Meny (Nazev, Zkratka, Kurs, Hlavni) VALUES ('" +

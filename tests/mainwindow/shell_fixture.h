@@ -39,7 +39,7 @@ class PassingForm : public Form {
 /// Puts a PassingForm under a window's name for the lifetime of the object.
 class StandIn {
   public:
-    StandIn(const QString& name, std::function<void()> deed) : name_(name) {
+    StandIn(const QString& name, const std::function<void()>& deed) : name_(name) {
         before_ = SetWindow(name, [name, deed](QWidget* parent) {
             return std::make_unique<PassingForm>(name, deed, parent);
         });
@@ -55,7 +55,7 @@ class StandIn {
 
 class Shell : public ::testing::Test {
   protected:
-    ~Shell() override {
+    void TearDown() override {
         window_.reset();
         Module() = {};
     }
