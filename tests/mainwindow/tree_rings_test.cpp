@@ -19,17 +19,13 @@ class TreeRingsTest : public TreeTest {
     }
     ~TreeRingsTest() override { SetWindow(u"frmNazevKruhu"_qs, std::move(replaced_)); }
 
-    /// Ends the edit in place with a text and Enter.
+    /// Ends the edit in place with a text and Enter, and waits for the panel that follows it.
     void TypeName(const QString& text) {
         ASSERT_NE(Editor(), nullptr);
         Editor()->setText(text);
+        host.shown.clear();
         QTest::keyClick(Editor(), Qt::Key_Return);
-        FinishEdit();
-    }
-    /// Lets the edit box go.
-    static void FinishEdit() {
-        QTest::qWait(1);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !host.shown.isEmpty() && !Editor(); }));
     }
     void ExpectQuestion(const QString& text, MessageAnswer answer) {
         platform.ExpectMessage(text, answer, MessageIcon::Question, MessageButtons::YesNoCancel,
@@ -71,7 +67,7 @@ TEST_F(TreeRingsTest, KeepsANewRingWhoseNamingIsCancelled) {
     ASSERT_NE(Editor(), nullptr);
     Editor()->setText(u"Jiný"_qs);
     QTest::keyClick(Editor(), Qt::Key_Escape);
-    FinishEdit();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Editor(); }));
     EXPECT_EQ(host.NodeText(u"K3"_qs), u"Nový kruh"_qs);
     EXPECT_EQ(RingNames(), u"1"_qs);
     EXPECT_FALSE(Module().LabelEditAllowed);
@@ -98,7 +94,7 @@ TEST_F(TreeRingsTest, StoresANameThatIsLeftByAClickElsewhere) {
     ASSERT_NE(Editor(), nullptr);
     Editor()->setText(u"Hala D'Or"_qs);
     Tree().setFocus();
-    FinishEdit();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Editor(); }));
     EXPECT_EQ(Scalar("SELECT Nazev FROM Kruhy WHERE ID = 3"), u"Hala D'Or"_qs);
 }
 
