@@ -1,0 +1,245 @@
+#include "mainwindow/collapsible_frame.h"
+#include "mainwindow/panels_test.h"
+#include "store/psi_oceneni.h"
+#include "store/psi_ve_vystavach.h"
+#include "store/vazby_souteze.h"
+
+namespace lorvo {
+namespace {
+
+class DogPanelTest : public PanelsTest {
+  protected:
+    DogPanelTest() {
+        AddShow(1, "Hlavní výstava", 300);
+        AddShow(2, "Klubová", 700);
+        Run("INSERT INTO Souteze (ID, Nazev, Cena) VALUES (1, 'Šampion', 1500000)");
+        Run("INSERT INTO Oceneni (ID, Nazev) VALUES (1, 'CAC'), (2, 'BOB')");
+        AddDog(3, "Alík");
+    }
+    QColor ColourOf(const QString& caption) {
+        const QLabel* label = Value(caption);
+        return label->palette().color(label->foregroundRole());
+    }
+};
+
+TEST_F(DogPanelTest, EachLineIsFoundByItsCaption) {
+    Run("UPDATE Psi SET PohlaviPes = -1, DatumNar = '2005-05-14T00:00:00', Otec = 'Rek', "
+        "Matka = 'Bára', PK = 'ČLP 12', Poznamka = 'kouše', Chovatel = 'Novák'");
+    Enter(3, 1);
+    Pay(3, 1000);
+    Start();
+    Show(u"P3"_qs);
+    const std::pair<const char*, const char*> lines[] = {
+        {"Plemeno:", "Pudl"},
+        {"Pohlaví:", "Pes"},
+        {"Datum narození:", "14.5.2005"},
+        {"Třída:", "otevřená"},
+        {"Poznámka:", "kouše"},
+        {"Chovatelská stanice:", "z Lhoty"},
+        {"PK:", "ČLP 12"},
+        {"Otec:", "Rek"},
+        {"Matka:", "Bára"},
+        {"Chovatel:", "Novák"},
+        {"Velikost:", ""},
+        {"Srst:", ""},
+        {"Barva:", ""},
+        {"FCI:", ""},
+        {"Jméno:", "Jana Malá"},
+        {"Ulice:", "Dlouhá 5"},
+        {"PSČ:", "110 00"},
+        {"Město:", "Praha"},
+        {"Stát:", "CZ"},
+        {"Telefon:", "603 111 222"},
+        {"Email:", "jana@psi.cz"},
+        {"Uzávěrka:", "Druhá"},
+        {"První pes:", "Ne"},
+        {"Cena celkem:", "1 349,00 Kč"},
+        {"Uhrazeno:", "1 000,00 Kč"},
+        {"Rozdíl:", "- 349,00 Kč"},
+    };
+    for (const auto& [caption, value] : lines)
+        EXPECT_EQ(Text(QString::fromUtf8(caption)), QString::fromUtf8(value)) << caption;
+    EXPECT_EQ(ColourOf(u"Pohlaví:"_qs), QColor(0, 0, 255));
+    EXPECT_EQ(ColourOf(u"Poznámka:"_qs), QColor(255, 0, 0));
+    EXPECT_EQ(ColourOf(u"Rozdíl:"_qs), QColor(255, 0, 0));
+    EXPECT_EQ(Text("lblBalanceWord"), u"Nedoplatek"_qs);
+}
+
+TEST_F(DogPanelTest, AnEmptyNoteIsBlankOnWhiteAndTheOwnersNameHasRoom) {
+    Start();
+    Show(u"P3"_qs);
+    const QLabel* note = Value(u"Poznámka:"_qs);
+    EXPECT_EQ(note->text(), QString());
+    EXPECT_EQ(note->palette().color(note->backgroundRole()), QColor(Qt::white));
+    const QLabel* name = Value(u"Jméno:"_qs);
+    EXPECT_EQ(name->width(), name->fontMetrics().horizontalAdvance(name->text()) * 13 / 10);
+}
+
+TEST_F(DogPanelTest, TheListsHaveTheirColumnsAndRefuseRenaming) {
+    Start();
+    Show(u"P3"_qs);
+    const auto& shows = Get<ReportList>("lvwSouteze");
+    EXPECT_EQ(shows.model()->headerData(0, Qt::Horizontal).toString(), u"Název"_qs);
+    EXPECT_EQ(shows.model()->headerData(1, Qt::Horizontal).toString(), u"Cena"_qs);
+    EXPECT_EQ(shows.Row(0).key, u"V1"_qs);
+    EXPECT_EQ(shows.Row(2).key, u"k1"_qs);
+    EXPECT_EQ(shows.Row(2).tag, u"1"_qs);
+    for (const char* name : {"lvwSouteze", "lvwOceneni"}) {
+        const auto& list = Get<ReportList>(name);
+        EXPECT_FALSE(list.model()->flags(list.model()->index(0, 0)) & Qt::ItemIsEditable) << name;
+    }
+}
+
+TEST_F(DogPanelTest, TickingAShowStoresItAndTheFeeFollows) {
+    Start();
+    Show(u"P3"_qs);
+    EXPECT_EQ(Text(u"Cena celkem:"_qs), u" 0,00 Kč"_qs);
+    Tick("lvwSouteze", u"V1"_qs);
+    EXPECT_EQ(ShowsOfDog(3), std::vector({1}));
+    EXPECT_EQ(Text(u"Cena celkem:"_qs), u"1 349,00 Kč"_qs);
+    Tick("lvwSouteze", u"V2"_qs);
+    EXPECT_EQ(Ticked("lvwSouteze"), u"V2"_qs);
+    EXPECT_EQ(ShowsOfDog(3), std::vector({2}));
+    EXPECT_EQ(Text(u"Cena celkem:"_qs), u"1 749,00 Kč"_qs);
+}
+
+TEST_F(DogPanelTest, TheOnlyShowCantBeUntickedAndTheLinksStay) {
+    Enter(3, 2);
+    Start();
+    Show(u"P3"_qs);
+    Tick("lvwSouteze", u"V2"_qs);
+    EXPECT_EQ(Ticked("lvwSouteze"), u"V2"_qs);
+    EXPECT_EQ(ShowsOfDog(3), std::vector({2}));
+}
+
+TEST_F(DogPanelTest, ACompetitionIsTickedAndTakenBackOnlyBesideAShow) {
+    Start();
+    Show(u"P3"_qs);
+    Tick("lvwSouteze", u"k1"_qs);
+    EXPECT_EQ(CompetitionsOfDog(3), std::vector({1}));
+    EXPECT_EQ(Text(u"Cena celkem:"_qs), u" 150,00 Kč"_qs);
+    Tick("lvwSouteze", u"k1"_qs);
+    EXPECT_EQ(CompetitionsOfDog(3), std::vector({1}));
+    Tick("lvwSouteze", u"V1"_qs);
+    Tick("lvwSouteze", u"k1"_qs);
+    EXPECT_EQ(CompetitionsOfDog(3), std::vector<int>());
+    EXPECT_EQ(Ticked("lvwSouteze"), u"V1"_qs);
+}
+
+TEST_F(DogPanelTest, AfterATickTheSelectedNodeIsShownAndFailuresAreSkipped) {
+    AddDog(4, "Bára", 12, 0);
+    Start();
+    Show(u"P3"_qs);
+    // The history can show one dog while another is selected.
+    tree->SelectNode(&nodes.Get(u"P4"_qs));
+    Tick("lvwSouteze", u"V1"_qs);
+    EXPECT_EQ(ShowsOfDog(3), std::vector({1}));
+    EXPECT_EQ(Title(), u"Bára z Lhoty"_qs);
+}
+
+TEST_F(DogPanelTest, TickingAwardsStoresThem) {
+    Start();
+    Show(u"P3"_qs);
+    Tick("lvwOceneni", u"C2"_qs);
+    EXPECT_EQ(AwardsOfDog(3), std::vector({2}));
+    Tick("lvwOceneni", u"C1"_qs);
+    EXPECT_EQ(AwardsOfDog(3), std::vector({1, 2}));
+    Tick("lvwOceneni", u"C2"_qs);
+    EXPECT_EQ(AwardsOfDog(3), std::vector({1}));
+    EXPECT_EQ(Ticked("lvwOceneni"), u"C1"_qs);
+}
+
+TEST_F(DogPanelTest, LinksOpenTheirWindows) {
+    Run("INSERT INTO Meny (ID, Nazev, Zkratka, Kurs, Hlavni) VALUES (1, 'koruna', 'Kč', 10000, "
+        "-1)");
+    Offer({"fm_Dog", "frmPlatba", "frmUhrady", "frmEditMan"});
+    Start();
+    Show(u"P3"_qs);
+    Module().IsAddingDog = true;
+    Module().PaymentsOwner = 5;
+    Click("lblEdit");
+    EXPECT_FALSE(Module().IsAddingDog);
+    Click("lblNovaPlatba");
+    Click("lblSeznamPlateb");
+    EXPECT_EQ(Module().PaymentsOwner, 0);
+    Click("picEditMajitele");
+    EXPECT_EQ(opened,
+              (QStringList{u"fm_Dog"_qs, u"frmPlatba"_qs, u"frmUhrady"_qs, u"frmEditMan"_qs}));
+    EXPECT_EQ(Get<QWidget>("lblNovaPlatba").toolTip(), u"Přidat novou platbu"_qs);
+    EXPECT_EQ(Get<QWidget>("lblSeznamPlateb").toolTip(),
+              u"Zobrazit seznam všech přijatých plateb za psa"_qs);
+}
+
+TEST_F(DogPanelTest, WithoutASelectedNodeLinksOpenNothing) {
+    Run("INSERT INTO Meny (ID, Nazev, Zkratka) VALUES (1, 'koruna', 'Kč')");
+    Offer({"fm_Dog", "frmPlatba", "frmUhrady"});
+    Start();
+    Show(u"P3"_qs);
+    tree->clearSelection();
+    Click("lblEdit");
+    Click("lblNovaPlatba");
+    Click("lblSeznamPlateb");
+    EXPECT_EQ(opened, QStringList());
+}
+
+TEST_F(DogPanelTest, WithoutACurrencyNoPaymentIsTaken) {
+    Offer({"frmPlatba"});
+    Start();
+    Show(u"P3"_qs);
+    platform.ExpectMessage(u"Platbu nelze přijmout, v seznamu měn není vytvořena žádná měna. "
+                           u"Můžete ji přidat v okně Nastavení/Měny"_qs,
+                           MessageAnswer::Ok, MessageIcon::Exclamation, MessageButtons::Ok,
+                           u"Lorvo"_qs);
+    Click("lblNovaPlatba");
+    EXPECT_EQ(opened, QStringList());
+}
+
+TEST_F(DogPanelTest, AnEmailIsOpenedOrRefusedOrIgnoredWhenEmpty) {
+    Start();
+    Show(u"P3"_qs);
+    QTest::mouseClick(Value(u"Email:"_qs), Qt::LeftButton);
+    EXPECT_EQ(platform.openedAddresses, QStringList(u"mailto:jana@psi.cz"_qs));
+    Run("UPDATE Majitele SET Email = 'jana.psi'");
+    Show(u"P3"_qs);
+    platform.ExpectMessage(u"Neplatný tvar e-mailové adresy"_qs, MessageAnswer::Ok,
+                           MessageIcon::Information, MessageButtons::Ok);
+    QTest::mouseClick(Value(u"Email:"_qs), Qt::LeftButton);
+    Run("UPDATE Majitele SET Email = ''");
+    Show(u"P3"_qs);
+    QTest::mouseClick(Value(u"Email:"_qs), Qt::LeftButton);
+    EXPECT_EQ(platform.openedAddresses.size(), 1);
+}
+
+TEST_F(DogPanelTest, SectionsCollapseToTheirHeaderAndOpenAgain) {
+    Start();
+    Show(u"P3"_qs);
+    auto& origin = Get<CollapsibleFrame>("fraPuvod");
+    auto& owner = Get<CollapsibleFrame>("fraMajitel");
+    const int open = origin.height();
+    const int ownerTop = owner.y();
+    EXPECT_GE(open, CollapsibleFrame::Pixels(origin, 1956));
+    EXPECT_GE(owner.height(), CollapsibleFrame::Pixels(owner, 1815));
+    Click("fraPuvod.header");
+    EXPECT_TRUE(origin.IsCollapsed());
+    EXPECT_LE(origin.height(), CollapsibleFrame::Pixels(origin, 260) + 10);
+    EXPECT_EQ(owner.y(), ownerTop - (open - origin.height()));
+    EXPECT_EQ(Value(u"Plemeno:"_qs), nullptr);
+    Click("fraPuvod.header");
+    EXPECT_FALSE(origin.IsCollapsed());
+    EXPECT_EQ(origin.height(), open);
+    EXPECT_EQ(owner.y(), ownerTop);
+    EXPECT_EQ(Text(u"Plemeno:"_qs), u"Pudl"_qs);
+}
+
+TEST_F(DogPanelTest, TheListsTakeTheHeightThatACollapsedSectionSetsFree) {
+    Start();
+    window.resize(1100, 1000);
+    Show(u"P3"_qs);
+    QTest::qWait(0);
+    const int before = Get<QWidget>("lvwSouteze").height();
+    Click("fraMajitel.header");
+    EXPECT_GT(Get<QWidget>("lvwSouteze").height(), before);
+}
+
+} // namespace
+} // namespace lorvo
