@@ -8,7 +8,7 @@
 namespace lorvo {
 
 namespace {
-constexpr int kOpenUnits = 1800;
+constexpr int kOpenUnits = 1400;
 }
 
 AwardsSection::AwardsSection(QWidget* parent)
@@ -18,6 +18,7 @@ AwardsSection::AwardsSection(QWidget* parent)
     lvwOceneni->setAccessibleName(QStringLiteral("Ocenění psa"));
     lvwOceneni->SetCheckBoxes(true);
     lvwOceneni->SetLabelEdit(false);
+    lvwOceneni->SetColumnWidths({360});
     auto* column = new QVBoxLayout(Content());
     column->addWidget(lvwOceneni, 1);
     connect(lvwOceneni, &ReportList::ItemCheck, this, &AwardsSection::Tick);

@@ -63,8 +63,10 @@ int CollapsibleFrame::heightForWidth(int width) const {
                                                   : layout->totalSizeHint().height());
 }
 
+// A frame that takes the rest asks for no more than it needs, so that nothing scrolls for its sake.
 QSize CollapsibleFrame::sizeHint() const {
-    const QSize content = content_->sizeHint();
+    const QSize content =
+        growth_ == Growth::TakesRest ? content_->minimumSizeHint() : content_->sizeHint();
     return {content.width(), collapsed_ ? HeaderHeight() : OpenHeight(content.height())};
 }
 

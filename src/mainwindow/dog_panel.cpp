@@ -8,6 +8,7 @@
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/window_opener.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QScrollArea>
 
@@ -62,6 +63,8 @@ void DogPanel::ShowCard(const DogCard& card) {
     fraMajitel->ShowCard(card);
     fraVystavy->ShowCard(card);
     fraOceneni->ShowCard(card);
+    // A text that wraps makes its section higher: lay out at once, so that it is never painted cut.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 } // namespace lorvo

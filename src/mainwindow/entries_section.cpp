@@ -12,7 +12,7 @@ namespace lorvo {
 
 namespace {
 
-constexpr int kOpenUnits = 3600;
+constexpr int kOpenUnits = 2700;
 
 LinkLabel* PaymentLink(const char* name, const QString& text, const QString& toolTip,
                        QWidget* parent) {
@@ -33,6 +33,7 @@ EntriesSection::EntriesSection(QWidget* parent)
     lvwSouteze->setAccessibleName(QStringLiteral("Výstavy a soutěže psa"));
     lvwSouteze->SetCheckBoxes(true);
     lvwSouteze->SetLabelEdit(false);
+    lvwSouteze->SetColumnWidths({260, 90, 100, 60});
     lvwSouteze->SetIcons(
         {ProgramIcon(QStringLiteral("show")), ProgramIcon(QStringLiteral("competition"))});
     auto* column = new QVBoxLayout(Content());
@@ -46,7 +47,7 @@ EntriesSection::EntriesSection(QWidget* parent)
 }
 
 QLayout* EntriesSection::Values() {
-    ValueGrid grid(2);
+    ValueGrid grid(SectionCaptions());
     closing_ = grid.AddText(0, QStringLiteral("Uzávěrka:"));
     firstDog_ = grid.AddText(0, QStringLiteral("První pes:"));
     price_ = grid.AddText(1, QStringLiteral("Cena celkem:"));

@@ -42,6 +42,7 @@ OwnerPanel::OwnerPanel(QWidget* parent)
     setObjectName(QStringLiteral("picMajitelInfo"));
     lvwDogs->setAccessibleName(QStringLiteral("Psi vystavovatele"));
     lvwDogs->SetLabelEdit(false);
+    lvwDogs->SetColumnWidths({120, 110, 66, 66, 110, 70, 70, 74, 140});
 
     auto* top = new QHBoxLayout;
     top->addWidget(PanelHeading(QStringLiteral("Detailní informace o vystavovateli"), this));
@@ -64,7 +65,7 @@ OwnerPanel::OwnerPanel(QWidget* parent)
 }
 
 QLayout* OwnerPanel::Lines() {
-    ValueGrid grid(2);
+    ValueGrid grid({{}, {}});
     name_ = grid.AddText(0, QStringLiteral("Jméno:"));
     street_ = grid.AddText(0, QStringLiteral("Ulice:"));
     postCode_ = grid.AddText(0, QStringLiteral("PSČ:"));
@@ -76,7 +77,7 @@ QLayout* OwnerPanel::Lines() {
 }
 
 QLayout* OwnerPanel::Totals() {
-    ValueGrid grid(4);
+    ValueGrid grid({{}, {}, {}, {}});
     Label19 = grid.AddText(0, QStringLiteral("Celkem psů:"), QStringLiteral("Label19"));
     price_ = grid.AddText(1, QStringLiteral("Cena:"));
     paid_ = grid.AddText(2, QStringLiteral("Uhrazeno:"));

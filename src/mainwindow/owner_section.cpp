@@ -33,9 +33,9 @@ void ShowNeighbour(QToolButton& picture, const DogCard::Neighbour& neighbour) {
 
 OwnerSection::OwnerSection(QWidget* parent)
     : CollapsibleFrame("fraMajitel", QStringLiteral("Majitel"), kOpenUnits, Growth::Fixed, parent) {
-    auto* row = new QHBoxLayout(Content());
-    row->addLayout(Lines(), 1);
-    row->addLayout(Pictures());
+    auto* column = new QVBoxLayout(Content());
+    column->addLayout(Lines());
+    column->addStretch();
 
     connect(name_, &LinkLabel::Clicked, this, &OwnerSection::OwnerClicked);
     connect(email_, &LinkLabel::Clicked, this, [this] { Q_EMIT EmailClicked(email_->text()); });
@@ -47,7 +47,7 @@ OwnerSection::OwnerSection(QWidget* parent)
 }
 
 QLayout* OwnerSection::Lines() {
-    ValueGrid grid(2);
+    ValueGrid grid(SectionCaptions());
     name_ = PanelLink(QStringLiteral("Jméno:"), Content());
     grid.Add(0, QStringLiteral("Jméno:"), name_);
     street_ = grid.AddText(0, QStringLiteral("Ulice:"));
@@ -57,10 +57,8 @@ QLayout* OwnerSection::Lines() {
     phone_ = grid.AddText(1, QStringLiteral("Telefon:"));
     email_ = PanelLink(QStringLiteral("Email:"), Content());
     grid.Add(1, QStringLiteral("Email:"), email_);
-    auto* column = new QVBoxLayout;
-    column->addLayout(grid.Layout());
-    column->addStretch();
-    return column;
+    grid.AddRow(1, Pictures());
+    return grid.Layout();
 }
 
 QLayout* OwnerSection::Pictures() {
@@ -74,7 +72,8 @@ QLayout* OwnerSection::Pictures() {
                               QStringLiteral("Upravit majitele"), Content());
     auto* row = new QHBoxLayout;
     for (QToolButton* picture : {picPrev, picNext, picList, picEditMajitele})
-        row->addWidget(picture, 0, Qt::AlignTop);
+        row->addWidget(picture);
+    row->addStretch();
     return row;
 }
 

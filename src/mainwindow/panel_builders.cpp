@@ -37,9 +37,16 @@ QLabel* PanelHeading(const QString& text, QWidget* panel) {
     return heading;
 }
 
-ValueGrid::ValueGrid(int pairs)
-    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(pairs), 0) {
+QStringList SectionCaptions() {
+    return {QStringLiteral("Datum narození:"), QStringLiteral("Chovatelská stanice:")};
+}
+
+ValueGrid::ValueGrid(const QStringList& widestCaptions)
+    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(widestCaptions.size()), 0) {
+    const int pairs = static_cast<int>(widestCaptions.size());
     for (int pair = 0; pair < pairs; ++pair) {
+        const int width = QLabel(widestCaptions[pair]).sizeHint().width();
+        grid_->setColumnMinimumWidth(pair * kColumns, width);
         grid_->setColumnStretch(pair * kColumns + 1, 1);
         if (pair + 1 < pairs)
             grid_->setColumnMinimumWidth(pair * kColumns + 2, kPairGap);
@@ -51,6 +58,11 @@ void ValueGrid::Add(int pair, const QString& caption, QWidget* value) {
     auto* label = new QLabel(caption);
     grid_->addWidget(label, row, pair * kColumns, Qt::AlignTop);
     grid_->addWidget(value, row, pair * kColumns + 1, Qt::AlignTop);
+}
+
+void ValueGrid::AddRow(int pair, QLayout* row) {
+    const int position = nextRow_[static_cast<std::size_t>(pair)]++;
+    grid_->addLayout(row, position, pair * kColumns, 1, 2);
 }
 
 QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name) {

@@ -5,11 +5,15 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QStringList>
 
 namespace lorvo {
 
 class LinkLabel;
 class ReportList;
+
+/// The widest captions in the sections of the dog panel, whose columns stand in line.
+QStringList SectionCaptions();
 
 /// A panel's heading; `text` is the panel's accessible name too.
 QLabel* PanelHeading(const QString& text, QWidget* panel);
@@ -18,13 +22,17 @@ QLabel* PanelHeading(const QString& text, QWidget* panel);
 /// aligned. The values share what width the captions leave.
 class ValueGrid {
   public:
-    explicit ValueGrid(int pairs);
+    /// One caption for each pair: the pair's captions get at least its width.
+    explicit ValueGrid(const QStringList& widestCaptions);
 
     /// Puts the next pair below the one before it in column `pair`. A value without a name of its
     /// own is found by the caption.
     void Add(int pair, const QString& caption, QWidget* value);
     /// The same with a bold label of that name (none when empty), which is returned.
     QLabel* AddText(int pair, const QString& caption, const QString& name = {});
+
+    /// Puts a row of controls below the last pair of column `pair`, across caption and value.
+    void AddRow(int pair, QLayout* row);
 
     /// For a layout to take over; the grid must not be used after its layout is gone.
     QGridLayout* Layout() const { return grid_; }
