@@ -7,11 +7,15 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <algorithm>
 #include <utility>
 
 namespace lorvo {
 
-/// Opens the in-place editor and hands what it committed to the list.
+/// Pixels that a row is higher than its text.
+constexpr int kRowAir = 5;
+
+/// Gives rows their height, opens the in-place editor and hands what it committed to the list.
 class ReportListDelegate : public QStyledItemDelegate {
   public:
     explicit ReportListDelegate(ReportList& list) : QStyledItemDelegate(&list), list_(list) {}
@@ -34,6 +38,11 @@ class ReportListDelegate : public QStyledItemDelegate {
                       const QModelIndex& index) const override {
         list_.editedText_ = static_cast<QLineEdit*>(editor)->text();
         list_.editedRow_ = index.row();
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), std::max(size.height(), option.fontMetrics.height() + kRowAir)};
     }
 
   private:

@@ -8,7 +8,7 @@ namespace lorvo {
 
 BreedPanel::BreedPanel(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("picPlemenoInfo"));
-    ValueGrid grid({{}});
+    ValueGrid grid(1);
     lblDogsCount = grid.AddText(0, QStringLiteral("Počet psů:"), QStringLiteral("lblDogsCount"));
     lblDogsCountPrc =
         grid.AddText(0, QStringLiteral("Podíl všech psů:"), QStringLiteral("lblDogsCountPrc"));

@@ -8,7 +8,7 @@ namespace lorvo {
 
 ClassPanel::ClassPanel(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("picTridaInfo"));
-    ValueGrid grid({{}});
+    ValueGrid grid(1);
     lblClassDogCount =
         grid.AddText(0, QStringLiteral("Počet psů:"), QStringLiteral("lblClassDogCount"));
 

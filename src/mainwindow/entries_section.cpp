@@ -47,7 +47,7 @@ EntriesSection::EntriesSection(QWidget* parent)
 }
 
 QLayout* EntriesSection::Values() {
-    ValueGrid grid(SectionCaptions());
+    ValueGrid grid(2, SectionCaptions());
     closing_ = grid.AddText(0, QStringLiteral("Uzávěrka:"));
     firstDog_ = grid.AddText(0, QStringLiteral("První pes:"));
     price_ = grid.AddText(1, QStringLiteral("Cena celkem:"));

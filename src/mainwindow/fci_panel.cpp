@@ -8,7 +8,7 @@ namespace lorvo {
 
 FciPanel::FciPanel(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("picFCIInfo"));
-    ValueGrid grid({{}});
+    ValueGrid grid(1);
     lblPlemenaInFCICount =
         grid.AddText(0, QStringLiteral("Počet plemen:"), QStringLiteral("lblPlemenaInFCICount"));
     lblDogsInFCICount =

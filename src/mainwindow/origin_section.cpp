@@ -12,7 +12,7 @@ constexpr int kOpenUnits = 1956;
 
 OriginSection::OriginSection(QWidget* parent)
     : CollapsibleFrame("fraPuvod", QStringLiteral("Původ"), kOpenUnits, Growth::Fixed, parent) {
-    ValueGrid grid(SectionCaptions());
+    ValueGrid grid(2, SectionCaptions());
     breed_ = grid.AddText(0, QStringLiteral("Plemeno:"));
     sex_ = grid.AddText(0, QStringLiteral("Pohlaví:"));
     birthDate_ = grid.AddText(0, QStringLiteral("Datum narození:"));

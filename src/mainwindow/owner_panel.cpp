@@ -65,7 +65,7 @@ OwnerPanel::OwnerPanel(QWidget* parent)
 }
 
 QLayout* OwnerPanel::Lines() {
-    ValueGrid grid({{}, {}});
+    ValueGrid grid(2);
     name_ = grid.AddText(0, QStringLiteral("Jméno:"));
     street_ = grid.AddText(0, QStringLiteral("Ulice:"));
     postCode_ = grid.AddText(0, QStringLiteral("PSČ:"));
@@ -77,7 +77,7 @@ QLayout* OwnerPanel::Lines() {
 }
 
 QLayout* OwnerPanel::Totals() {
-    ValueGrid grid({{}, {}, {}, {}});
+    ValueGrid grid(4);
     Label19 = grid.AddText(0, QStringLiteral("Celkem psů:"), QStringLiteral("Label19"));
     price_ = grid.AddText(1, QStringLiteral("Cena:"));
     paid_ = grid.AddText(2, QStringLiteral("Uhrazeno:"));

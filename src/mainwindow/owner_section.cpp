@@ -47,7 +47,7 @@ OwnerSection::OwnerSection(QWidget* parent)
 }
 
 QLayout* OwnerSection::Lines() {
-    ValueGrid grid(SectionCaptions());
+    ValueGrid grid(2, SectionCaptions());
     name_ = PanelLink(QStringLiteral("Jméno:"), Content());
     grid.Add(0, QStringLiteral("Jméno:"), name_);
     street_ = grid.AddText(0, QStringLiteral("Ulice:"));

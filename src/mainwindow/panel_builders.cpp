@@ -41,11 +41,10 @@ QStringList SectionCaptions() {
     return {QStringLiteral("Datum narození:"), QStringLiteral("Chovatelská stanice:")};
 }
 
-ValueGrid::ValueGrid(const QStringList& widestCaptions)
-    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(widestCaptions.size()), 0) {
-    const int pairs = static_cast<int>(widestCaptions.size());
+ValueGrid::ValueGrid(int pairs, const QStringList& widestCaptions)
+    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(pairs), 0) {
     for (int pair = 0; pair < pairs; ++pair) {
-        const int width = QLabel(widestCaptions[pair]).sizeHint().width();
+        const int width = QLabel(widestCaptions.value(pair)).sizeHint().width();
         grid_->setColumnMinimumWidth(pair * kColumns, width);
         grid_->setColumnStretch(pair * kColumns + 1, 1);
         if (pair + 1 < pairs)

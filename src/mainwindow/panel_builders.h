@@ -22,8 +22,8 @@ QLabel* PanelHeading(const QString& text, QWidget* panel);
 /// aligned. The values share what width the captions leave.
 class ValueGrid {
   public:
-    /// One caption for each pair: the pair's captions get at least its width.
-    explicit ValueGrid(const QStringList& widestCaptions);
+    /// The captions of a pair get at least the width of its caption in `widestCaptions`.
+    explicit ValueGrid(int pairs, const QStringList& widestCaptions = {});
 
     /// Puts the next pair below the one before it in column `pair`. A value without a name of its
     /// own is found by the caption.

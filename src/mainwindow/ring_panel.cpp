@@ -11,7 +11,7 @@ RingPanel::RingPanel(QWidget* parent)
     : QWidget(parent), lblEditKruh(Named(new LinkLabel(QStringLiteral("Přejmenovat kruh"), this),
                                          QStringLiteral("lblEditKruh"))) {
     setObjectName(QStringLiteral("picKruhInfo"));
-    ValueGrid grid({{}});
+    ValueGrid grid(1);
     lblPlemenaCnt =
         grid.AddText(0, QStringLiteral("Počet plemen:"), QStringLiteral("lblPlemenaCnt"));
     lblPlemenaCntPrc =
