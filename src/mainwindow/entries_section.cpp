@@ -12,7 +12,7 @@ namespace lorvo {
 
 namespace {
 
-constexpr int kOpenUnits = 2700;
+constexpr int kOpenUnits = 3000;
 
 LinkLabel* PaymentLink(const char* name, const QString& text, const QString& toolTip,
                        QWidget* parent) {

@@ -71,8 +71,7 @@ QLayout* OwnerPanel::Lines() {
     postCode_ = grid.AddText(0, QStringLiteral("PSČ:"));
     town_ = grid.AddText(1, QStringLiteral("Město:"));
     phone_ = grid.AddText(1, QStringLiteral("Telefon:"));
-    email_ = PanelLink(QStringLiteral("Email:"), this);
-    grid.Add(1, QStringLiteral("Email:"), email_);
+    email_ = grid.AddLink(1, QStringLiteral("Email:"));
     return grid.Layout();
 }
 

@@ -48,15 +48,13 @@ OwnerSection::OwnerSection(QWidget* parent)
 
 QLayout* OwnerSection::Lines() {
     ValueGrid grid(2, SectionCaptions());
-    name_ = PanelLink(QStringLiteral("Jméno:"), Content());
-    grid.Add(0, QStringLiteral("Jméno:"), name_);
+    name_ = grid.AddLink(0, QStringLiteral("Jméno:"));
     street_ = grid.AddText(0, QStringLiteral("Ulice:"));
     postCode_ = grid.AddText(0, QStringLiteral("PSČ:"));
     town_ = grid.AddText(0, QStringLiteral("Město:"));
     country_ = grid.AddText(1, QStringLiteral("Stát:"));
     phone_ = grid.AddText(1, QStringLiteral("Telefon:"));
-    email_ = PanelLink(QStringLiteral("Email:"), Content());
-    grid.Add(1, QStringLiteral("Email:"), email_);
+    email_ = grid.AddLink(1, QStringLiteral("Email:"));
     grid.AddRow(1, Pictures());
     return grid.Layout();
 }

@@ -52,11 +52,22 @@ ValueGrid::ValueGrid(int pairs, const QStringList& widestCaptions)
     }
 }
 
-void ValueGrid::Add(int pair, const QString& caption, QWidget* value) {
+void ValueGrid::Place(int pair, const QString& caption, QWidget* value, Qt::Alignment alignment) {
     const int row = nextRow_[static_cast<std::size_t>(pair)]++;
-    auto* label = new QLabel(caption);
-    grid_->addWidget(label, row, pair * kColumns, Qt::AlignTop);
-    grid_->addWidget(value, row, pair * kColumns + 1, Qt::AlignTop);
+    grid_->addWidget(new QLabel(caption), row, pair * kColumns, Qt::AlignTop);
+    grid_->addWidget(value, row, pair * kColumns + 1, alignment);
+}
+
+void ValueGrid::Add(int pair, const QString& caption, QWidget* value) {
+    Place(pair, caption, value, Qt::AlignTop);
+}
+
+LinkLabel* ValueGrid::AddLink(int pair, const QString& caption) {
+    auto* link = new LinkLabel(QString(), nullptr);
+    link->setAccessibleName(caption);
+    link->setFont(Bold(link->font()));
+    Place(pair, caption, link, Qt::AlignTop | Qt::AlignLeft);
+    return link;
 }
 
 void ValueGrid::AddRow(int pair, QLayout* row) {
@@ -71,14 +82,6 @@ QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name
     value->setWordWrap(true);
     Add(pair, caption, value);
     return value;
-}
-
-LinkLabel* PanelLink(const QString& caption, QWidget* parent) {
-    auto* link = new LinkLabel(QString(), parent);
-    link->setTextFormat(Qt::PlainText);
-    link->setAccessibleName(caption);
-    link->setFont(Bold(link->font()));
-    return link;
 }
 
 void ShowText(QLabel& label, const InkedText& text) {

@@ -28,6 +28,8 @@ class ValueGrid {
     /// Puts the next pair below the one before it in column `pair`. A value without a name of its
     /// own is found by the caption.
     void Add(int pair, const QString& caption, QWidget* value);
+    /// The same with a link, which is as wide as its own text and no wider.
+    LinkLabel* AddLink(int pair, const QString& caption);
     /// The same with a bold label of that name (none when empty), which is returned.
     QLabel* AddText(int pair, const QString& caption, const QString& name = {});
 
@@ -38,12 +40,11 @@ class ValueGrid {
     QGridLayout* Layout() const { return grid_; }
 
   private:
+    void Place(int pair, const QString& caption, QWidget* value, Qt::Alignment alignment);
+
     QGridLayout* grid_;
     std::vector<int> nextRow_;
 };
-
-/// A link whose text is the value of a caption: bold, and found by the caption.
-LinkLabel* PanelLink(const QString& caption, QWidget* parent);
 
 /// Sets text and colour; without a colour the label has the window's own.
 void ShowText(QLabel& label, const InkedText& text);
