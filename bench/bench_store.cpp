@@ -1,0 +1,155 @@
+// What reading and writing takes without any window, beside the bare limit.
+//   bench_store [--benchmark_filter=...] [--benchmark_repetitions=N]
+
+#include "bare_rows.h"
+#include "bench_shows.h"
+#include "mainwindow/dog_card.h"
+#include "mainwindow/tree_loader.h"
+#include "pair_table.h"
+#include "platform/platform.h"
+#include "reports/catalogue.h"
+#include "setup/catalogue_numbers.h"
+#include "store/psi.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace {
+
+using namespace lorvo;
+using namespace lorvo::bench;
+
+QString DatabaseOf(const char* size) {
+    return ShowFolder(size) + QStringLiteral("/data.mdb");
+}
+
+void TreeRows(benchmark::State& state, const char* size) {
+    UseShow(size);
+    TreeNodes nodes;
+    for (auto _ : state)
+        LoadTree(nodes);
+}
+
+void BareTreeRows(benchmark::State& state, const char* size) {
+    UseShow(size);
+    BareDatabase database(DatabaseOf(size));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ReadDogs(database));
+}
+
+void Card(benchmark::State& state, const char* size) {
+    UseShow(size);
+    DogCard card;
+    const int dogs = CountDogs();
+    int dog = 0;
+    for (auto _ : state)
+        FillDogCard(card, 1 + (dog = (dog + 7919) % dogs));
+}
+
+void BareCardRows(benchmark::State& state, const char* size) {
+    UseShow(size);
+    BareDatabase database(DatabaseOf(size));
+    BareCard card(database);
+    const int dogs = CountDogs();
+    int dog = 0;
+    for (auto _ : state)
+        card.Read(1 + (dog = (dog + 7919) % dogs));
+}
+
+void Numbering(benchmark::State& state, const char* size) {
+    UseShow(size);
+    TreeNodes nodes;
+    for (auto _ : state) {
+        state.PauseTiming();
+        LoadTree(nodes);
+        state.ResumeTiming();
+        GenerateCatalogueNumbers(nodes);
+    }
+    RemoveDogNumbers();
+}
+
+void BareNumbering(benchmark::State& state, const char* size) {
+    UseShow(size);
+    BareDatabase database(DatabaseOf(size));
+    database.Execute("PRAGMA synchronous = FULL");
+    sqlite3_stmt* update = database.Prepare("UPDATE Psi SET Cislo = ?1 WHERE ID = ?1");
+    const int dogs = CountDogs();
+    for (auto _ : state) {
+        database.Execute("BEGIN");
+        for (int dog = 1; dog <= dogs; ++dog) {
+            sqlite3_bind_int(update, 1, dog);
+            sqlite3_step(update);
+            sqlite3_reset(update);
+        }
+        database.Execute("COMMIT");
+    }
+    RemoveDogNumbers();
+}
+
+void Catalogue(benchmark::State& state, const char* size) {
+    UseShow(size);
+    for (auto _ : state) {
+        const auto word = ThePlatform().wordProcessors->Create();
+        TypeCatalogue(*word, false);
+        word->Show();
+    }
+}
+
+/// The same texts typed without formats, headings or any reading: writing and packing alone.
+void BareCatalogue(benchmark::State& state, const char* size) {
+    UseShow(size);
+    BareDatabase database(DatabaseOf(size));
+    sqlite3_stmt* rows = database.Prepare(
+        "SELECT Psi.Jmeno, ChovnaStanice, DatumNar, PK, Otec, Matka, Chovatel, Majitele.Jmeno FROM "
+        "Psi LEFT JOIN Majitele ON Majitele.ID = MajitelID ORDER BY PlemenoID, PohlaviPes, Trida, "
+        "czech_key(Psi.Jmeno)");
+    for (auto _ : state) {
+        const auto word = ThePlatform().wordProcessors->Create();
+        while (sqlite3_step(rows) == SQLITE_ROW) {
+            for (int column = 0; column < 8; ++column) {
+                word->TypeText(QString::fromUtf8(
+                    reinterpret_cast<const char*>(sqlite3_column_text(rows, column))));
+                if (column % 2 == 1)
+                    word->TypeParagraph();
+            }
+        }
+        sqlite3_reset(rows);
+        word->HomeKeyStory();
+        word->Show();
+    }
+}
+
+struct Measure {
+    const char* name;
+    void (*program)(benchmark::State&, const char* size);
+    void (*bare)(benchmark::State&, const char* size);
+};
+
+constexpr Measure kMeasures[] = {
+    {"rows of the tree", TreeRows, BareTreeRows},
+    {"figures of a dog's card", Card, BareCardRows},
+    {"catalogue numbers", Numbering, BareNumbering},
+    {"catalogue file", Catalogue, BareCatalogue},
+};
+
+void Register() {
+    for (const Measure& measure : kMeasures) {
+        for (const char* size : kSizes) {
+            const std::string name = std::string(measure.name) + "/" + size;
+            for (const auto& [side, run] :
+                 {std::pair{"/program", measure.program}, std::pair{"/bare", measure.bare}})
+                benchmark::RegisterBenchmark((name + side).c_str(), run, size)
+                    ->Unit(benchmark::kMillisecond)
+                    ->MeasureProcessCPUTime()
+                    ->UseRealTime();
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    Register();
+    return RunAndPrint(argc, argv);
+}
