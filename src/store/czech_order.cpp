@@ -40,4 +40,14 @@ std::string CzechKey(std::string_view text) {
     return key;
 }
 
+int CompareCzech(QStringView left, QStringView right) {
+    UErrorCode status = U_ZERO_ERROR;
+    const UCollationResult order =
+        CzechCollator().compare(left.utf16(), static_cast<std::int32_t>(left.size()), right.utf16(),
+                                static_cast<std::int32_t>(right.size()), status);
+    if (U_FAILURE(status))
+        throw StoreError("Texty nelze seřadit podle české abecedy.");
+    return order;
+}
+
 } // namespace lorvo

@@ -8,24 +8,9 @@ namespace lorvo {
 namespace {
 
 constexpr const char* kOrderInBreed = "PohlaviPes ASC, Trida ASC, Jmeno ASC";
-constexpr const char* kTreeDogs = "SELECT PrvniPes, PrvniUzaverka, ID, Jmeno, Cislo, PlemenoID, "
-                                  "PohlaviPes, Trida FROM Psi ";
 
 RecordSet& Table() {
     return TheDataModule().rsPsi;
-}
-
-TreeDog ReadTreeDog(const Query& row) {
-    TreeDog dog;
-    dog.PrvniPes = row.Bool(0);
-    dog.PrvniUzaverka = row.Bool(1);
-    dog.ID = row.Int(2);
-    dog.Jmeno = row.Text(3);
-    dog.Cislo = row.Int(4);
-    dog.PlemenoID = row.Int(5);
-    dog.PohlaviPes = row.Bool(6);
-    dog.Trida = row.Int(7);
-    return dog;
 }
 
 std::string OrderClause(DogOrder order) {
@@ -85,16 +70,6 @@ std::vector<Psi> DogsOfBreed(int plemenoID) {
 
 std::vector<Psi> DogsByBreed() {
     return ReadDogs(std::string("ORDER BY PlemenoID, ") + kOrderInBreed);
-}
-
-std::vector<TreeDog> TreeDogsOfBreed(int plemenoID) {
-    return ReadMany(std::string(kTreeDogs) + "WHERE Psi!PlemenoID = " + Number(plemenoID) +
-                        " ORDER BY " + kOrderInBreed,
-                    ReadTreeDog);
-}
-
-std::vector<TreeDog> TreeDogsByBreed() {
-    return ReadMany(std::string(kTreeDogs) + "ORDER BY PlemenoID, " + kOrderInBreed, ReadTreeDog);
 }
 
 std::optional<int> OwnerOfDog(int psiID) {

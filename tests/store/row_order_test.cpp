@@ -31,6 +31,21 @@ TEST(CzechKeyTest, TakesTextsOfAnyLengthAndBrokenOnes) {
     EXPECT_LT(CzechKey("\xC3\x28\xFF"), CzechKey("\xC3\x28\xFFz"));
 }
 
+TEST(CompareCzechTest, AgreesWithTheKeys) {
+    const Strings words = {"",    "a",   "á",  "A",     "Alík", "alík",  "Álík", "b",   "c",
+                           "cz",  "č",   "h",  "hugo",  "ch",   "Chvat", "i",    "Rek", "Řek",
+                           "řek", "r k", "rk", "D'Art", "dart", "ž",     "1",    "10",  "9"};
+    const auto sign = [](int number) {
+        return (number > 0) - (number < 0);
+    };
+    for (const std::string& left : words)
+        for (const std::string& right : words)
+            EXPECT_EQ(
+                sign(CompareCzech(QString::fromStdString(left), QString::fromStdString(right))),
+                sign(CzechKey(left).compare(CzechKey(right))))
+                << left << " and " << right;
+}
+
 class RowOrderTest : public StoreTest {
   protected:
     /// Statements whose order is to be the same with any index or none.
