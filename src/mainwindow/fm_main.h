@@ -51,6 +51,7 @@ class fm_main : public QMainWindow,
     void ShowNodeInfo(const QString& key) override;
     void SetItemTitle(const QString& text) override;
     QString Caption() const override;
+    TreeNodes& Nodes() override { return nodes_; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;

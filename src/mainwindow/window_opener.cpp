@@ -4,7 +4,12 @@
 #include "forms/form.h"
 #include "platform/values/errors.h"
 #include "reports/frmTiskKatalog.h"
+#include "setup/fm_Colors.h"
+#include "setup/fm_Plemena.h"
+#include "setup/fm_Settings.h"
 #include "setup/frmNazevKruhu.h"
+#include "setup/frmOceneni.h"
+#include "setup/frmVystavy.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -22,9 +27,14 @@ template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
 
 std::map<QString, WindowFactory>& Windows() {
     static std::map<QString, WindowFactory> windows{
+        {QStringLiteral("fm_Colors"), Make<fm_Colors>},
         {QStringLiteral("fm_Dog"), Make<fm_Dog>},
-        {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
+        {QStringLiteral("fm_Plemena"), Make<fm_Plemena>},
+        {QStringLiteral("fm_Settings"), Make<fm_Settings>},
         {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
+        {QStringLiteral("frmOceneni"), Make<frmOceneni>},
+        {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
+        {QStringLiteral("frmVystavy"), Make<frmVystavy>},
     };
     return windows;
 }

@@ -26,6 +26,24 @@ TEST_F(ShellStart, AnEmptyDatabaseOpensWithTheMainShowAndAnAlmostEmptyTree) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
+TEST_F(ShellStart, OtherWindowsReachTheTreeThroughTheServices) {
+    AddSmallShow();
+    Start();
+    MainWindowServices& services = TheMainWindow();
+    EXPECT_EQ(&services.Nodes(), &Tree().Nodes());
+    EXPECT_EQ(services.ParentNode(u"P100"_qs), u"R10"_qs);
+    EXPECT_EQ(services.ParentNode(u"K1"_qs), QString());
+    EXPECT_EQ(services.NodeTag(u"P100"_qs), u"P 100"_qs);
+    services.AddDogNode(u"R11"_qs, 300, u"Cita"_qs, false);
+    services.SetNodeText(u"P300"_qs, u"Cita z Lhoty"_qs);
+    services.SelectNode(u"P300"_qs);
+    EXPECT_EQ(services.SelectedNode(), u"P300"_qs);
+    EXPECT_EQ(services.NodeText(u"P300"_qs), u"Cita z Lhoty"_qs);
+    EXPECT_THROW(services.SelectNode(u"P301"_qs), Error);
+    EXPECT_THROW(services.AddDogNode(u"R99"_qs, 301, u"Cita"_qs, false), Error);
+    EXPECT_EQ(services.Caption(), u"Lorvo"_qs);
+}
+
 TEST_F(ShellStart, FillsTheTablesOfConstants) {
     Start();
     EXPECT_EQ(Module().ClassNames[3], u"mezitřída"_qs);
