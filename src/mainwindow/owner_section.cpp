@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QToolButton>
+#include <vector>
 
 namespace lorvo {
 
@@ -36,6 +37,11 @@ OwnerSection::OwnerSection(QWidget* parent)
     auto* column = new QVBoxLayout(Content());
     column->addLayout(Lines());
     column->addStretch();
+    // The lines came into the window after the pictures below them.
+    const std::vector<QWidget*> inReadingOrder = {name_,   email_,  picPrev,
+                                                  picNext, picList, picEditMajitele};
+    for (std::size_t i = 1; i < inReadingOrder.size(); ++i)
+        setTabOrder(inReadingOrder[i - 1], inReadingOrder[i]);
 
     connect(name_, &LinkLabel::Clicked, this, &OwnerSection::OwnerClicked);
     connect(email_, &LinkLabel::Clicked, this, [this] { Q_EMIT EmailClicked(email_->text()); });

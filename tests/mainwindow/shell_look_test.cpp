@@ -19,7 +19,7 @@ TEST_P(ShellLook, IsInOrderWithANodeShown) {
     test::WalkWindow(*window_);
 }
 
-INSTANTIATE_TEST_SUITE_P(Nodes, ShellLook, ::testing::Values("K0", "K1", "R10", "TR10|5"));
+INSTANTIATE_TEST_SUITE_P(Nodes, ShellLook, ::testing::Values("K0", "K1", "R10", "TR10|5", "P100"));
 
 TEST_F(Shell, IsInOrderBeforeAnyNodeIsShown) {
     Start();
