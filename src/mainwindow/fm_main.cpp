@@ -18,7 +18,7 @@
 #include <QCloseEvent>
 #include <QSplitter>
 #include <QToolBar>
-#include <utility>
+#include <algorithm>
 
 namespace lorvo {
 
