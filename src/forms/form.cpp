@@ -5,6 +5,7 @@
 #include "forms/report_list.h"
 
 #include <QLayout>
+#include <QLineEdit>
 #include <vector>
 
 namespace lorvo {
@@ -50,12 +51,21 @@ void Form::Open() {
     if (border_ == Border::Fixed && layout())
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     LoadFormSettings(*this, border_ == Border::Fixed);
+    LimitTypedTexts();
     Load();
     if (unloaded_)
         return;
     Activated();
     if (!unloaded_)
         exec();
+}
+
+void Form::LimitTypedTexts() {
+    const int unlimited = QLineEdit().maxLength();
+    for (QLineEdit* box : findChildren<QLineEdit*>()) {
+        if (box->maxLength() == unlimited)
+            box->setMaxLength(LongestTypedText());
+    }
 }
 
 void Form::done(int result) {

@@ -28,12 +28,17 @@ class Form : public QDialog {
     /// keeps it open.
     virtual bool QueryUnload() { return true; }
 
+    /// How many characters the window's boxes take where they set no limit of their own: what a text
+    /// field of the store takes. A window whose texts go elsewhere may take more.
+    virtual int LongestTypedText() const { return 255; }
+
     /// Every road out of the window (button, close box, Esc) ends here.
     void done(int result) override;
 
   private:
     friend void OpenModal(Form& form);
     void Open();
+    void LimitTypedTexts();
     Border border_;
     bool unloaded_ = false;
 };

@@ -29,6 +29,7 @@ class ReportListDelegate : public QStyledItemDelegate {
         auto* editor = new QLineEdit(parent);
         editor->setObjectName(list_.objectName() + QStringLiteral(".editor"));
         editor->setFrame(false);
+        editor->setMaxLength(255); // as much as a text field of the store takes
         editor->setAutoFillBackground(true);
         list_.editor_ = editor;
         return editor;

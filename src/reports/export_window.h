@@ -60,6 +60,8 @@ class ExportWindow : public Form, public RunProgress {
 
     /// A window whose run is under way closes when the run has ended, which is asked to stop.
     bool QueryUnload() override;
+    /// A report's paragraphs go into no field of the store.
+    int LongestTypedText() const override { return 32767; }
 
     QPushButton* cmdOK = nullptr;
     QPushButton* cmdCancel = nullptr;

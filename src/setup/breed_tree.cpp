@@ -32,6 +32,7 @@ class BreedTitleDelegate : public QStyledItemDelegate {
         auto* editor = new QLineEdit(parent);
         editor->setObjectName(tree_.objectName() + QStringLiteral(".editor"));
         editor->setFrame(false);
+        editor->setMaxLength(255); // as much as a text field of the store takes
         editor->setAutoFillBackground(true);
         return editor;
     }

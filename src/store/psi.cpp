@@ -158,16 +158,4 @@ void ClearFirstDogs(int majitelID) {
                {{"PrvniPes", false}});
 }
 
-void SetDogNumber(int psiID, int cislo) {
-    // Thousands of dogs are numbered in one go, so that only what is needed is read.
-    Table().Open("SELECT Cislo FROM Psi WHERE ID = " + Number(psiID));
-    Table().Set("Cislo", cislo);
-    Table().Update();
-    Table().Close();
-}
-
-void RemoveDogNumbers() {
-    ChangeRows(Table(), "SELECT Cislo FROM Psi", {{"Cislo", 0}});
-}
-
 } // namespace lorvo
