@@ -28,8 +28,8 @@ class Form : public QDialog {
     /// keeps it open.
     virtual bool QueryUnload() { return true; }
 
-    /// How many characters the window's boxes take where they set no limit of their own: what a text
-    /// field of the store takes. A window whose texts go elsewhere may take more.
+    /// How many characters the window's boxes take where they set no limit of their own: what a
+    /// text field of the store takes. A window whose texts go elsewhere may take more.
     virtual int LongestTypedText() const { return 255; }
 
     /// Every road out of the window (button, close box, Esc) ends here.
