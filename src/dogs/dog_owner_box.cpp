@@ -14,16 +14,16 @@ namespace {
 
 /// A box of the owner with its place in the grid, in reading order.
 struct OwnerField {
-    int index;
     const char16_t* caption;
+    int index;
     int row;
     int column; ///< of the caption; the box stands beside it
     int span;
 };
 constexpr OwnerField kFields[] = {
-    {7, u"Jméno", 2, 0, 1},    {4, u"Příjmení", 2, 2, 1}, {8, u"&Ulice", 3, 0, 3},
-    {9, u"PSČ", 4, 0, 1},      {10, u"Město", 4, 2, 1},   {6, u"Telefon", 5, 0, 1},
-    {11, u"&E-mail", 5, 2, 1},
+    {u"Jméno", 7, 2, 0, 1},    {u"Příjmení", 4, 2, 2, 1}, {u"&Ulice", 8, 3, 0, 3},
+    {u"PSČ", 9, 4, 0, 1},      {u"Město", 10, 4, 2, 1},   {u"Telefon", 6, 5, 0, 1},
+    {u"&E-mail", 11, 5, 2, 1},
 };
 /// The boxes that a chosen owner fills; the surname isn't among them.
 constexpr int kSurname = 4;

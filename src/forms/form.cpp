@@ -46,7 +46,7 @@ Form::Form(const char* name, const QString& caption, Border border, QWidget* par
     setWindowFlag(Qt::WindowMaximizeButtonHint, border == Border::Sizable);
 }
 
-void Form::Open() {
+void Form::ShowModally() {
     unloaded_ = false;
     if (border_ == Border::Fixed && layout())
         layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -88,7 +88,7 @@ void SetActivatedBelow(Activatable* mainWindow) {
 void OpenModal(Form& form) {
     {
         const OpenPlace place(form);
-        form.Open();
+        form.ShowModally();
     }
     form.hide();
     Application::RethrowFailure();

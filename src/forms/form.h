@@ -37,7 +37,7 @@ class Form : public QDialog {
 
   private:
     friend void OpenModal(Form& form);
-    void Open();
+    void ShowModally();
     void LimitTypedTexts();
     Border border_;
     bool unloaded_ = false;
