@@ -89,6 +89,15 @@ void MainTree::EnsureVisible(const TreeNode* node) {
     scrollTo(model_->IndexOf(node));
 }
 
+void MainTree::ExpandEveryNode() {
+    // The view's own expandAll would note each dog as expanded too, and every such note is looked
+    // through whenever a node goes. With a layout pending, all is laid out once at the end.
+    scheduleDelayedItemsLayout();
+    for (const TreeNode* node = nodes_.First(); node; node = nodes_.Next(node))
+        if (!node->children.empty())
+            expand(model_->IndexOf(node));
+}
+
 QStringList MainTree::ExpandedKeys() const {
     QStringList keys;
     for (const TreeNode* node = nodes_.First(); node; node = nodes_.Next(node))

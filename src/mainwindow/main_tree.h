@@ -29,6 +29,7 @@ class MainTree : public QTreeView {
     void SelectNode(const TreeNode* node);
     /// Expands what the node lies in and scrolls to it.
     void EnsureVisible(const TreeNode* node);
+    void ExpandEveryNode();
     /// Keys of the expanded nodes in the tree's order.
     QStringList ExpandedKeys() const;
 

@@ -48,7 +48,7 @@ void TreeCommands::ShowRootMenu() {
     case kClearColours:
         return nodes_.ClearAllColours();
     case kExpandAll:
-        return tree_.expandAll();
+        return tree_.ExpandEveryNode();
     case kCollapseAll:
         return tree_.collapseAll();
     case kFind:
