@@ -81,6 +81,9 @@ class ReportList : public QTreeView {
     void StartLabelEdit(int position);
     void EndLabelEdit(); ///< as by loss of focus; nothing when no edit goes on
 
+    /// Brings the row in sight, through scrolling areas that the list itself lies in too.
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
   Q_SIGNALS:
     /// The clerk ticked or unticked a row; its state has already changed.
     void ItemCheck(int position);

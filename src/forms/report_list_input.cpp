@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollArea>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
@@ -140,6 +141,18 @@ void ReportList::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
         painter->drawLine(right, row.top(), right, row.bottom());
     }
     painter->restore();
+}
+
+void ReportList::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    QTreeView::scrollTo(index, hint);
+    const QRect row = visualRect(index) & viewport()->rect();
+    for (QWidget* above = parentWidget(); above; above = above->parentWidget()) {
+        auto* area = qobject_cast<QScrollArea*>(above);
+        if (!area || !area->widget()->isAncestorOf(this))
+            continue;
+        const QPoint place = viewport()->mapTo(area->widget(), row.center());
+        area->ensureVisible(place.x(), place.y(), 0, row.height());
+    }
 }
 
 } // namespace lorvo

@@ -149,6 +149,17 @@ TEST_F(DogPanelTest, TickingAwardsStoresThem) {
     EXPECT_EQ(Ticked("lvwOceneni"), u"C1"_qs);
 }
 
+TEST_F(DogPanelTest, ARowOfAListBelowTheWindowsEdgeIsScrolledIntoSight) {
+    window.resize(900, 420);
+    Start();
+    Show(u"P3"_qs);
+    auto& awards = Get<ReportList>("lvwOceneni");
+    EXPECT_TRUE(awards.visibleRegion().isEmpty());
+    awards.scrollTo(awards.model()->index(1, 0));
+    const QRect row = awards.visualRect(awards.model()->index(1, 0));
+    EXPECT_TRUE(awards.viewport()->visibleRegion().contains(row.center()));
+}
+
 TEST_F(DogPanelTest, LinksOpenTheirWindows) {
     Run("INSERT INTO Meny (ID, Nazev, Zkratka, Kurs, Hlavni) VALUES (1, 'koruna', 'Kč', 10000, "
         "-1)");
