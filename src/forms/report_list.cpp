@@ -112,6 +112,11 @@ void ReportList::SetColumnWidths(std::initializer_list<int> widths) {
         header()->resizeSection(column++, width);
 }
 
+void ReportList::AlignRight(std::initializer_list<int> columns) {
+    for (const int column : columns)
+        model_->AlignRight(column);
+}
+
 HeaderPicture ReportList::PictureOf(int column) const {
     return model_->PictureOf(column);
 }

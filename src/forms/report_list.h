@@ -63,6 +63,8 @@ class ReportList : public QTreeView {
     void InsertColumn(int column, const QString& heading);
     int ColumnCount() const;
     void SetColumnWidths(std::initializer_list<int> widths);
+    /// Numbers and amounts stand at the right, heading and cells.
+    void AlignRight(std::initializer_list<int> columns);
     HeaderPicture PictureOf(int column) const;
 
     // Selection. -1 for none.

@@ -7,7 +7,8 @@
 namespace lorvo {
 
 ReportListModel::ReportListModel(const QStringList& headings, QObject* parent)
-    : QAbstractTableModel(parent), headings_(headings) {}
+    : QAbstractTableModel(parent), headings_(headings),
+      rightAligned_(static_cast<size_t>(headings.size())) {}
 
 int ReportListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
@@ -47,6 +48,8 @@ QVariant ReportListModel::data(const QModelIndex& index, int role) const {
         const auto icon = static_cast<size_t>(cell.icon);
         return cell.icon >= 0 && icon < icons.size() ? QVariant(icons[icon]) : QVariant();
     }
+    case Qt::TextAlignmentRole:
+        return AlignmentOf(index.column());
     case Qt::CheckStateRole:
         return first && checkBoxes ? QVariant(row.checked ? Qt::Checked : Qt::Unchecked)
                                    : QVariant();
@@ -74,7 +77,7 @@ QVariant ReportListModel::headerData(int section, Qt::Orientation orientation, i
     case Qt::DisplayRole:
         return headings_[section];
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        return AlignmentOf(section);
     case Qt::DecorationRole:
         switch (PictureOf(section)) {
         case HeaderPicture::Descending:
@@ -151,6 +154,7 @@ void ReportListModel::SetHeading(int column, const QString& text) {
 void ReportListModel::InsertHeading(int column, const QString& text) {
     beginInsertColumns({}, column, column);
     headings_.insert(column, text);
+    rightAligned_.insert(rightAligned_.begin() + column, false);
     const auto place = static_cast<size_t>(column);
     for (ReportRow& row : rows_)
         if (row.cells.size() > place)
@@ -158,6 +162,15 @@ void ReportListModel::InsertHeading(int column, const QString& text) {
     if (sortColumn_ >= column)
         ++sortColumn_;
     endInsertColumns();
+}
+
+void ReportListModel::AlignRight(int column) {
+    rightAligned_.at(static_cast<size_t>(column)) = true;
+}
+
+QVariant ReportListModel::AlignmentOf(int column) const {
+    const bool right = rightAligned_.at(static_cast<size_t>(column));
+    return QVariant((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
 HeaderPicture ReportListModel::PictureOf(int column) const {

@@ -47,6 +47,7 @@ class ReportListModel : public QAbstractTableModel {
 
     void SetHeading(int column, const QString& text);
     void InsertHeading(int column, const QString& text);
+    void AlignRight(int column);
     HeaderPicture PictureOf(int column) const;
 
     /// Sorts by a column's texts in Czech order without regard to letter case, rows of equal text
@@ -65,10 +66,12 @@ class ReportListModel : public QAbstractTableModel {
     bool IsSorted() const { return sortColumn_ >= 0; }
     std::vector<size_t> SortedOrder() const;
     int PlaceFor(const ReportRow& row) const;
+    QVariant AlignmentOf(int column) const;
 
     std::vector<ReportRow> rows_;
     QStringList headings_;
-    int sortColumn_ = -1; ///< -1 as long as the list isn't sorted
+    std::vector<bool> rightAligned_; ///< by column
+    int sortColumn_ = -1;            ///< -1 as long as the list isn't sorted
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
     mutable QHash<QString, int> positions_; ///< by key, filled when one is looked for
 };

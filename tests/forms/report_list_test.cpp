@@ -42,6 +42,20 @@ class ReportListTest : public ::testing::Test {
     ReportList list{"lvwTest", {QStringLiteral("Jméno"), QStringLiteral("Číslo")}, nullptr};
 };
 
+TEST_F(ReportListTest, AmountsStandAtTheRightWhereverTheirColumnMoves) {
+    list.AlignRight({1});
+    list.InsertColumn(1, QStringLiteral("Pes"));
+    const QAbstractItemModel& model = *list.model();
+    const auto alignment = [&](int column) {
+        const QVariant cell = model.index(0, column).data(Qt::TextAlignmentRole);
+        EXPECT_EQ(model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole), cell);
+        return Qt::Alignment(cell.toInt()) & Qt::AlignHorizontal_Mask;
+    };
+    EXPECT_EQ(alignment(0), Qt::AlignLeft);
+    EXPECT_EQ(alignment(1), Qt::AlignLeft);
+    EXPECT_EQ(alignment(2), Qt::AlignRight);
+}
+
 TEST_F(ReportListTest, GivesKeysTagsColoursAndTextsByTheirRoles) {
     ReportRow row = MakeRow("P4", {"Bára"});
     row.tag = QStringLiteral("značka");
