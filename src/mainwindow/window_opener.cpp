@@ -1,7 +1,12 @@
 #include "mainwindow/window_opener.h"
 
 #include "dogs/fm_Dog.h"
+#include "dogs/frmEditMan.h"
+#include "dogs/frmVystavovatele.h"
 #include "forms/form.h"
+#include "payments/frmPlatba.h"
+#include "payments/frmPrehledPlateb.h"
+#include "payments/frmUhrady.h"
 #include "platform/values/errors.h"
 #include "reports/frmTiskKatalog.h"
 #include "setup/fm_Colors.h"
@@ -31,9 +36,14 @@ std::map<QString, WindowFactory>& Windows() {
         {QStringLiteral("fm_Dog"), Make<fm_Dog>},
         {QStringLiteral("fm_Plemena"), Make<fm_Plemena>},
         {QStringLiteral("fm_Settings"), Make<fm_Settings>},
+        {QStringLiteral("frmEditMan"), Make<frmEditMan>},
         {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
         {QStringLiteral("frmOceneni"), Make<frmOceneni>},
+        {QStringLiteral("frmPlatba"), Make<frmPlatba>},
+        {QStringLiteral("frmPrehledPlateb"), Make<frmPrehledPlateb>},
         {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
+        {QStringLiteral("frmUhrady"), Make<frmUhrady>},
+        {QStringLiteral("frmVystavovatele"), Make<frmVystavovatele>},
         {QStringLiteral("frmVystavy"), Make<frmVystavy>},
     };
     return windows;

@@ -1,0 +1,226 @@
+#include "dogs/frmVystavovatele.h"
+
+#include "app/common_routines.h"
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "dogs/exhibitor_figures.h"
+#include "dogs/frmEditMan.h"
+#include "dogs/totals_bar.h"
+#include "dogs/totals_line.h"
+#include "forms/controls.h"
+#include "forms/report_list.h"
+#include "payments/frmUhrady.h"
+#include "platform/platform.h"
+#include "store/data_module.h"
+#include "store/majitele.h"
+#include "store/uhrady.h"
+
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Column {
+    kName,
+    kStreet,
+    kTown,
+    kPostCode,
+    kCountry,
+    kTelephone,
+    kEmail,
+    kDogs,
+    kFees,
+    kPaid,
+    kBalance
+};
+
+/// Number of the menu's last entry; a positive one is a dog's ID.
+constexpr int kShowPaymentsNumber = -3;
+
+std::optional<QColor> BalanceColour(Currency balance) {
+    if (balance.IsZero())
+        return {};
+    return balance.IsNegative() ? QColor(255, 0, 0) : QColor(0, 180, 0);
+}
+
+ReportRow RowOf(const Majitele& owner, const ExhibitorFigures& figures) {
+    const QString id = QString::number(owner.ID);
+    return {u"M"_s + id,
+            id,
+            {{owner.Jmeno},
+             {owner.Ulice},
+             {owner.Mesto},
+             {PostCodeText(owner.PSC)},
+             {owner.Stat.value_or(QString())},
+             {owner.Telefon},
+             {owner.Email},
+             {QString::number(figures.dogs)},
+             {AmountText(figures.fees)},
+             {AmountText(figures.paid)},
+             {AmountText(figures.Balance()), BalanceColour(figures.Balance())}}};
+}
+
+/// Moves the bar in whole percents: a row's worth of it would only be repainting.
+void ShowProgress(QProgressBar& bar, int value) {
+    const int percent = std::max(1, bar.maximum() / 100);
+    if (value % percent == 0)
+        bar.setValue(value);
+}
+
+std::vector<MenuEntry> MenuOf(int ownerID) {
+    std::vector<MenuEntry> menu;
+    for (const Psi& dog : DogsOfOwner(ownerID)) {
+        MenuEntry& entry = menu.emplace_back();
+        entry.number = dog.ID;
+        entry.text = (dog.PohlaviPes ? u"P "_s : u"F "_s) + dog.Jmeno;
+    }
+    menu.push_back(MenuEntry::Separator());
+    MenuEntry& payments = menu.emplace_back();
+    payments.number = kShowPaymentsNumber;
+    payments.text = u"Zobrazit platby"_s;
+    return menu;
+}
+
+Currency PaidForDogsOf(int ownerID) {
+    Currency paid;
+    for (const Psi& dog : DogsOfOwner(ownerID, DogOrder::ByID))
+        paid += PaidForDog(dog.ID);
+    return paid;
+}
+
+} // namespace
+
+frmVystavovatele::frmVystavovatele(QWidget* parent)
+    : Form("frmVystavovatele", u"Vystavovatelé"_s, Border::Sizable, parent),
+      lvwList(
+          new ReportList("lvwList",
+                         {u"Jméno"_s, u"Ulice"_s, u"Město"_s, u"PSČ"_s, u"Stát"_s, u"Telefon"_s,
+                          u"Email"_s, u"Psů"_s, u"Poplatky celkem"_s, u"Zaplaceno"_s, u"Bilance"_s},
+                         this)),
+      sb(new TotalsBar("sb", this)), Label1(Named(new QLabel(u"Pracuji..."_s, this), u"Label1"_s)),
+      pbMain(Named(new QProgressBar(this), u"pbMain"_s)) {
+    lvwList->SetColumnWidths({150, 140, 110, 60, 60, 100, 150, 50, 120, 110, 110});
+    lvwList->AlignRight({kDogs, kFees, kPaid, kBalance});
+    lvwList->SetSorting(true);
+    LayOut();
+    ConnectList();
+}
+
+void frmVystavovatele::LayOut() {
+    auto* cmdCancel = Named(new QPushButton(u"Zavřít"_s, this), u"cmdCancel"_s);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(lvwList);
+    column->addWidget(Label1);
+    column->addWidget(pbMain);
+    column->addLayout(ButtonRow({cmdCancel}));
+    column->addWidget(sb);
+    resize(1210, 600);
+    lvwList->setFocus();
+}
+
+void frmVystavovatele::ConnectList() {
+    connect(lvwList, &ReportList::DoubleClick, this, &frmVystavovatele::EditOwner);
+    connect(lvwList, &ReportList::DeletePressed, this, &frmVystavovatele::DeleteSelected);
+    connect(lvwList, &ReportList::RightClick, this, &frmVystavovatele::ShowMenu);
+}
+
+void frmVystavovatele::Load() {
+    {
+        const WaitCursor wait(*ThePlatform().ui);
+        lvwList->hide();
+        FillList();
+    }
+    Label1->hide();
+    pbMain->hide();
+    lvwList->show();
+}
+
+void frmVystavovatele::FillList() {
+    const ReadRun run(TheDataModule().Conn1);
+    const std::vector<Majitele> owners = OwnersByName();
+    const ExhibitorTables tables;
+    const int count = static_cast<int>(owners.size());
+    sb->SetPanel(1, u"Celkem %1 vystavovatelů."_s.arg(count));
+    pbMain->setRange(0, count + 1);
+    std::vector<ReportRow> rows;
+    rows.reserve(owners.size());
+    ExhibitorFigures totals;
+    for (const Majitele& owner : owners) {
+        const ExhibitorFigures figures = tables.Of(owner.ID);
+        totals.fees += figures.fees;
+        totals.paid += figures.paid;
+        rows.push_back(RowOf(owner, figures));
+        ShowProgress(*pbMain, static_cast<int>(rows.size()));
+    }
+    sb->SetPanel(2, TotalsLine(totals.fees, totals.paid));
+    lvwList->SetRows(std::move(rows));
+}
+
+void frmVystavovatele::EditOwner(int position) {
+    Module().CurrentOwner = lvwList->Row(position).tag.toInt();
+    frmEditMan editor(this);
+    OpenModal(editor);
+    const auto owner = OwnerByID(Module().CurrentOwner);
+    if (!owner)
+        return;
+    lvwList->SetCell(position, kName, owner->Jmeno);
+    lvwList->SetCell(position, kStreet, owner->Ulice);
+    lvwList->SetCell(position, kTown, owner->Mesto);
+    lvwList->SetCell(position, kPostCode, QString::number(owner->PSC));
+    lvwList->SetCell(position, kCountry, owner->Stat.value_or(QString()));
+    lvwList->SetCell(position, kTelephone, owner->Telefon);
+    lvwList->SetCell(position, kEmail, owner->Email);
+}
+
+// Whether an owner may go hangs on the text "0" in the cell of the e-mail address.
+void frmVystavovatele::DeleteSelected() {
+    const int selected = lvwList->SelectedRow();
+    if (selected < 0)
+        return;
+    MessageBoxes& messages = *ThePlatform().messages;
+    const QString email = lvwList->CellText(selected, kEmail);
+    if (email != u"0") {
+        messages.Show(u"Tuto osobu není možno smazat, protože má přihlášené psy ("_s + email + u')',
+                      MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+    } else if (messages.Show(u"Skutečně smazat?"_s, MessageIcon::Question,
+                             MessageButtons::YesNoCancel, windowTitle()) == MessageAnswer::Yes) {
+        DeleteOwner(lvwList->Row(selected).tag.toInt());
+        lvwList->RemoveRow(QString(lvwList->Row(selected).key));
+    }
+}
+
+void frmVystavovatele::ShowMenu(int position) {
+    if (position < 0)
+        return;
+    const int chosen = ThePlatform().menus->TrackPopup(MenuOf(lvwList->Row(position).tag.toInt()));
+    const QString node = u"P"_s + QString::number(chosen);
+    if (chosen == kShowPaymentsNumber) {
+        ShowPayments(position);
+    } else if (chosen > 0 && TheMainWindow().NodeExists(node)) {
+        TheMainWindow().SelectNode(node);
+        TheMainWindow().MakeNodeVisible(node);
+    }
+}
+
+// Fills each figure one column to the left of its own: the payments stand under the fees, and what
+// they exceed the number of dogs by under the payments, until the list is opened again.
+void frmVystavovatele::ShowPayments(int position) {
+    const int ownerID = lvwList->Row(position).tag.toInt();
+    Module().PaymentsOwner = ownerID;
+    frmUhrady statement(this);
+    OpenModal(statement);
+    const Currency paid = PaidForDogsOf(ownerID);
+    const QString owed =
+        lvwList->CellText(position, kDogs).replace(Module().MainCurrency, QString());
+    const Currency balance = paid - AmountFromText(owed);
+    lvwList->SetCell(position, kFees, AmountText(paid));
+    lvwList->SetCell(position, kPaid, AmountText(balance));
+    lvwList->SetCellColour(position, kPaid, BalanceColour(balance));
+}
+
+} // namespace lorvo

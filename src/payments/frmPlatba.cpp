@@ -1,0 +1,171 @@
+#include "payments/frmPlatba.h"
+
+#include "app/common_routines.h"
+#include "app/module_values.h"
+#include "forms/controls.h"
+#include "payments/auto_complete_box.h"
+#include "payments/payment_lookups.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+#include "store/meny.h"
+#include "store/uhrady.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The way of payment that goes through an account.
+constexpr int kTransfer = 0;
+
+/// The longest text that is worked out while it is typed.
+constexpr int kLongestConverted = 9;
+
+const QString kNothingConverted = u"..."_s;
+
+} // namespace
+
+frmPlatba::frmPlatba(QWidget* parent)
+    : Form("frmPlatba", u"Příjem platby"_s, Border::Fixed, parent),
+      cmbMena(Named(new QComboBox(this), u"cmbMena"_s)),
+      txtCastka(Named(new QLineEdit(u"0"_s, this), u"txtCastka"_s)),
+      lblPrepocteno(Named(new QLabel(kNothingConverted, this), u"lblPrepocteno"_s)),
+      cmbZpusob(Named(new QComboBox(this), u"cmbZpusob"_s)),
+      acUcet(Named(new AutoCompleteBox(this), u"acUcet"_s)),
+      dtPrijata(DatePicker(u"dtPrijata"_s, this)),
+      cmdOK(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s)) {
+    SetNumberStyle(*txtCastka);
+    txtCastka->setAlignment(Qt::AlignRight);
+    lblPrepocteno->setTextFormat(Qt::PlainText);
+    lblPrepocteno->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblPrepocteno->setMinimumWidth(fontMetrics().horizontalAdvance(u"9999 999 999,00 Kč"_s));
+    acUcet->setMinimumWidth(260);
+    LayOut();
+    ConnectControls();
+    txtCastka->setFocus();
+}
+
+void frmPlatba::LayOut() {
+    auto* amount = new QHBoxLayout;
+    amount->addWidget(txtCastka);
+    amount->addWidget(lblPrepocteno);
+    auto* form = new QFormLayout;
+    form->addRow(CaptionFor(cmbMena, u"&Měna"_s, this), cmbMena);
+    form->addRow(CaptionFor(txtCastka, u"Čá&stka"_s, this), amount);
+    form->addRow(CaptionFor(cmbZpusob, u"&Způsob úhrady"_s, this), cmbZpusob);
+    form->addRow(CaptionFor(acUcet, u"Číslo ú&čtu"_s, this), acUcet);
+    form->addRow(CaptionFor(dtPrijata, u"&Přijato"_s, this), dtPrijata);
+    auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(form);
+    column->addWidget(PriceBox(this));
+    column->addLayout(ButtonRow({cmdOK, cmdCancel}));
+}
+
+void frmPlatba::ConnectControls() {
+    txtCastka->installEventFilter(this);
+    connect(txtCastka, &QLineEdit::textChanged, this, &frmPlatba::FollowAmount);
+    connect(cmbMena, &QComboBox::currentIndexChanged, this, &frmPlatba::ShowConverted);
+    connect(cmbZpusob, &QComboBox::currentIndexChanged, this,
+            [this](int mode) { acUcet->setEnabled(mode == kTransfer); });
+    // Enter in the account box takes the suggestion, it doesn't store the payment yet.
+    connect(acUcet, &AutoCompleteBox::FocusEntered, this, [this] { cmdOK->setDefault(false); });
+    connect(acUcet, &AutoCompleteBox::FocusLeft, this, [this] { cmdOK->setDefault(true); });
+    connect(cmdOK, &QPushButton::clicked, this, &frmPlatba::Store);
+}
+
+void frmPlatba::Load() {
+    const Psi dog = CurrentDog();
+    setWindowTitle(windowTitle() + u" - "_s + dog.Jmeno + u' ' + dog.ChovnaStanice);
+    for (const QString& mode : Module().PaymentModes)
+        cmbZpusob->addItem(mode);
+    const DateValue last = Module().LastPaymentDate;
+    SetPickedDate(*dtPrijata, last.IsZero() ? ThePlatform().clock->Now() : last);
+    FillCurrencies();
+    acUcet->ClearSuggestions();
+    acUcet->AddSuggestions(AccountsOfOwner(dog.MajitelID));
+}
+
+void frmPlatba::FillCurrencies() {
+    for (const Meny& currency : Currencies()) {
+        cmbMena->addItem(currency.Nazev + u" ("_s + currency.Zkratka + u')', currency.ID);
+        if (currency.Hlavni)
+            cmbMena->setCurrentIndex(cmbMena->count() - 1);
+    }
+    cmdOK->setEnabled(cmbMena->count() > 0);
+}
+
+bool frmPlatba::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == txtCastka && event->type() == QEvent::FocusIn) {
+        txtCastka->selectAll();
+        // A click sets the cursor only after the focus has come.
+        QMetaObject::invokeMethod(txtCastka, &QLineEdit::selectAll, Qt::QueuedConnection);
+    }
+    return Form::eventFilter(watched, event);
+}
+
+Meny frmPlatba::ChosenCurrency() const {
+    const int menaID = cmbMena->currentData().toInt();
+    if (const auto currency = CurrencyByID(menaID))
+        return *currency;
+    throw StoreError("V tabulce Meny není řádek s číslem " + std::to_string(menaID) + '.');
+}
+
+void frmPlatba::ShowConverted() {
+    try {
+        lblPrepocteno->setText(
+            AmountText(ChosenCurrency().Kurs * AmountFromText(txtCastka->text())));
+    } catch (const RangeError&) {
+        lblPrepocteno->setText(kNothingConverted);
+    }
+}
+
+void frmPlatba::FollowAmount(const QString& text) {
+    if (!text.isEmpty() && text.size() <= kLongestConverted && cmbMena->count() > 0)
+        ShowConverted();
+    else
+        lblPrepocteno->setText(kNothingConverted);
+}
+
+void frmPlatba::Store() {
+    MessageBoxes& messages = *ThePlatform().messages;
+    if (txtCastka->text().isEmpty() || txtCastka->text() == u"0") {
+        messages.Show(u"Částka nesprávně zadána"_s, MessageIcon::Information, MessageButtons::Ok,
+                      windowTitle());
+        return;
+    }
+    try {
+        InsertPayment(Payment());
+    } catch (const RangeError& failure) {
+        messages.Show(u"Částka: "_s + QString::fromUtf8(failure.what()), MessageIcon::Stop,
+                      MessageButtons::Ok, windowTitle());
+        return;
+    }
+    Module().LastPaymentDate = PickedDate(*dtPrijata);
+    accept();
+}
+
+Uhrady frmPlatba::Payment() const {
+    const Meny currency = ChosenCurrency();
+    Uhrady payment;
+    // The moment of the entry puts payments of one day in their order.
+    payment.Datum =
+        PickedDate(*dtPrijata).WithSecondOfDay(ThePlatform().clock->Now().SecondOfDay());
+    payment.Castka = AmountFromText(txtCastka->text());
+    payment.Mena = currency.ID;
+    payment.Uhrada = cmbZpusob->currentIndex();
+    payment.ID_Psa = Module().CurrentDogID;
+    payment.Kc = currency.Kurs * payment.Castka;
+    payment.Kurs = currency.Kurs;
+    payment.Ucet = acUcet->text();
+    return payment;
+}
+
+} // namespace lorvo

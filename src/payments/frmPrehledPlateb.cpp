@@ -1,0 +1,108 @@
+#include "payments/frmPrehledPlateb.h"
+
+#include "app/common_routines.h"
+#include "forms/controls.h"
+#include "forms/report_list.h"
+#include "payments/payment_lookups.h"
+#include "platform/platform.h"
+#include "store/data_module.h"
+#include "store/uhrady.h"
+
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Numbers of the menu's entries.
+constexpr int kMarkPrinted = 100;
+constexpr int kMarkNotPrinted = 101;
+
+constexpr int kAmountColumn = 3;
+constexpr int kPrintedColumn = 4;
+constexpr int kPaidColumn = 7;
+
+// Positions in the list's icons.
+constexpr int kNotPrintedIcon = 2;
+constexpr int kPrintedIcon = 3;
+
+ReportCell PrintedCell(bool printed) {
+    return {printed ? u"Ano"_s : u"Ne"_s, {}, printed ? kPrintedIcon : kNotPrintedIcon};
+}
+
+ReportRow RowOf(const PaymentRow& payment, const CurrencyAbbreviations& currencies) {
+    const QString id = QString::number(payment.UID);
+    return {u"P"_s + id,
+            id,
+            {{payment.MajX},
+             {payment.Jmeno},
+             {payment.Datum ? ThePlatform().locale->DateText(*payment.Datum) : QString()},
+             {AmountText(payment.Kc)},
+             PrintedCell(payment.Printed),
+             {PaymentModeText(payment.Uhrada)},
+             {payment.Ucet},
+             {PlainAmount(payment.Castka)},
+             {currencies.Of(payment.Mena)}}};
+}
+
+} // namespace
+
+frmPrehledPlateb::frmPrehledPlateb(QWidget* parent)
+    : Form("frmPrehledPlateb", u"Přehled plateb"_s, Border::Sizable, parent),
+      lvwUhrady(
+          new ReportList("lvwUhrady",
+                         {u"Jméno"_s, u"Jméno psa"_s, u"Datum"_s, u"Částka v Kč"_s, u"Vytištěno"_s,
+                          u"Způsob úhrady"_s, u"Číslo účtu"_s, u"Částka"_s, u"Měna"_s},
+                         this)) {
+    lvwUhrady->SetColumnWidths({220, 130, 130, 110, 80, 110, 130, 80, 60});
+    lvwUhrady->AlignRight({kAmountColumn, kPaidColumn});
+    lvwUhrady->SetIcons({ProgramIcon(u"payment"_s), ProgramIcon(u"blank"_s),
+                         ProgramIcon(u"not-printed"_s), ProgramIcon(u"printed"_s)});
+    lvwUhrady->SetMultiSelect(true);
+    lvwUhrady->SetSorting(true);
+    connect(lvwUhrady, &ReportList::RightClick, this, &frmPrehledPlateb::ShowMenu);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(lvwUhrady);
+    resize(1100, 560);
+}
+
+void frmPrehledPlateb::Load() {
+    const ReadRun run(TheDataModule().Conn1);
+    const CurrencyAbbreviations currencies;
+    const std::vector<PaymentRow> payments = PaymentsWithOwners();
+    std::vector<ReportRow> rows;
+    rows.reserve(payments.size());
+    for (const PaymentRow& payment : payments)
+        rows.push_back(RowOf(payment, currencies));
+    lvwUhrady->SetRows(std::move(rows));
+}
+
+void frmPrehledPlateb::ShowMenu() {
+    if (lvwUhrady->SelectedRow() < 0)
+        return;
+    MenuEntry printed;
+    printed.number = kMarkPrinted;
+    printed.text = u"Označit jako vytištěné"_s;
+    MenuEntry notPrinted;
+    notPrinted.number = kMarkNotPrinted;
+    notPrinted.text = u"Označit jako nevytištěné"_s;
+    const int chosen = ThePlatform().menus->TrackPopup({printed, notPrinted});
+    if (chosen == kMarkPrinted || chosen == kMarkNotPrinted)
+        MarkSelected(chosen == kMarkPrinted);
+}
+
+void frmPrehledPlateb::MarkSelected(bool printed) {
+    const WaitCursor wait(*ThePlatform().ui);
+    const ReportCell cell = PrintedCell(printed);
+    EditRun run(TheDataModule().Conn1);
+    for (const int position : lvwUhrady->SelectedRows()) {
+        SetPaymentPrinted(lvwUhrady->Row(position).key.mid(1).toInt(), printed);
+        lvwUhrady->SetCell(position, kPrintedColumn, cell.text);
+        lvwUhrady->SetCellIcon(position, kPrintedColumn, cell.icon);
+    }
+    run.Finish();
+}
+
+} // namespace lorvo
