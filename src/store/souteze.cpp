@@ -1,6 +1,5 @@
 #include "store/souteze.h"
 
-#include "platform/values/errors.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -11,20 +10,11 @@ RecordSet& Table() {
     return TheDataModule().rsSouteze;
 }
 
-/// A price that is no number, such as a text that another program left there, is none.
-std::optional<Currency> ReadCena(const Value& value) {
-    try {
-        return ToOptionalCurrency(value);
-    } catch (const RangeError&) {
-        return std::nullopt;
-    }
-}
-
 Souteze ReadSouteze(const RecordSet& row) {
     Souteze competition;
     competition.ID = row.Field("ID").ToInt();
     competition.Nazev = row.Field("Nazev").ToText();
-    competition.Cena = ReadCena(row.Field("Cena"));
+    competition.Cena = ToOptionalCurrency(row.Field("Cena"));
     competition.Parova = row.Field("Parova").ToBool();
     competition.NazevPar1 = row.Field("NazevPar1").ToText();
     competition.NazevPar2 = row.Field("NazevPar2").ToText();

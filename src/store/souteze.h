@@ -14,7 +14,7 @@ namespace lorvo {
 struct Souteze {
     int ID = 0;
     QString Nazev;
-    std::optional<Currency> Cena; ///< per dog, in the main currency; nullopt when no number
+    std::optional<Currency> Cena; ///< per dog, in the main currency; nullopt when Null
     bool Parova = false;
     QString NazevPar1;
     QString NazevPar2;
