@@ -48,6 +48,17 @@ QString DogText(const TreeDog& dog, bool inDetail) {
     return dog.Cislo > 0 ? QString::number(dog.Cislo) + u' ' + text : text;
 }
 
+/// The rows whose `number` is `wanted`, of rows that stand in the order of that number.
+template<typename Row>
+std::span<const Row> RowsOf(const std::vector<Row>& rows, int Row::*number, int wanted) {
+    const auto first =
+        std::lower_bound(rows.begin(), rows.end(), wanted,
+                         [number](const Row& row, int value) { return row.*number < value; });
+    const auto last = std::find_if(
+        first, rows.end(), [number, wanted](const Row& row) { return row.*number != wanted; });
+    return {first, last};
+}
+
 /// Adds one breed after the other; the dogs of all breeds have been read beforehand.
 class BreedBuilder {
   public:
@@ -56,17 +67,11 @@ class BreedBuilder {
     void Add(TreeNode* ring, const Plemena& breed, const QString& text, bool inDetail);
 
   private:
-    std::span<const TreeDog> DogsOf(int breedID) const;
     TreeNode* ParentOf(const TreeDog& dog, TreeNode* breed) const;
 
     TreeNodes& nodes_;
     std::vector<TreeDog> dogs_; ///< by breed
 };
-
-std::span<const TreeDog> BreedBuilder::DogsOf(int breedID) const {
-    const auto dogs = std::ranges::equal_range(dogs_, breedID, {}, &TreeDog::PlemenoID);
-    return {dogs.begin(), dogs.end()};
-}
 
 TreeNode* BreedBuilder::ParentOf(const TreeDog& dog, TreeNode* breed) const {
     if (!Module().ShowClassesOn)
@@ -87,7 +92,7 @@ void BreedBuilder::Add(TreeNode* ring, const Plemena& breed, const QString& text
         for (const char16_t* caption : ClassCaptions(Module().SpecialBreed))
             nodes_.AddClass(node, ++trida, QString::fromUtf16(caption));
     }
-    for (const TreeDog& dog : DogsOf(breed.ID))
+    for (const TreeDog& dog : RowsOf(dogs_, &TreeDog::PlemenoID, breed.ID))
         nodes_.AddDog(ParentOf(dog, node), dog.ID, DogText(dog, inDetail), dog.PohlaviPes);
 }
 
@@ -110,8 +115,7 @@ void LoadTree(TreeNodes& nodes) {
     const std::vector<Plemena> breeds = BreedsByRing();
     for (const Kruhy& row : RingsByName()) {
         TreeNode* ring = nodes.AddRing(row.ID, row.Nazev);
-        for (const Plemena& breed :
-             std::ranges::equal_range(breeds, row.ID, {}, &Plemena::ID_Kruhu))
+        for (const Plemena& breed : RowsOf(breeds, &Plemena::ID_Kruhu, row.ID))
             builder.Add(ring, breed, breed.Nazev.isEmpty() ? breed.NazevOrig : breed.Nazev, false);
     }
 }

@@ -3,6 +3,7 @@
 #include "mainwindow/tree_host.h"
 #include "setup/frmNazevKruhu.h"
 #include "support/modal_driver.h"
+#include "support/window_walk.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -96,6 +97,11 @@ TEST_F(TreeRingsTest, StoresANameThatIsLeftByAClickElsewhere) {
     Tree().setFocus();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !Editor(); }));
     EXPECT_EQ(Scalar("SELECT Nazev FROM Kruhy WHERE ID = 3"), u"Hala D'Or"_qs);
+}
+
+TEST_F(TreeRingsTest, NamesWithLabelsAndKeysAsEveryWindow) {
+    frmNazevKruhu window(nullptr);
+    WalkWindow(window);
 }
 
 TEST_F(TreeRingsTest, RenamesARingInItsWindow) {
