@@ -47,6 +47,10 @@ void ReportList::RemoveRow(const QString& key) {
         model_->RemoveRow(position);
 }
 
+void ReportList::RemoveRowAt(int position) {
+    model_->RemoveRow(position);
+}
+
 int ReportList::RowCount() const {
     return model_->rowCount();
 }

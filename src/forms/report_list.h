@@ -43,6 +43,7 @@ class ReportList : public QTreeView {
     int AddRow(ReportRow row);                 ///< returns where the row stands
     void ClearRows();
     void RemoveRow(const QString& key);
+    void RemoveRowAt(int position);
     int RowCount() const;
     const ReportRow& Row(int position) const;
     /// The text of a cell, empty for one that the row lacks.

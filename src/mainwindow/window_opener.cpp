@@ -12,6 +12,7 @@
 #include "setup/fm_Colors.h"
 #include "setup/fm_Plemena.h"
 #include "setup/fm_Settings.h"
+#include "setup/fm_Souteze.h"
 #include "setup/frmNazevKruhu.h"
 #include "setup/frmOceneni.h"
 #include "setup/frmVystavy.h"
@@ -36,6 +37,7 @@ std::map<QString, WindowFactory>& Windows() {
         {QStringLiteral("fm_Dog"), Make<fm_Dog>},
         {QStringLiteral("fm_Plemena"), Make<fm_Plemena>},
         {QStringLiteral("fm_Settings"), Make<fm_Settings>},
+        {QStringLiteral("fm_Souteze"), Make<fm_Souteze>},
         {QStringLiteral("frmEditMan"), Make<frmEditMan>},
         {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
         {QStringLiteral("frmOceneni"), Make<frmOceneni>},

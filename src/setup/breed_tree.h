@@ -33,6 +33,8 @@ class BreedTree : public QTreeView {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    /// Only the letters of JumpToLetter move the selection, and one at a time.
+    void keyboardSearch(const QString&) override {}
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;

@@ -96,7 +96,7 @@ void CodeListForm::RefuseDuplicate(int position, bool* cancel) {
                                  windowTitle());
     if (list_->Row(position).key != kNewKey)
         return;
-    list_->RemoveRow(kNewKey);
+    list_->RemoveRowAt(position);
     *cancel = true;
 }
 

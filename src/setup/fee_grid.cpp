@@ -4,7 +4,7 @@
 #include "forms/controls.h"
 #include "platform/platform.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QTimer>
@@ -35,6 +35,7 @@ constexpr QStringView kCaptions[kClassSlots] = {
     u"Třída dospívajících, další pes", u"Třída dospívajících, první pes",
 };
 
+constexpr QStringView kSimpleCaptions[] = {u"První pes", u"Další pes"};
 constexpr QStringView kClosings[] = {u"I. uzávěrka", u"II. uzávěrka"};
 
 void AddClosingHeadings(QGridLayout& grid, QWidget* parent) {
@@ -74,8 +75,8 @@ QWidget* FeeGrid::MakeSimpleRows() {
     auto* page = Named(new QWidget(this), u"Picture1"_s);
     auto* grid = new QGridLayout(page);
     AddClosingHeadings(*grid, page);
-    AddRow(*grid, kSimpleFirst, u"První pes"_s);
-    AddRow(*grid, kSimpleNext, u"Další pes"_s);
+    AddRow(*grid, kSimpleFirst, kSimpleCaptions[0].toString());
+    AddRow(*grid, kSimpleNext, kSimpleCaptions[1].toString());
     grid->setRowStretch(grid->rowCount(), 1);
     return page;
 }
@@ -99,9 +100,13 @@ QLineEdit* FeeGrid::MakeBox(const char* array, int slot) {
 }
 
 bool FeeGrid::eventFilter(QObject* watched, QEvent* event) {
-    // After the press that brought the focus, which would place the text cursor again.
-    if (event->type() == QEvent::FocusIn)
-        QTimer::singleShot(0, static_cast<QLineEdit*>(watched), &QLineEdit::selectAll);
+    if (event->type() == QEvent::FocusIn) {
+        auto* box = static_cast<QLineEdit*>(watched);
+        box->selectAll();
+        // The press that brings the focus places the text cursor afterwards.
+        if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+            QTimer::singleShot(0, box, &QLineEdit::selectAll);
+    }
     return QStackedWidget::eventFilter(watched, event);
 }
 
@@ -125,9 +130,10 @@ std::array<QString, kFeeColumns> FeeGrid::Texts() const {
     return texts;
 }
 
-QString FeeGrid::BoxCaption(int feeColumn) {
-    return kCaptions[feeColumn % kClassSlots].toString() + u", "_s +
-           kClosings[feeColumn / kClassSlots].toString();
+QString FeeGrid::BoxCaption(int feeColumn) const {
+    const QStringView row = currentWidget() == Picture1 ? kSimpleCaptions[feeColumn % 2]
+                                                        : kCaptions[feeColumn % kClassSlots];
+    return row.toString() + u", "_s + kClosings[feeColumn / kClassSlots].toString();
 }
 
 void FeeGrid::ShowSimple(bool simple) {

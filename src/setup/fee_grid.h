@@ -21,8 +21,8 @@ class FeeGrid : public QStackedWidget {
     void SetFees(const FeeRow& fees);
     /// Texts of the class rows, blanks around cut, in the order of FeeColumns.
     std::array<QString, kFeeColumns> Texts() const;
-    /// What a clerk calls the box of a fee column.
-    static QString BoxCaption(int feeColumn);
+    /// What a clerk calls the box that a fee column comes from.
+    QString BoxCaption(int feeColumn) const;
 
     /// Shows the simple grid or the class rows; copies nothing.
     void ShowSimple(bool simple);

@@ -57,13 +57,13 @@ void fm_Plemena::BuildControls() {
 
 void fm_Plemena::Load() {
     tvwPlemena->FollowGridPreference();
-    Module().BreedsDirty = false;
-    Module().JumpToBreed = 0;
-    Module().BreedListChanged = false;
     LoadTree();
 }
 
 void fm_Plemena::LoadTree() {
+    Module().BreedsDirty = false;
+    Module().JumpToBreed = 0;
+    Module().BreedListChanged = false;
     const WaitCursor waiting(*ThePlatform().ui);
     tvwPlemena->Model().SetNodes(ReadRegister(HideUnused));
     ShowStatus();

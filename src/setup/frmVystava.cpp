@@ -5,7 +5,6 @@
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "setup/fee_grid.h"
-#include "store/vystavy.h"
 
 #include <QCheckBox>
 #include <QVBoxLayout>
@@ -79,18 +78,19 @@ void frmVystava::ChooseGrid(bool byClass) {
         fees_->CopyFirstClassToSimple();
 }
 
-bool frmVystava::CheckFees() const {
+std::array<Currency, kFeeColumns> frmVystava::Fees() const {
     const auto texts = fees_->Texts();
-    for (int column = 0; column < kFeeColumns; ++column) {
+    std::array<Currency, kFeeColumns> fees;
+    for (std::size_t column = 0; column < fees.size(); ++column) {
         try {
             if (!texts[column].isEmpty())
-                AmountFromText(texts[column]);
+                fees[column] = AmountFromText(texts[column]);
         } catch (const RangeError& failure) {
-            Refuse(FeeGrid::BoxCaption(column) + u": "_s + QString::fromUtf8(failure.what()));
-            return false;
+            const QString box = fees_->BoxCaption(static_cast<int>(column));
+            throw RangeError(box.toStdString() + ": " + failure.what());
         }
     }
-    return true;
+    return fees;
 }
 
 void frmVystava::Store() {
@@ -99,11 +99,15 @@ void frmVystava::Store() {
     const bool byClass = chkRozliseni->isChecked();
     if (!byClass)
         fees_->SpreadSimple();
-    if (!CheckFees())
-        return;
+    std::array<Currency, kFeeColumns> fees;
+    try {
+        fees = Fees();
+    } catch (const RangeError& failure) {
+        return Refuse(QString::fromUtf8(failure.what()));
+    }
     ThePlatform().iniFiles->Write(kSection, kIgnoreClasses, byClass ? u"0"_s : u"1"_s, IniPath());
     const QString name = txtName->text().trimmed();
-    UpdateShow(vystavaID_, name, fees_->Texts());
+    UpdateShow(vystavaID_, name, fees);
     onStored_(name);
     accept();
 }

@@ -2,7 +2,9 @@
 // The editor of one show: its name and its entry fees.
 
 #include "forms/form.h"
+#include "store/vystavy.h"
 
+#include <array>
 #include <functional>
 
 class QCheckBox;
@@ -25,8 +27,8 @@ class frmVystava : public Form {
     void BuildControls();
     void ChooseGrid(bool byClass);
     void Store();
-    /// Whether the store can take every fee; a message names the box that it can't.
-    bool CheckFees() const;
+    /// The fees typed, an emptied box as 0. RangeError names the box whose text is no amount.
+    std::array<Currency, kFeeColumns> Fees() const;
     void Refuse(const QString& text) const;
 
     int vystavaID_;

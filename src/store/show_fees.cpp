@@ -44,17 +44,6 @@ StoreError NoSuchShow(int vystavaID) {
     return StoreError("Tabulka Vystavy: výstava s ID " + Number(vystavaID) + " neexistuje.");
 }
 
-Value FeeFromText(const std::string& column, const QString& text) {
-    const QString trimmed = text.trimmed();
-    if (trimmed.isEmpty())
-        return Currency();
-    try {
-        return Currency::FromText(trimmed.toStdString());
-    } catch (const RangeError& error) {
-        throw StoreError("Tabulka Vystavy: pole " + column + ": " + error.what());
-    }
-}
-
 } // namespace
 
 std::string FeeColumn(bool firstClosing, int classColumn, bool firstDog) {
@@ -111,10 +100,11 @@ const FeeTables::Show& FeeTables::At(int vystavaID) const {
     return show->second;
 }
 
-void UpdateShow(int vystavaID, const QString& nazev, const std::array<QString, kFeeColumns>& fees) {
+void UpdateShow(int vystavaID, const QString& nazev,
+                const std::array<Currency, kFeeColumns>& fees) {
     Assignments fields = {{"Nazev", nazev}};
     for (std::size_t i = 0; i < fees.size(); ++i)
-        fields.emplace_back(FeeColumns()[i].c_str(), FeeFromText(FeeColumns()[i], fees[i]));
+        fields.emplace_back(FeeColumns()[i].c_str(), fees[i]);
     ChangeRow(Table(), "Vystavy", vystavaID, fields);
 }
 

@@ -38,6 +38,10 @@ void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs) {
     InsertLinks(Table(), "Vazby_Souteze", "ID_Psa", psiID, "ID_Souteze", soutezIDs);
 }
 
+void AddDogsToCompetition(int soutezID, const std::vector<int>& psiIDs) {
+    InsertLinks(Table(), "Vazby_Souteze", "ID_Souteze", soutezID, "ID_Psa", psiIDs);
+}
+
 void DeleteCompetitionsOfDog(int psiID) {
     DeleteRows(Table(), "Vazby_Souteze", "ID_Psa", psiID);
 }

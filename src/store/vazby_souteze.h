@@ -20,6 +20,8 @@ std::unordered_map<int, std::vector<int>> CompetitionsByDog();
 
 /// Adds a row per competition; the dog's rows before are left.
 void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs);
+/// Adds a row per dog; the rows of the competition before are left.
+void AddDogsToCompetition(int soutezID, const std::vector<int>& psiIDs);
 /// Takes the dog out of all competitions.
 void DeleteCompetitionsOfDog(int psiID);
 /// Takes all dogs out of the competition.

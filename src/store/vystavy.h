@@ -72,9 +72,8 @@ class FeeTables {
 /// Stores a new show with no field set but the name, and returns its ID.
 int InsertShow(const QString& nazev);
 void RenameShow(int vystavaID, const QString& nazev);
-/// Writes the name and all fees, given as texts in the order of FeeColumns; an empty text stores 0.
-/// StoreError names the field whose text is no amount.
-void UpdateShow(int vystavaID, const QString& nazev, const std::array<QString, kFeeColumns>& fees);
+/// Writes the name and all fees, in the order of FeeColumns.
+void UpdateShow(int vystavaID, const QString& nazev, const std::array<Currency, kFeeColumns>& fees);
 /// Writes the closings of the first show; nothing when there is no show.
 void SetClosingsOfFirstShow(DateValue uzaverka1, DateValue uzaverka2);
 /// Sets all fees of the first show to 0. StoreError when there is no show.

@@ -101,23 +101,23 @@ void AddRings(int count, const std::vector<int>& breeds) {
     }
 }
 
-std::array<QString, kFeeColumns> FeeTexts(int surcharge) {
-    std::array<QString, kFeeColumns> texts;
-    auto text = texts.begin();
+std::array<Currency, kFeeColumns> Fees(int surcharge) {
+    std::array<Currency, kFeeColumns> fees;
+    auto next = fees.begin();
     for (const int closing : {0, kSecondClosingSurcharge}) {
         for (const int fee : kFees) {
-            *text++ = QString::number(fee + closing + surcharge);
-            *text++ = QString::number(fee + closing + surcharge - kFurtherDogDiscount);
+            *next++ = Currency::FromUnits(fee + closing + surcharge);
+            *next++ = Currency::FromUnits(fee + closing + surcharge - kFurtherDogDiscount);
         }
     }
-    return texts;
+    return fees;
 }
 
 std::vector<int> AddShows() {
     std::vector<int> shows;
     for (const char16_t* name : kShows) {
         const int show = InsertShow(ToText(name));
-        UpdateShow(show, ToText(name), FeeTexts(static_cast<int>(shows.size()) * 50));
+        UpdateShow(show, ToText(name), Fees(static_cast<int>(shows.size()) * 50));
         shows.push_back(show);
     }
     return shows;

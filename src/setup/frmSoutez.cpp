@@ -1,0 +1,128 @@
+#include "setup/frmSoutez.h"
+
+#include "app/common_routines.h"
+#include "app/module_values.h"
+#include "forms/controls.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+#include "store/souteze.h"
+#include "store/vazby_souteze.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Box { kName, kParameter1, kParameter2, kPrice };
+
+constexpr QStringView kCaptions[] = {u"Název soutěže", u"Název parametru 1", u"Název parametru 2",
+                                     u"Cena za účast (Kč)"};
+
+/// An emptied box stores no price.
+std::optional<Currency> PriceFromText(const QString& text) {
+    if (text.trimmed().isEmpty())
+        return {};
+    return AmountFromText(text);
+}
+
+} // namespace
+
+frmSoutez::frmSoutez(QWidget* parent)
+    : Form("frmSoutez", {}, Border::Fixed, parent),
+      chkPairs(Named(new QCheckBox(u"Soutěž je určena pro páry"_s, this), u"chkPairs"_s)),
+      lblErr(Named(new QLabel(u"(Tuto volbu není možno přepínat, je-li v soutěži už přihlášen "
+                              u"nějaký pes)"_s,
+                              this),
+                   u"lblErr"_s)),
+      cmdOK(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s)) {
+    BuildControls();
+    SetNumberStyle(*txtNazev[kPrice]);
+    for (QLineEdit* box : txtNazev)
+        connect(box, &QLineEdit::textChanged, this, &frmSoutez::EnableOK);
+    connect(cmdOK, &QPushButton::clicked, this, &frmSoutez::Store);
+}
+
+void frmSoutez::BuildControls() {
+    auto* form = new QFormLayout;
+    for (std::size_t i = 0; i < txtNazev.size(); ++i) {
+        txtNazev[i] = Named(new QLineEdit(this), ElementName("txtNazev", static_cast<int>(i)));
+        QLabel* caption = CaptionFor(txtNazev[i], kCaptions[i].toString(), this);
+        form->addRow(caption, txtNazev[i]);
+        // The names of the parameters only travel through the window.
+        const bool hidden = i == kParameter1 || i == kParameter2;
+        caption->setHidden(hidden);
+        txtNazev[i]->setHidden(hidden);
+    }
+    txtNazev[kName]->setMinimumWidth(280);
+    auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(form);
+    column->addWidget(chkPairs);
+    column->addWidget(lblErr);
+    column->addLayout(ButtonRow({cmdOK, cmdCancel}));
+}
+
+void frmSoutez::Load() {
+    txtNazev[kPrice]->setText(u"0"_s);
+    if (Module().CurrentCompetitionID == 0) {
+        setWindowTitle(u"Přidat soutěž"_s);
+        lblErr->hide();
+    } else {
+        setWindowTitle(u"Upravit soutěž"_s);
+        LoadCompetition();
+    }
+    EnableOK();
+    txtNazev[kName]->selectAll();
+}
+
+void frmSoutez::LoadCompetition() {
+    if (const auto competition = CompetitionByID(Module().CurrentCompetitionID)) {
+        txtNazev[kName]->setText(competition->Nazev);
+        txtNazev[kParameter1]->setText(competition->NazevPar1);
+        txtNazev[kParameter2]->setText(competition->NazevPar2);
+        txtNazev[kPrice]->setText(PlainAmount(competition->Cena.value_or(Currency())));
+        chkPairs->setChecked(competition->Parova);
+    }
+    const bool entered = CountDogsInCompetition(Module().CurrentCompetitionID) > 0;
+    lblErr->setVisible(entered);
+    chkPairs->setEnabled(!entered);
+}
+
+void frmSoutez::EnableOK() {
+    cmdOK->setEnabled(!txtNazev[kName]->text().isEmpty());
+}
+
+void frmSoutez::Store() {
+    MessageBoxes& messages = *ThePlatform().messages;
+    Souteze competition;
+    competition.ID = Module().CurrentCompetitionID;
+    competition.Nazev = txtNazev[kName]->text();
+    if (IsCompetitionNamed(competition.Nazev, competition.ID)) {
+        messages.Show(u"Soutěž "_s + competition.Nazev + u" už existuje. použijte jiný název."_s,
+                      MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
+        return;
+    }
+    try {
+        competition.Cena = PriceFromText(txtNazev[kPrice]->text());
+    } catch (const RangeError& failure) {
+        messages.Show(kCaptions[kPrice].toString() + u": "_s + QString::fromUtf8(failure.what()),
+                      MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+        return;
+    }
+    competition.Parova = chkPairs->isChecked();
+    competition.NazevPar1 = txtNazev[kParameter1]->text();
+    competition.NazevPar2 = txtNazev[kParameter2]->text();
+    if (competition.ID > 0)
+        UpdateCompetition(competition);
+    else
+        InsertCompetition(competition);
+    accept();
+}
+
+} // namespace lorvo
