@@ -16,6 +16,7 @@
 #include "store/data_module.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QSplitter>
 #include <QToolBar>
 #include <algorithm>
@@ -24,7 +25,10 @@ namespace lorvo {
 
 namespace {
 
-constexpr QSize kDesignedSize(1120, 720);
+/// Shows a dog's panel whole where the screen is high enough.
+constexpr QSize kDesignedSize(1120, 830);
+/// Title and edges that a desktop draws around a window.
+constexpr QSize kFrame(16, 40);
 constexpr int kDesignedTreeWidth = 340;
 
 const QString kSplitterKey = QStringLiteral("Splitters\\fm_main");
@@ -42,7 +46,7 @@ fm_main::fm_main()
       sbMain(new StatusPanels(QStringLiteral("sbMain"), this)) {
     setObjectName(QStringLiteral("fm_main"));
     setWindowTitle(QStringLiteral("Lorvo"));
-    resize(kDesignedSize);
+    resize(kDesignedSize.boundedTo(screen()->availableSize() - kFrame));
     addToolBar(cmdBar->MakeBar(QStringLiteral("STANDARD"), this));
     setStatusBar(sbMain);
     MakeSplitter();
