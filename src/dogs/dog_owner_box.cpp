@@ -6,7 +6,6 @@
 
 #include <QComboBox>
 #include <QGridLayout>
-#include <QListView>
 
 namespace lorvo {
 
@@ -40,9 +39,7 @@ DogOwnerBox::DogOwnerBox(QWidget* parent)
     setObjectName(QStringLiteral("fraOwner"));
     cmbOwners->setAccessibleName(title());
     cmbOwners->setModel(owners_);
-    cmbOwners->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    if (auto* list = qobject_cast<QListView*>(cmbOwners->view()))
-        list->setUniformItemSizes(true);
+    PrepareForLongList(*cmbOwners);
     cmdAddNameCancel->setEnabled(false);
     LayOut();
     connect(cmbOwners, &QComboBox::activated, this, &DogOwnerBox::FillBoxes);

@@ -1,10 +1,11 @@
 #include "dogs/stored_texts_combo.h"
 
+#include "forms/controls.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QLineEdit>
-#include <QListView>
 #include <QStringListModel>
 
 namespace lorvo {
@@ -24,10 +25,8 @@ QComboBox* StoredTextsCombo(const QString& name, QWidget* parent) {
     combo->setObjectName(name);
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setModel(new QStringListModel(combo));
-    if (auto* list = qobject_cast<QListView*>(combo->view()))
-        list->setUniformItemSizes(true);
+    PrepareForLongList(*combo);
     QCompleter* completer = combo->completer();
     completer->setCompletionMode(QCompleter::PopupCompletion);
     completer->setCaseSensitivity(Qt::CaseInsensitive);

@@ -2,10 +2,11 @@
 
 #include "platform/platform.h"
 
-#include <QAbstractButton>
-#include <QCalendarWidget>
+#include <QComboBox>
 #include <QHBoxLayout>
+#include <QListView>
 #include <QLocale>
+#include <QStyledItemDelegate>
 
 namespace lorvo {
 
@@ -48,6 +49,15 @@ DateValue PickedDate(const QDateEdit& picker) {
 
 void SetPickedDate(QDateEdit& picker, DateValue value) {
     picker.setDate(QDate(value.Year(), value.Month(), value.Day()));
+}
+
+void PrepareForLongList(QComboBox& combo) {
+    combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    // The list's own delegate sizes lines by the list, which would make the one size that is asked
+    // for too wide.
+    combo.setItemDelegate(new QStyledItemDelegate(&combo));
+    if (auto* list = qobject_cast<QListView*>(combo.view()))
+        list->setUniformItemSizes(true);
 }
 
 QLayout* ButtonRow(std::initializer_list<QPushButton*> buttons) {

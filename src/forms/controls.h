@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <functional>
 
+class QComboBox;
+
 namespace lorvo {
 
 class DateValue;
@@ -57,6 +59,10 @@ void SetNumberStyle(QLineEdit& box);
 QDateEdit* DatePicker(const QString& name, QWidget* parent);
 DateValue PickedDate(const QDateEdit& picker);
 void SetPickedDate(QDateEdit& picker, DateValue value);
+
+/// Lets a combo box open at once however long its list is: neither the box nor the list asks every
+/// line for its size.
+void PrepareForLongList(QComboBox& combo);
 
 /// A row of buttons, in the order given, at the right end of a window; the first is the default.
 QLayout* ButtonRow(std::initializer_list<QPushButton*> buttons);

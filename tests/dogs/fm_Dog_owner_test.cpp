@@ -1,6 +1,8 @@
 #include "dogs/dog_editor_fixture.h"
 #include "store/majitele.h"
 
+#include <QAbstractItemView>
+
 namespace lorvo::test {
 namespace {
 
@@ -33,6 +35,16 @@ TEST_F(DogOwnerTest, TheListHoldsAllOwnersInCzechOrder) {
         EXPECT_EQ(owners.itemText(2), Text("Petr  Zlín"));
         EXPECT_EQ(owners.itemData(2).toInt(), petr);
         EXPECT_FALSE(owners.isEditable());
+    });
+}
+
+TEST_F(DogOwnerTest, TheDroppedDownListIsAsWideAsItsLines) {
+    AddDog([&](QWidget& window) {
+        auto& owners = Control<QComboBox>(window, "cmbOwners");
+        owners.showPopup();
+        const QAbstractItemView& list = *owners.view();
+        EXPECT_LE(list.visualRect(owners.model()->index(0, 0)).width(), list.viewport()->width());
+        owners.hidePopup();
     });
 }
 
