@@ -1,11 +1,27 @@
 #include "mainwindow/node_delegate.h"
 
+#include <QLineEdit>
+
 namespace lorvo {
+
+namespace {
+constexpr int kLongestName = 255;
+}
 
 void NodeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     if (!selectionBarShown)
         option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+}
+
+QWidget* NodeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+        line->setObjectName(QStringLiteral("tvwMain.editor"));
+        line->setMaxLength(kLongestName);
+    }
+    return editor;
 }
 
 } // namespace lorvo

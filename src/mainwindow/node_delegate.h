@@ -1,5 +1,5 @@
 #pragma once
-// How a node of the main tree is drawn.
+// How a node of the main tree is drawn and renamed in place.
 
 #include <QStyledItemDelegate>
 
@@ -12,6 +12,10 @@ class NodeDelegate : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
 
     bool selectionBarShown = true;
+
+    /// A line that takes no more than a text field of the store holds.
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
 
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

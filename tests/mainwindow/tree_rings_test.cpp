@@ -44,6 +44,12 @@ class TreeRingsTest : public TreeTest {
     WindowFactory replaced_;
 };
 
+TEST_F(TreeRingsTest, ALongNameIsCutToWhatAFieldHolds) {
+    Choose({}, 601);
+    TypeName(QString(300, u'x'));
+    EXPECT_EQ(Scalar("SELECT Nazev FROM Kruhy WHERE ID = 3"), QString(255, u'x'));
+}
+
 TEST_F(TreeRingsTest, AddsARingAndNamesItInPlace) {
     Choose({}, 601);
     EXPECT_EQ(host.SelectedNode(), u"K3"_qs);
