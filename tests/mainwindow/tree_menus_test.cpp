@@ -61,8 +61,6 @@ TEST_F(TreeMenusTest, HasNoMenuForAClass) {
 }
 
 TEST_F(TreeMenusTest, MarksTheDogMenuByTheDogLastShown) {
-    StandInFor(u"frmPlatba"_qs);
-    StandInFor(u"frmUhrady"_qs);
     database.Execute("UPDATE Psi SET PrvniUzaverka = -1, PrvniPes = -1 WHERE ID = 2");
     Module().CurrentDogID = 2;
     EXPECT_EQ(MenuOf(u"P1"_qs),
@@ -77,9 +75,16 @@ TEST_F(TreeMenusTest, MarksTheDogMenuByTheDogLastShown) {
         (QStringList{u"606 První uzávěrka"_qs, u"607 [x] Druhá uzávěrka"_qs, u"608 První pes"_qs}));
 }
 
+TEST_F(TreeMenusTest, GreysWhatADogNotShownYetHasNot) {
+    EXPECT_EQ(MenuOf(u"P1"_qs).mid(0, 3),
+              (QStringList{u"601 Odstranit psa"_qs, u"602 Příjem platby (-)"_qs,
+                           u"603 Zobrazit seznam přijatých plateb (-)"_qs}));
+}
+
 TEST_F(TreeMenusTest, OpensTheWindowsOfPayments) {
     StandInFor(u"frmPlatba"_qs);
     StandInFor(u"frmUhrady"_qs);
+    Module().CurrentDogID = 2;
     Choose(u"P1"_qs, 602);
     Choose(u"P1"_qs, 603);
     EXPECT_EQ(opened, (QStringList{u"frmPlatba"_qs, u"frmUhrady"_qs}));
