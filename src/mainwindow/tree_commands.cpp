@@ -3,9 +3,9 @@
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "mainwindow/main_tree.h"
-#include "mainwindow/node_search.h"
 #include "mainwindow/tree_edits.h"
 #include "mainwindow/tree_loader.h"
+#include "mainwindow/tree_search.h"
 #include "mainwindow/window_opener.h"
 #include "store/kruhy.h"
 
@@ -99,8 +99,7 @@ void TreeCommands::Find() {
 void TreeCommands::FindNext() {
     if (Module().FindText.isEmpty())
         return Find();
-    if (const TreeNode* node = FindByText(nodes_, Module().FindText, Module().FindStart))
-        tree_.SelectNode(node);
+    SelectNextMatch(window_);
 }
 
 void TreeCommands::AddDogToBreed(int breedID) {

@@ -1,9 +1,12 @@
 #include "mainwindow/window_opener.h"
 
 #include "dogs/fm_Dog.h"
+#include "dogs/fm_DogsList.h"
 #include "dogs/frmEditMan.h"
+#include "dogs/frmParents.h"
 #include "dogs/frmVystavovatele.h"
 #include "forms/form.h"
+#include "mainwindow/frmFind.h"
 #include "payments/frmPlatba.h"
 #include "payments/frmPrehledPlateb.h"
 #include "payments/frmUhrady.h"
@@ -35,12 +38,15 @@ std::map<QString, WindowFactory>& Windows() {
     static std::map<QString, WindowFactory> windows{
         {QStringLiteral("fm_Colors"), Make<fm_Colors>},
         {QStringLiteral("fm_Dog"), Make<fm_Dog>},
+        {QStringLiteral("fm_DogsList"), Make<fm_DogsList>},
         {QStringLiteral("fm_Plemena"), Make<fm_Plemena>},
         {QStringLiteral("fm_Settings"), Make<fm_Settings>},
         {QStringLiteral("fm_Souteze"), Make<fm_Souteze>},
         {QStringLiteral("frmEditMan"), Make<frmEditMan>},
+        {QStringLiteral("frmFind"), Make<frmFind>},
         {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
         {QStringLiteral("frmOceneni"), Make<frmOceneni>},
+        {QStringLiteral("frmParents"), Make<frmParents>},
         {QStringLiteral("frmPlatba"), Make<frmPlatba>},
         {QStringLiteral("frmPrehledPlateb"), Make<frmPrehledPlateb>},
         {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},

@@ -80,6 +80,7 @@ TEST_F(MainTreeTest, EndsEveryKeyByShowingTheSelectedNode) {
 }
 
 TEST_F(MainTreeTest, ShowsNothingOnAKeyWithoutASelection) {
+    StandInFor(u"frmFind"_qs);
     Press(Qt::Key_F3);
     EXPECT_EQ(host.shown, QStringList());
 }

@@ -41,6 +41,7 @@ class TreeHost : public QWidget, public MainWindowServices {
     void ShowNodeInfo(const QString& key) override;
     void SetItemTitle(const QString& text) override;
     QString Caption() const override;
+    TreeNodes& Nodes() override { return nodes; }
 };
 
 /// A show with two rings: A (ID 1) with the breed 10 and its dogs 1 and 2 of the owner 5, B (ID 2)

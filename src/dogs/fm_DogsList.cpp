@@ -1,0 +1,161 @@
+#include "dogs/fm_DogsList.h"
+
+#include "app/common_routines.h"
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "dogs/dog_counts_line.h"
+#include "dogs/dog_list_figures.h"
+#include "dogs/frmDogListFilter.h"
+#include "dogs/totals_bar.h"
+#include "dogs/totals_line.h"
+#include "forms/command_collection.h"
+#include "forms/report_list.h"
+#include "platform/platform.h"
+#include "store/data_module.h"
+#include "store/oceneni.h"
+#include "store/psi_oceneni.h"
+
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Column { kPrice = 7, kCompetitionFees = 9, kAwards = 10, kPaid = 11, kBalance = 12 };
+
+constexpr QColor kArrearsColour(255, 0, 0);
+constexpr QColor kOverpaidColour(0, 160, 0);
+
+QStringList Headings() {
+    return {u"Jméno"_s,   u"Pohlaví"_s,  u"Majitel"_s, u"Plemeno"_s, u"Poznámka"_s,
+            u"Výstava"_s, u"Uzávěrka"_s, u"Cena"_s,    u"Soutěže"_s, u"Soutěže"_s,
+            u"Ocenění"_s, u"Uhrazeno"_s, u"Bilance"_s};
+}
+
+std::optional<QColor> BalanceColour(Currency balance) {
+    if (balance.IsZero())
+        return {};
+    return balance.IsNegative() ? kArrearsColour : kOverpaidColour;
+}
+
+/// An amount as these cells show it: no fixed decimals.
+QString Price(Currency amount) {
+    return PlainAmount(amount) + u' ' + Module().MainCurrency;
+}
+
+ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures) {
+    const QString id = QString::number(dog.IDPsa);
+    return {u'P' + id,
+            id,
+            {{dog.Jmeno + u' ' + dog.ChovnaStanice},
+             {dog.PohlaviPes ? u"Pes"_s : u"Fena"_s},
+             {dog.JmenoMajitele},
+             {dog.NazevPlemene.isEmpty() ? dog.NazevOrig : dog.NazevPlemene},
+             {dog.Poznamka},
+             {figures.shows},
+             {dog.PrvniUzaverka ? u"I"_s : u"II"_s},
+             {figures.lastFee ? Price(*figures.lastFee) : QString()},
+             {figures.competitions},
+             {Price(figures.competitionFees)},
+             {figures.awards},
+             {Price(figures.paid)},
+             {Price(figures.Balance()), BalanceColour(figures.Balance())}}};
+}
+
+std::vector<MenuEntry> AwardsMenu(int psiID) {
+    std::vector<MenuEntry> menu;
+    for (const Oceneni& award : AwardsByName()) {
+        MenuEntry& entry = menu.emplace_back();
+        entry.number = award.ID;
+        entry.text = award.Nazev;
+        entry.checked = CountAwardOfDog(psiID, award.ID) > 0;
+    }
+    return menu;
+}
+
+} // namespace
+
+fm_DogsList::fm_DogsList(QWidget* parent)
+    : Form("fm_DogsList", u"Seznam psů"_s, Border::Sizable, parent),
+      commands_(new CommandCollection(u"cmdBar"_s, {u"DOGLIST"_s}, this)),
+      lvwList(new ReportList("lvwList", Headings(), this)), sbDogs(new TotalsBar("sbDogs", this)) {
+    lvwList->setAccessibleName(windowTitle());
+    lvwList->SetColumnWidths({180, 60, 150, 150, 100, 120, 70, 80, 130, 80, 130, 90, 90});
+    lvwList->AlignRight({kPrice, kCompetitionFees, kPaid, kBalance});
+    lvwList->SetSorting(true);
+    LayOut();
+    connect(commands_, &CommandCollection::CommandClick, this, [this] {
+        frmDogListFilter filter(this);
+        OpenModal(filter);
+    });
+    connect(lvwList, &ReportList::DoubleClick, this, &fm_DogsList::JumpToDog);
+    connect(lvwList, &ReportList::RightClick, this, &fm_DogsList::ShowAwardsMenu);
+}
+
+void fm_DogsList::LayOut() {
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(commands_->MakeBar(u"DOGLIST"_s, this));
+    column->addWidget(lvwList);
+    column->addWidget(sbDogs);
+    resize(1200, 600);
+    lvwList->setFocus();
+}
+
+void fm_DogsList::Load() {
+    const WaitCursor wait(*ThePlatform().ui);
+    Module().ListJumpedToDog = false;
+    FillList();
+    sbDogs->SetPanel(1, DogCountsLine(CountMales(), CountFemales()));
+}
+
+void fm_DogsList::FillList() {
+    const ReadRun run(TheDataModule().Conn1);
+    const std::vector<DogListRow> dogs = DogsWithOwnersByName();
+    const DogListTables tables;
+    std::vector<ReportRow> rows;
+    rows.reserve(dogs.size());
+    Currency fees;
+    Currency paid;
+    for (const DogListRow& dog : dogs) {
+        const DogListFigures figures = tables.Of(dog);
+        fees += figures.fees;
+        paid += figures.paid;
+        rows.push_back(RowOf(dog, figures));
+    }
+    lvwList->SetRows(std::move(rows));
+    sbDogs->SetPanel(2, TotalsLine(fees, paid));
+}
+
+void fm_DogsList::JumpToDog(int position) {
+    const QString node = lvwList->Row(position).key;
+    // A breed that is not in use has its dogs here and no place in the tree.
+    if (!TheMainWindow().NodeExists(node))
+        return;
+    Module().ListJumpedToDog = true;
+    TheMainWindow().SelectNode(node);
+    accept();
+}
+
+void fm_DogsList::ShowAwardsMenu(int position) {
+    if (position < 0)
+        return;
+    const std::vector<MenuEntry> menu = AwardsMenu(lvwList->Row(position).tag.toInt());
+    if (menu.empty())
+        return;
+    if (const int chosen = ThePlatform().menus->TrackPopup(menu))
+        ToggleAward(position, chosen);
+}
+
+void fm_DogsList::ToggleAward(int position, int oceneniID) {
+    const int psiID = lvwList->Row(position).tag.toInt();
+    if (CountAwardOfDog(psiID, oceneniID) > 0)
+        DeleteAwardOfDog(psiID, oceneniID);
+    else
+        AddAwardsToDog(psiID, {oceneniID});
+    lvwList->SetCell(position, kAwards, AwardsText(AwardNamesOfDog(psiID)));
+}
+
+} // namespace lorvo

@@ -1,0 +1,33 @@
+#include "mainwindow/tree_search.h"
+
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "mainwindow/node_search.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+
+namespace lorvo {
+
+namespace {
+
+/// Null when nothing fits, or when the text can't be searched for.
+const TreeNode* NextMatch(const TreeNodes& nodes) {
+    try {
+        return FindByText(nodes, Module().FindText, Module().FindStart);
+    } catch (const Error& error) {
+        ThePlatform().messages->Show(QString::fromUtf8(error.what()), MessageIcon::Exclamation,
+                                     MessageButtons::Ok, QStringLiteral("Hledat text"));
+        return nullptr;
+    }
+}
+
+} // namespace
+
+bool SelectNextMatch(MainWindowServices& mainWindow) {
+    const TreeNode* match = NextMatch(mainWindow.Nodes());
+    if (match)
+        mainWindow.SelectNode(match->Key());
+    return match != nullptr;
+}
+
+} // namespace lorvo

@@ -1,0 +1,153 @@
+// Searching in the whole main window: the search window, F3 and Home.
+#include "mainwindow/shell_fixture.h"
+#include "platform/values/errors.h"
+#include "support/modal_driver.h"
+#include "support/window_walk.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace lorvo {
+namespace {
+
+using test::WhileOpen;
+
+/// In the tree's order: K0, K1, R10 Pudl, P100 Alík, P101 Brok, R11 Vipet, P102 12 Šárka.
+class frmFindTest : public Shell {
+  protected:
+    frmFindTest() {
+        AddSmallShow();
+        AddDog(102, "Šárka", 11);
+        database_.Execute("UPDATE Psi SET Cislo = 12 WHERE ID = 102");
+    }
+
+    /// Opens the window over the tree by Ctrl+F and lets `inside` work in it.
+    void Search(const std::function<void(QWidget&)>& inside) {
+        if (!window_)
+            Start();
+        Tree().setFocus();
+        WhileOpen([this] { QTest::keyClick(&Tree(), Qt::Key_F, Qt::ControlModifier); }, inside);
+    }
+    static QLineEdit& Box(QWidget& window) { return test::Control<QLineEdit>(window, "txtFind"); }
+    static QPushButton& Button(QWidget& window) {
+        return test::Control<QPushButton>(window, "cdmOK");
+    }
+    /// Types the text, presses the button that often and returns the nodes selected meanwhile.
+    QStringList Find(QWidget& window, const QString& text, int times = 1) {
+        Box(window).setText(text);
+        QStringList found;
+        for (; times > 0; --times) {
+            Button(window).click();
+            found << window_->SelectedNode();
+        }
+        return found;
+    }
+};
+
+TEST_F(frmFindTest, EveryControlHasItsNameItsCaptionAndItsPlace) {
+    Search([](QWidget& window) {
+        EXPECT_EQ(window.windowTitle(), u"Hledat text"_qs);
+        EXPECT_TRUE(Button(window).isDefault());
+        test::WalkWindow(window);
+    });
+}
+
+TEST_F(frmFindTest, GoesFromMatchToMatchAndShowsTheLastOneOnReturn) {
+    Search([this](QWidget& window) {
+        EXPECT_EQ(Button(window).text(), u"Hledat"_qs);
+        EXPECT_EQ(Find(window, u"K"_qs), QStringList{u"P100"_qs});
+        EXPECT_EQ(Button(window).text(), u"Další"_qs);
+        EXPECT_EQ(Find(window, u"K"_qs, 2), (QStringList{u"P101"_qs, u"P102"_qs}));
+        test::Control<QPushButton>(window, "cmdCancel").click();
+        EXPECT_FALSE(window.isVisible());
+    });
+    EXPECT_TRUE(Title().startsWith(u"Šárka"_qs)) << Title().toStdString();
+}
+
+TEST_F(frmFindTest, PastTheLastMatchNothingHappensUntilTheWindowIsOpenedAgain) {
+    Search([this](QWidget& window) {
+        EXPECT_EQ(Find(window, u"brok"_qs, 3), (QStringList{u"P101"_qs, u"P101"_qs, u"P101"_qs}));
+        EXPECT_EQ(Find(window, u"alík"_qs), QStringList{u"P101"_qs});
+        EXPECT_TRUE(window.isVisible());
+    });
+    Search([this](QWidget& window) {
+        EXPECT_EQ(Box(window).text(), QString());
+        EXPECT_EQ(Find(window, u"alík"_qs), QStringList{u"P100"_qs});
+    });
+}
+
+TEST_F(frmFindTest, NothingFoundKeepsSelectionAndCaption) {
+    Search([this](QWidget& window) {
+        EXPECT_EQ(Find(window, u"kruh"_qs), QStringList{QString()});
+        EXPECT_EQ(Button(window).text(), u"Hledat"_qs);
+        EXPECT_EQ(Find(window, u"12"_qs), QStringList{u"P102"_qs});
+    });
+}
+
+TEST_F(frmFindTest, AnEmptyTextKeepsWhatWasSearchedLast) {
+    Module().FindText = u"brok"_qs;
+    Search([this](QWidget& window) {
+        EXPECT_EQ(Find(window, QString()), QStringList{QString()});
+        EXPECT_TRUE(window.isVisible());
+    });
+    EXPECT_EQ(Module().FindText, u"brok"_qs);
+}
+
+TEST_F(frmFindTest, TheTextIsAPattern) {
+    Search([this](QWidget& window) {
+        EXPECT_EQ(Find(window, u"[bv]?[op]"_qs, 2), (QStringList{u"P101"_qs, u"R11"_qs}));
+    });
+}
+
+TEST_F(frmFindTest, ATextThatIsNoPatternIsToldAndTheWindowStays) {
+    const QString told = u"Neplatný vzor hledání: k závorce „[“ chybí „]“."_qs;
+    const auto expect = [&] {
+        platform_.ExpectMessage(told, MessageAnswer::Ok, MessageIcon::Exclamation,
+                                MessageButtons::Ok, u"Hledat text"_qs);
+    };
+    Search([&](QWidget& window) {
+        expect();
+        EXPECT_EQ(Find(window, u"["_qs), QStringList{QString()});
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(Button(window).text(), u"Hledat"_qs);
+    });
+    expect();
+    QTest::keyClick(&Tree(), Qt::Key_F3);
+    EXPECT_EQ(window_->SelectedNode(), QString());
+}
+
+TEST_F(frmFindTest, F3GoesOnWhereTheWindowStoppedAndHomeBeginsAnew) {
+    Search([this](QWidget& window) { Find(window, u"k"_qs); });
+    QStringList found;
+    for (int times = 0; times < 3; ++times) {
+        QTest::keyClick(&Tree(), Qt::Key_F3);
+        found << window_->SelectedNode();
+    }
+    EXPECT_EQ(found, (QStringList{u"P101"_qs, u"P102"_qs, u"P102"_qs}));
+    QTest::keyClick(&Tree(), Qt::Key_Home);
+    QTest::keyClick(&Tree(), Qt::Key_F3);
+    EXPECT_EQ(window_->SelectedNode(), u"P100"_qs);
+}
+
+TEST_F(frmFindTest, F3WithoutATextOpensTheWindow) {
+    Start();
+    WhileOpen([this] { QTest::keyClick(&Tree(), Qt::Key_F3); },
+              [](QWidget& window) { EXPECT_EQ(window.objectName(), u"frmFind"_qs); });
+}
+
+TEST_F(frmFindTest, AStepBackToARemovedNodeFailsByItsName) {
+    Start();
+    window_->ShowNodeInfo(u"P100"_qs);
+    window_->ShowNodeInfo(u"P101"_qs);
+    Tree().Nodes().Remove(&Tree().Nodes().Get(u"P100"_qs));
+    try {
+        Control<QPushButton>(u"cmdHistoryBack"_qs).click();
+        FAIL() << "a node was shown that is gone";
+    } catch (const Error& error) {
+        EXPECT_NE(std::string(error.what()).find("P100"), std::string::npos) << error.what();
+    }
+}
+
+} // namespace
+} // namespace lorvo
