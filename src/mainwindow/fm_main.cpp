@@ -26,7 +26,7 @@ namespace lorvo {
 namespace {
 
 /// Shows a dog's panel whole where the screen is high enough.
-constexpr QSize kDesignedSize(1120, 830);
+constexpr QSize kDesignedSize(1180, 830);
 /// Title and edges that a desktop draws around a window.
 constexpr QSize kFrame(16, 40);
 constexpr int kDesignedTreeWidth = 340;
@@ -82,6 +82,7 @@ void fm_main::MakeAboutPanel() {
     picAbout = new AboutPanel(picDetails);
     picDetails->AddPanel(picAbout);
     connect(picAbout, &AboutPanel::MailAddressShown, sbMain, [this](const QString& address) {
+        sbMain->Clear();
         sbMain->SetPanel(1, address);
         sbMain->SetPanelVisible(1, true);
     });

@@ -42,7 +42,8 @@ OwnerPanel::OwnerPanel(QWidget* parent)
     setObjectName(QStringLiteral("picMajitelInfo"));
     lvwDogs->setAccessibleName(QStringLiteral("Psi vystavovatele"));
     lvwDogs->SetLabelEdit(false);
-    lvwDogs->SetColumnWidths({120, 110, 66, 66, 110, 70, 70, 74, 140});
+    lvwDogs->AlignRight({5, 6, 7});
+    lvwDogs->SetColumnWidths({110, 112, 64, 64, 124, 72, 68, 76, 104});
 
     auto* top = new QHBoxLayout;
     top->addWidget(PanelHeading(QStringLiteral("Detailní informace o vystavovateli"), this));

@@ -45,9 +45,13 @@ TEST_F(ShellAbout, ThePictureStandsInTheMiddle) {
 }
 
 TEST_F(ShellAbout, TheAuthorsNameShowsTheAddressInTheStatusBar) {
-    ShowAbout();
+    AddSmallShow();
+    Start();
+    window_->ShowNodeInfo(u"R10"_qs);
+    Control<QAction>(u"HELP:ABOUT"_qs).trigger();
     MouseOver(u"lbl_Mailto"_qs);
     EXPECT_EQ(Status(1), u"lorvo@hollowpeak.example"_qs);
+    EXPECT_EQ(Status(2), QString());
     EXPECT_TRUE(Control<QLabel>(u"sbMain(1)"_qs).isVisible());
     EXPECT_TRUE(Control<QLabel>(u"lbl_Mailto"_qs).font().underline());
     MouseOver(u"Label9"_qs);
