@@ -83,7 +83,7 @@ fm_DogsList::fm_DogsList(QWidget* parent)
       commands_(new CommandCollection(u"cmdBar"_s, {u"DOGLIST"_s}, this)),
       lvwList(new ReportList("lvwList", Headings(), this)), sbDogs(new TotalsBar("sbDogs", this)) {
     lvwList->setAccessibleName(windowTitle());
-    lvwList->SetColumnWidths({180, 60, 150, 150, 100, 120, 70, 80, 130, 80, 130, 90, 90});
+    lvwList->SetColumnWidths({180, 60, 110, 150, 90, 110, 70, 70, 120, 70, 80, 75, 80});
     lvwList->AlignRight({kPrice, kCompetitionFees, kPaid, kBalance});
     lvwList->SetSorting(true);
     LayOut();
@@ -100,7 +100,7 @@ void fm_DogsList::LayOut() {
     column->addWidget(commands_->MakeBar(u"DOGLIST"_s, this));
     column->addWidget(lvwList);
     column->addWidget(sbDogs);
-    resize(1200, 600);
+    resize(1310, 620);
     lvwList->setFocus();
 }
 
