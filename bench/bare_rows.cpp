@@ -41,6 +41,8 @@ constexpr const char* kCardStatements[] = {
     "DESC",
 };
 
+} // namespace
+
 void ReadToEnd(sqlite3_stmt* statement) {
     while (sqlite3_step(statement) == SQLITE_ROW) {
         for (int column = 0; column < sqlite3_column_count(statement); ++column)
@@ -48,8 +50,6 @@ void ReadToEnd(sqlite3_stmt* statement) {
     }
     sqlite3_reset(statement);
 }
-
-} // namespace
 
 BareDatabase::BareDatabase(const QString& path) {
     if (sqlite3_open(path.toUtf8().constData(), &database_) != SQLITE_OK)

@@ -23,6 +23,9 @@ class BareDatabase {
     std::vector<sqlite3_stmt*> statements_;
 };
 
+/// Fetches every cell of every row.
+void ReadToEnd(sqlite3_stmt* statement);
+
 struct BareDog {
     int ID;
     int PlemenoID;

@@ -46,7 +46,7 @@ QString PercentText(int part, int whole) {
 }
 
 QString PostCodeText(int psc) {
-    return Formatted("000 00", static_cast<double>(psc));
+    return Formatted("000 00", Currency::FromUnits(psc));
 }
 
 } // namespace lorvo

@@ -10,9 +10,9 @@
 namespace lorvo {
 
 ExhibitorTables::ExhibitorTables()
-    : showsByDog_(ShowsByDog()), competitionsByDog_(CompetitionsByDog()), paidByDog_(PaidByDog()) {
-    for (const DogFeeRow& dog : DogFeeRows())
-        dogsByOwner_[dog.MajitelID].push_back(dog);
+    : dogs_(DogFeeRows()), showsByDog_(ShowsByDog()), competitionsByDog_(CompetitionsByDog()),
+      paidByDog_(PaidByDog()) {
+    std::ranges::stable_sort(dogs_, {}, &DogFeeRow::MajitelID);
     for (const Souteze& competition : Competitions())
         prices_.emplace(competition.ID, competition.Cena.value_or(Currency()));
     for (auto& [psiID, competitions] : competitionsByDog_) {
@@ -24,9 +24,9 @@ ExhibitorTables::ExhibitorTables()
 
 ExhibitorFigures ExhibitorTables::Of(int majitelID) const {
     ExhibitorFigures figures;
-    if (const auto dogs = dogsByOwner_.find(majitelID); dogs != dogsByOwner_.end())
-        for (const DogFeeRow& dog : dogs->second)
-            AddDog(dog, figures);
+    for (const DogFeeRow& dog :
+         std::ranges::equal_range(dogs_, majitelID, {}, &DogFeeRow::MajitelID))
+        AddDog(dog, figures);
     return figures;
 }
 

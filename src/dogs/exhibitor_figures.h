@@ -33,7 +33,7 @@ class ExhibitorTables {
     Currency CompetitionFees(int psiID) const;
 
     FeeTables fees_;
-    std::unordered_map<int, std::vector<DogFeeRow>> dogsByOwner_;
+    std::vector<DogFeeRow> dogs_; ///< by owner, and those of one owner by their IDs
     std::unordered_map<int, std::vector<int>> showsByDog_;
     std::unordered_map<int, std::vector<int>> competitionsByDog_;
     std::unordered_map<int, Currency> paidByDog_;

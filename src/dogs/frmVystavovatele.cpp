@@ -103,7 +103,7 @@ frmVystavovatele::frmVystavovatele(QWidget* parent)
                          this)),
       sb(new TotalsBar("sb", this)), Label1(Named(new QLabel(u"Pracuji..."_s, this), u"Label1"_s)),
       pbMain(Named(new QProgressBar(this), u"pbMain"_s)) {
-    lvwList->SetColumnWidths({150, 140, 110, 60, 60, 100, 150, 50, 120, 110, 110});
+    lvwList->SetColumnWidths({130, 150, 130, 60, 80, 125, 190, 50, 120, 110, 110});
     lvwList->AlignRight({kDogs, kFees, kPaid, kBalance});
     lvwList->SetSorting(true);
     LayOut();
@@ -119,7 +119,7 @@ void frmVystavovatele::LayOut() {
     column->addWidget(pbMain);
     column->addLayout(ButtonRow({cmdCancel}));
     column->addWidget(sb);
-    resize(1210, 600);
+    resize(1300, 620);
     lvwList->setFocus();
 }
 

@@ -56,7 +56,7 @@ frmPrehledPlateb::frmPrehledPlateb(QWidget* parent)
                          {u"Jméno"_s, u"Jméno psa"_s, u"Datum"_s, u"Částka v Kč"_s, u"Vytištěno"_s,
                           u"Způsob úhrady"_s, u"Číslo účtu"_s, u"Částka"_s, u"Měna"_s},
                          this)) {
-    lvwUhrady->SetColumnWidths({220, 130, 130, 110, 80, 110, 130, 80, 60});
+    lvwUhrady->SetColumnWidths({230, 120, 150, 110, 80, 110, 140, 80, 60});
     lvwUhrady->AlignRight({kAmountColumn, kPaidColumn});
     lvwUhrady->SetIcons({ProgramIcon(u"payment"_s), ProgramIcon(u"blank"_s),
                          ProgramIcon(u"not-printed"_s), ProgramIcon(u"printed"_s)});
@@ -65,7 +65,7 @@ frmPrehledPlateb::frmPrehledPlateb(QWidget* parent)
     connect(lvwUhrady, &ReportList::RightClick, this, &frmPrehledPlateb::ShowMenu);
     auto* column = new QVBoxLayout(this);
     column->addWidget(lvwUhrady);
-    resize(1100, 560);
+    resize(1150, 560);
 }
 
 void frmPrehledPlateb::Load() {

@@ -46,7 +46,7 @@ frmUhrady::frmUhrady(QWidget* parent)
       lvwUhrady(new ReportList(
           "lvwUhrady",
           {u"Částka"_s, u"Datum"_s, u"Částka v Kč"_s, u"Způsob úhrady"_s, u"Číslo účtu"_s}, this)) {
-    lvwUhrady->SetColumnWidths({110, 150, 120, 110, 160});
+    lvwUhrady->SetColumnWidths({110, 150, 120, 110, 150});
     lvwUhrady->AlignRight({kMainCurrencyColumn});
     lvwUhrady->SetIcons({ProgramIcon(u"payment"_s)});
     connect(lvwUhrady, &ReportList::DeletePressed, this, &frmUhrady::DeleteSelected);
@@ -68,7 +68,7 @@ void frmUhrady::LayOut() {
     column->addWidget(price);
     column->addLayout(ButtonRow({cmdPlatba, cmdDelete, cmdClose}));
     setMinimumSize(420, 240);
-    resize(720, 380);
+    resize(790, 380);
     lvwUhrady->setFocus();
 }
 

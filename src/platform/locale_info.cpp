@@ -19,6 +19,16 @@ QString DatePatternOf(const QLocale& locale) {
     return pattern;
 }
 
+// Long lists hold a date in every row, and the toolkit's own patterns take their time.
+
+QString CzechDate(DateValue value) {
+    return QString::asprintf("%d.%d.%04d", value.Day(), value.Month(), value.Year());
+}
+
+QString TimeText(DateValue value) {
+    return QString::asprintf("%d:%02d:%02d", value.Hour(), value.Minute(), value.Second());
+}
+
 /// Reads a number from the left, drops the grouping and writes it in plain form.
 class NumberReader {
   public:
@@ -77,10 +87,10 @@ class QtLocaleInfo final : public LocaleInfo {
     QString DateText(DateValue value) const override {
         if (value.SecondOfDay() == 0)
             return ShortDate(value);
-        return ShortDate(value) + u' ' + locale_.toString(ToQDateTime(value).time(), u"H:mm:ss"_qs);
+        return ShortDate(value) + u' ' + TimeText(value);
     }
     QString ShortDate(DateValue value) const override {
-        return locale_.toString(ToQDate(value), datePattern_);
+        return IsCzech(locale_) ? CzechDate(value) : locale_.toString(ToQDate(value), datePattern_);
     }
     QString ShortDatePattern() const override { return datePattern_; }
     std::optional<QString> PlainNumber(const QString& text) const override {

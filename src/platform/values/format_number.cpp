@@ -34,13 +34,14 @@ Decimal FromDigits(bool negative, std::string digits, std::ptrdiff_t pointAt) {
 }
 
 Decimal ToDecimal(Currency value) {
-    const std::string text = value.ToPlainText('.');
-    const bool negative = text.front() == '-';
-    const std::string size = text.substr(negative ? 1 : 0);
-    const std::size_t point = std::min(size.find('.'), size.size());
-    std::string digits = size;
-    std::erase(digits, '.');
-    return FromDigits(negative, std::move(digits), static_cast<std::ptrdiff_t>(point));
+    const std::int64_t raw = value.Raw();
+    const std::uint64_t size =
+        raw < 0 ? 0 - static_cast<std::uint64_t>(raw) : static_cast<std::uint64_t>(raw);
+    Decimal number{raw < 0, {}, std::to_string(Currency::kScale + size % Currency::kScale)};
+    number.decimals.erase(0, 1);
+    if (size >= Currency::kScale)
+        number.whole = std::to_string(size / Currency::kScale);
+    return number;
 }
 
 /// Fifteen digits: what of a double is certain, so that 0.285 is a half that rounds up.
@@ -57,6 +58,8 @@ Decimal ToDecimal(double value) {
 }
 
 void ShiftLeft(Decimal& number, std::size_t places) {
+    if (places == 0)
+        return;
     number.decimals.append(places, '0');
     const auto point = static_cast<std::ptrdiff_t>(number.whole.size() + places);
     number = FromDigits(number.negative, number.whole + number.decimals, point);
@@ -69,8 +72,12 @@ void RoundTo(Decimal& number, std::size_t decimals) {
         return;
     }
     const bool up = number.decimals[decimals] >= '5';
+    if (!up) {
+        number.decimals.resize(decimals);
+        return;
+    }
     std::string digits = '0' + number.whole + number.decimals.substr(0, decimals);
-    for (std::size_t i = digits.size(); up && i-- > 0;) {
+    for (std::size_t i = digits.size(); i-- > 0;) {
         if (digits[i] != '9') {
             ++digits[i];
             break;

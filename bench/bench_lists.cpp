@@ -1,0 +1,154 @@
+// The long lists of exhibitors and payments, filled and sorted, beside their statements alone; and
+// a payment stored with its edit on disk.
+//   QT_QPA_PLATFORM=offscreen bench_lists [--benchmark_filter=...]
+
+#include "bare_rows.h"
+#include "bench_shows.h"
+#include "dogs/frmVystavovatele.h"
+#include "forms/application.h"
+#include "forms/report_list.h"
+#include "pair_table.h"
+#include "payments/frmPrehledPlateb.h"
+#include "platform/desktop/desktop_services.h"
+#include "platform/platform.h"
+#include "store/uhrady.h"
+
+#include <QElapsedTimer>
+
+namespace {
+
+using namespace lorvo;
+using namespace lorvo::bench;
+
+constexpr const char* kExhibitorStatements[] = {
+    "SELECT * FROM Majitele ORDER BY czech_key(Jmeno), ID",
+    "SELECT * FROM Vystavy",
+    "SELECT PesID, VystavaID FROM PsiVeVystavach",
+    "SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze",
+    "SELECT ID_Psa, Kc FROM Uhrady",
+    "SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi",
+    "SELECT * FROM Souteze",
+};
+
+constexpr const char* kPaymentStatements[] = {
+    "SELECT * FROM Meny",
+    "SELECT Uhrady.ID, Uhrady.ID_Psa, Uhrady.Printed, Uhrady.Castka, Uhrady.Ucet, Uhrady.Mena, "
+    "Uhrady.Datum, Uhrady.Kc, Uhrady.Uhrada, Psi.Jmeno, Psi.MajitelID, Majitele.Prijmeni || ' ' || "
+    "Majitele.Jmeno || ', ' || Majitele.Mesto FROM Uhrady, Psi, Majitele WHERE "
+    "Uhrady.ID_Psa = Psi.ID AND Psi.MajitelID = Majitele.ID ORDER BY MajitelID, Uhrady.ID",
+};
+
+/// Opens a window, which is filled by that, and runs `filled` in place of showing it.
+template<class Window> class Filled : public Window {
+  public:
+    explicit Filled(std::function<void(Filled&)> filled)
+        : Window(nullptr), filled_(std::move(filled)) {}
+    void Activated() override {
+        filled_(*this);
+        this->reject();
+    }
+
+  private:
+    std::function<void(Filled&)> filled_;
+};
+
+void UseShowOnDesk(const char* size) {
+    UseShow(size);
+    ThePlatform().messages = std::make_unique<DesktopMessageBoxes>();
+    ThePlatform().menus = std::make_unique<DesktopPopupMenus>();
+    ThePlatform().ui = std::make_unique<DesktopUserInterface>();
+}
+
+template<class Window> void Fill(benchmark::State& state, const char* size) {
+    UseShowOnDesk(size);
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        Filled<Window> window([&](auto&) {
+            state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) / 1e9);
+        });
+        OpenModal(window);
+    }
+}
+
+template<class Statements>
+void BareFill(benchmark::State& state, const char* size, const Statements& texts) {
+    UseShow(size);
+    BareDatabase database(ShowFolder(size) + QStringLiteral("/data.mdb"));
+    std::vector<sqlite3_stmt*> statements;
+    for (const char* text : texts)
+        statements.push_back(database.Prepare(text));
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        for (sqlite3_stmt* statement : statements)
+            ReadToEnd(statement);
+        state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) / 1e9);
+    }
+}
+
+/// Sorts by one column after the other.
+template<class Window> void Sort(benchmark::State& state, const char* size) {
+    UseShowOnDesk(size);
+    Filled<Window> window([&](Window& filled) {
+        auto& list = *filled.template findChild<ReportList*>();
+        int column = 0;
+        for (auto _ : state) {
+            QElapsedTimer timer;
+            timer.start();
+            SortListColumn(list, column++ % list.ColumnCount());
+            state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) / 1e9);
+        }
+    });
+    OpenModal(window);
+}
+
+void StorePayment(benchmark::State& state, const char* size) {
+    UseShow(size);
+    Uhrady payment;
+    payment.ID_Psa = 1;
+    payment.Datum = ThePlatform().clock->Now();
+    payment.Castka = payment.Kc = Currency::FromUnits(500);
+    payment.Mena = 1;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        const int ID = InsertPayment(payment);
+        state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) / 1e9);
+        DeletePayment(ID);
+    }
+}
+
+void Add(const std::string& name, const std::string& size, const char* side,
+         const std::function<void(benchmark::State&)>& run) {
+    benchmark::RegisterBenchmark((name + "/" + size + "/" + side).c_str(), run)
+        ->Unit(benchmark::kMillisecond)
+        ->UseManualTime()
+        ->Iterations(20);
+}
+
+void Register(const char* size) {
+    Add("exhibitor list filled", size, "program",
+        [size](benchmark::State& state) { Fill<frmVystavovatele>(state, size); });
+    Add("exhibitor list filled", size, "bare",
+        [size](benchmark::State& state) { BareFill(state, size, kExhibitorStatements); });
+    Add("payments filled", size, "program",
+        [size](benchmark::State& state) { Fill<frmPrehledPlateb>(state, size); });
+    Add("payments filled", size, "bare",
+        [size](benchmark::State& state) { BareFill(state, size, kPaymentStatements); });
+    Add("exhibitor list sorted", size, "program",
+        [size](benchmark::State& state) { Sort<frmVystavovatele>(state, size); });
+    Add("payments sorted", size, "program",
+        [size](benchmark::State& state) { Sort<frmPrehledPlateb>(state, size); });
+    Add("a payment stored", size, "program",
+        [size](benchmark::State& state) { StorePayment(state, size); });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const Application application(argc, argv);
+    for (const char* size : kSizes)
+        Register(size);
+    return RunAndPrint(argc, argv);
+}
