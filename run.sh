@@ -35,7 +35,7 @@ xvfb-run -a -s '-screen 0 1280x800x24' bash -c '
   xdotool windowmove "$window" 0 0 windowsize "$window" 1280 800
   sleep 1
   scrot --overwrite "$2"
-  xdotool windowclose "$window" || true
+  kill $program
   wait $program || true
 ' bash "$folder" "$picture"
 echo "Picture of the main window: $picture"

@@ -5,6 +5,7 @@
 #include "forms/controls.h"
 #include "mainwindow/fm_main.h"
 #include "platform/desktop/desktop_services.h"
+#include "platform/desktop/termination.h"
 #include "platform/docx/docx_word_processor.h"
 #include "platform/platform.h"
 #include "platform/real_services.h"
@@ -45,6 +46,7 @@ int main(int argc, char** argv) {
     QTranslator toolkitTexts;
     SpeakCzech(toolkitTexts);
     InstallPlatform(lorvo::ThePlatform());
+    lorvo::CloseOnTermination();
     lorvo::Application::setWindowIcon(lorvo::ProgramIcon(QStringLiteral("lorvo")));
 
     std::unique_ptr<lorvo::fm_main> mainWindow;
