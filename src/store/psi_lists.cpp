@@ -7,33 +7,8 @@ namespace lorvo {
 
 namespace {
 
-constexpr const char* kWithOwners =
-    "SELECT Majitele.Jmeno AS JmenoMajitele, Majitele.ID AS IDMajitele, Psi.ID AS IDPsa, "
-    "Psi.Jmeno, Psi.ChovnaStanice, Psi.Trida, Psi.PrvniPes, Psi.PlemenoID, Psi.PohlaviPes, "
-    "Psi.MajitelID, Psi.Poznamka, Psi.PrvniUzaverka, Plemena.ID AS IDPlemene, "
-    "Plemena.Nazev AS NazevPlemene , Plemena.NazevOrig From Psi, Plemena, Majitele "
-    "WHERE (Psi!PlemenoID = Plemena!ID) AND (Majitele!ID=Psi!MajitelID) ORDER BY Psi.Jmeno";
-
 RecordSet& Table() {
     return TheDataModule().rsPsi;
-}
-
-DogListRow ReadDogListRow(const Query& row) {
-    DogListRow dog;
-    dog.JmenoMajitele = row.Text(0);
-    dog.IDPsa = row.Int(2);
-    dog.Jmeno = row.Text(3);
-    dog.ChovnaStanice = row.Text(4);
-    dog.Trida = row.Int(5);
-    dog.PrvniPes = row.Bool(6);
-    dog.PlemenoID = row.Int(7);
-    dog.PohlaviPes = row.Bool(8);
-    dog.MajitelID = row.Int(9);
-    dog.Poznamka = row.Text(10);
-    dog.PrvniUzaverka = row.Bool(11);
-    dog.NazevPlemene = row.Text(13);
-    dog.NazevOrig = row.Text(14);
-    return dog;
 }
 
 DogFeeRow ReadDogFeeRow(const Query& row) {
@@ -45,10 +20,6 @@ int CountWhere(const std::string& condition) {
 }
 
 } // namespace
-
-std::vector<DogListRow> DogsWithOwnersByName() {
-    return ReadMany(kWithOwners, ReadDogListRow);
-}
 
 std::vector<DogFeeRow> DogFeeRows() {
     return ReadMany("SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi", ReadDogFeeRow);
