@@ -17,6 +17,7 @@
 
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <unordered_map>
 
 namespace lorvo {
 
@@ -41,12 +42,22 @@ std::optional<QColor> BalanceColour(Currency balance) {
     return balance.IsNegative() ? kArrearsColour : kOverpaidColour;
 }
 
-/// An amount as these cells show it: no fixed decimals.
-QString Price(Currency amount) {
-    return PlainAmount(amount) + u' ' + Module().MainCurrency;
-}
+/// Amounts as these cells show them: no fixed decimals. A show has few different ones, and all
+/// cells of one amount share its text.
+class Prices {
+  public:
+    const QString& Text(Currency amount) {
+        QString& text = texts_[amount.Raw()];
+        if (text.isNull())
+            text = PlainAmount(amount) + u' ' + Module().MainCurrency;
+        return text;
+    }
 
-ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures) {
+  private:
+    std::unordered_map<std::int64_t, QString> texts_;
+};
+
+ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures, Prices& prices) {
     const QString id = QString::number(dog.IDPsa);
     return {u'P' + id,
             id,
@@ -57,12 +68,12 @@ ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures) {
              {dog.Poznamka},
              {figures.shows},
              {dog.PrvniUzaverka ? u"I"_s : u"II"_s},
-             {figures.lastFee ? Price(*figures.lastFee) : QString()},
+             {figures.lastFee ? prices.Text(*figures.lastFee) : QString()},
              {figures.competitions},
-             {Price(figures.competitionFees)},
+             {prices.Text(figures.competitionFees)},
              {figures.awards},
-             {Price(figures.paid)},
-             {Price(figures.Balance()), BalanceColour(figures.Balance())}}};
+             {prices.Text(figures.paid)},
+             {prices.Text(figures.Balance()), BalanceColour(figures.Balance())}}};
 }
 
 std::vector<MenuEntry> AwardsMenu(int psiID) {
@@ -119,11 +130,12 @@ void fm_DogsList::FillList() {
     rows.reserve(dogs.size());
     Currency fees;
     Currency paid;
+    Prices prices;
     for (const DogListRow& dog : dogs) {
         const DogListFigures figures = tables.Of(dog);
         fees += figures.fees;
         paid += figures.paid;
-        rows.push_back(RowOf(dog, figures));
+        rows.push_back(RowOf(dog, figures, prices));
     }
     lvwList->SetRows(std::move(rows));
     sbDogs->SetPanel(2, TotalsLine(fees, paid));
