@@ -11,7 +11,15 @@
 #include "payments/frmPrehledPlateb.h"
 #include "payments/frmUhrady.h"
 #include "platform/values/errors.h"
+#include "reports/fmDiplom.h"
+#include "reports/frmJmenoRozhodciho.h"
+#include "reports/frmPrehledPlemen.h"
 #include "reports/frmTiskKatalog.h"
+#include "reports/frmTiskPlateb.h"
+#include "reports/frmTiskPosudku.h"
+#include "reports/frmTiskPozvanek.h"
+#include "reports/frmTiskSeznamVystavovatelu.h"
+#include "reports/frmTiskSeznamuPsu.h"
 #include "setup/fm_Colors.h"
 #include "setup/fm_Plemena.h"
 #include "setup/fm_Settings.h"
@@ -37,6 +45,7 @@ template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
 std::map<QString, WindowFactory>& Windows() {
     static std::map<QString, WindowFactory> windows{
         {QStringLiteral("fm_Colors"), Make<fm_Colors>},
+        {QStringLiteral("fmDiplom"), Make<fmDiplom>},
         {QStringLiteral("fm_Dog"), Make<fm_Dog>},
         {QStringLiteral("fm_DogsList"), Make<fm_DogsList>},
         {QStringLiteral("fm_Plemena"), Make<fm_Plemena>},
@@ -44,12 +53,19 @@ std::map<QString, WindowFactory>& Windows() {
         {QStringLiteral("fm_Souteze"), Make<fm_Souteze>},
         {QStringLiteral("frmEditMan"), Make<frmEditMan>},
         {QStringLiteral("frmFind"), Make<frmFind>},
+        {QStringLiteral("frmJmenoRozhodciho"), Make<frmJmenoRozhodciho>},
         {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
         {QStringLiteral("frmOceneni"), Make<frmOceneni>},
         {QStringLiteral("frmParents"), Make<frmParents>},
         {QStringLiteral("frmPlatba"), Make<frmPlatba>},
         {QStringLiteral("frmPrehledPlateb"), Make<frmPrehledPlateb>},
+        {QStringLiteral("frmPrehledPlemen"), Make<frmPrehledPlemen>},
         {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
+        {QStringLiteral("frmTiskPlateb"), Make<frmTiskPlateb>},
+        {QStringLiteral("frmTiskPosudku"), Make<frmTiskPosudku>},
+        {QStringLiteral("frmTiskPozvanek"), Make<frmTiskPozvanek>},
+        {QStringLiteral("frmTiskSeznamuPsu"), Make<frmTiskSeznamuPsu>},
+        {QStringLiteral("frmTiskSeznamVystavovatelu"), Make<frmTiskSeznamVystavovatelu>},
         {QStringLiteral("frmUhrady"), Make<frmUhrady>},
         {QStringLiteral("frmVystavovatele"), Make<frmVystavovatele>},
         {QStringLiteral("frmVystavy"), Make<frmVystavy>},

@@ -1,6 +1,6 @@
 #include "reports/catalogue.h"
 
-#include "platform/word_processor.h"
+#include "reports/document_typing.h"
 #include "reports/report_texts.h"
 #include "store/data_module.h"
 #include "store/kruhy.h"
@@ -65,7 +65,6 @@ class CatalogueTypist {
     void SetUpPage();
 
     void SetHeadingFont(double size, bool underlined);
-    void TypeParagraphs(int count);
 
     WordProcessor& word_;
     const bool withAwards_;
@@ -86,7 +85,7 @@ void CatalogueTypist::Type() {
 void CatalogueTypist::TypeRing(const Kruhy& ring) {
     SetHeadingFont(12, true);
     word_.TypeText(ring.Nazev + u' ');
-    TypeParagraphs(2);
+    TypeParagraphs(word_, 2);
     for (const Plemena& breed : Under(rows_.breeds, ring.ID))
         TypeBreed(breed);
 }
@@ -95,10 +94,10 @@ void CatalogueTypist::TypeBreed(const Plemena& breed) {
     lastClass_ = kNoClass;
     SetHeadingFont(14, false);
     word_.TypeText(BreedNameOf(breed) + u' ');
-    TypeParagraphs(2);
+    TypeParagraphs(word_, 2);
     for (const Psi& dog : Under(rows_.dogs, breed.ID))
         TypeDog(dog);
-    TypeParagraphs(1);
+    TypeParagraphs(word_, 1);
 }
 
 void CatalogueTypist::TypeDog(const Psi& dog) {
@@ -117,7 +116,7 @@ void CatalogueTypist::TypeClassHeading(const Psi& dog) {
                                                    : QStringLiteral("třída ") + ClassNameOf(dog));
     lastClass_ = dog.Trida;
     lastMale_ = dog.PohlaviPes;
-    TypeParagraphs(2);
+    TypeParagraphs(word_, 2);
 }
 
 void CatalogueTypist::TypeNameAndBirth(const Psi& dog) {
@@ -125,25 +124,25 @@ void CatalogueTypist::TypeNameAndBirth(const Psi& dog) {
     word_.SetBold(FontSwitch::Off);
     word_.SetFontSize(9);
     word_.TypeText(FullNameOf(dog));
-    TypeParagraphs(1);
+    TypeParagraphs(word_, 1);
     word_.TypeText(QStringLiteral("  nar. : ") + BirthDateOf(dog) + QStringLiteral("\t  ") +
                    dog.PK);
 }
 
 void CatalogueTypist::TypeAwards(const Psi& dog) {
-    TypeParagraphs(1);
+    TypeParagraphs(word_, 1);
     word_.TypeText(QStringLiteral("Ocenění :\t") +
                    Under(rows_.awards, dog.ID).join(QStringLiteral(", ")));
 }
 
 void CatalogueTypist::TypeParentsAndPeople(const Psi& dog) {
-    TypeParagraphs(1);
+    TypeParagraphs(word_, 1);
     word_.TypeText(QStringLiteral("  o. :\t") + dog.Otec + QStringLiteral("\tm. : ") + dog.Matka);
-    TypeParagraphs(1);
+    TypeParagraphs(word_, 1);
     word_.TypeText(QStringLiteral("  ch. : \t") + dog.Chovatel + QStringLiteral("\tmaj. : "));
     if (const QString& owner = Under(rows_.owners, dog.MajitelID); !owner.isEmpty())
         word_.TypeText(owner);
-    TypeParagraphs(2);
+    TypeParagraphs(word_, 2);
 }
 
 void CatalogueTypist::SetUpPage() {
@@ -164,11 +163,6 @@ void CatalogueTypist::SetHeadingFont(double size, bool underlined) {
     word_.SetUnderline(underlined);
     word_.SetBold(FontSwitch::On);
     word_.SetFontSize(size);
-}
-
-void CatalogueTypist::TypeParagraphs(int count) {
-    for (int i = 0; i < count; ++i)
-        word_.TypeParagraph();
 }
 
 } // namespace

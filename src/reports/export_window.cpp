@@ -5,6 +5,7 @@
 #include "platform/values/errors.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QVBoxLayout>
 
 namespace lorvo {
@@ -14,6 +15,11 @@ namespace {
 constexpr const char* kTag = "tag";
 /// A stop request is seen within this time, however long a percent of the run takes.
 constexpr qint64 kEventInterval = 50;
+
+/// A file below the program's folder.
+QString ProgramFile(const QString& name) {
+    return QDir(ThePlatform().programFolder).filePath(name);
+}
 
 QString UnderWay() {
     return QStringLiteral("jede");
@@ -36,6 +42,18 @@ void ExportWindow::LayOut(QWidget* options) {
     layout->addWidget(chkHTML);
     layout->addStretch();
     layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
+}
+
+QWidget* ExportWindow::NoOptions(QWidget* above) {
+    auto* area = new QWidget(this);
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins({});
+    if (above)
+        layout->addWidget(above);
+    auto* options = new QGroupBox(QStringLiteral("Volby"), area);
+    (new QVBoxLayout(options))->addWidget(new QLabel(QStringLiteral("(žádné volby)"), options));
+    layout->addWidget(options);
+    return area;
 }
 
 // The tag outlives a run, so in a window that stays open the first click after a run only clears
@@ -66,6 +84,7 @@ void ExportWindow::Start() {
     cmdCancel->setEnabled(asTemplate && !traits_.templateDisablesClosing);
     try {
         Run(asTemplate);
+        Finished();
     } catch (const Error& error) {
         failure = QString::fromUtf8(error.what());
     }
@@ -124,8 +143,7 @@ bool ExportWindow::Advance(int row, int rows) {
 void ExportWindow::RunTemplate() {
     if (traits_.templateFile.isEmpty())
         return;
-    const ReportTemplate pattern =
-        ReportTemplate::Read(ProgramFile(traits_.templateFile), TemplateKind::Rows);
+    const ReportTemplate pattern = ReadTemplate(TemplateKind::Rows);
     if (!CheckTemplate(pattern))
         return;
     QByteArray output = pattern.Top();
@@ -135,6 +153,10 @@ void ExportWindow::RunTemplate() {
 }
 
 void ExportWindow::AppendRows(QByteArray&, const ReportTemplate&) {}
+
+ReportTemplate ExportWindow::ReadTemplate(TemplateKind kind) const {
+    return ReportTemplate::Read(ProgramFile(traits_.templateFile), kind);
+}
 
 bool ExportWindow::CheckTemplate(const ReportTemplate& pattern) const {
     const ReportTemplate::Fault fault = pattern.Check();
@@ -146,10 +168,6 @@ bool ExportWindow::CheckTemplate(const ReportTemplate& pattern) const {
             : QStringLiteral("Šablona poškozena, nesouhlasí pořadí položek."),
         MessageIcon::None, MessageButtons::Ok, QStringLiteral("Lorvo"));
     return false;
-}
-
-QString ExportWindow::ProgramFile(const QString& name) {
-    return QDir(ThePlatform().programFolder).filePath(name);
 }
 
 void ExportWindow::WriteAndOpen(const QByteArray& output) const {

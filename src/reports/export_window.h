@@ -43,6 +43,8 @@ class ExportWindow : public Form, public RunProgress {
     /// Makes the common controls and puts the report's own options above them; the last step of
     /// a constructor, so that the Tab key comes to the options first.
     void LayOut(QWidget* options);
+    /// The frame of a report without options, for LayOut, with something else above it.
+    QWidget* NoOptions(QWidget* above = nullptr);
 
     /// Types the whole document; showing it is the frame's.
     virtual void TypeDocument(WordProcessor& word) = 0;
@@ -50,11 +52,14 @@ class ExportWindow : public Form, public RunProgress {
     virtual void AppendRows(QByteArray& output, const ReportTemplate& pattern);
     /// The template route: reads and checks the template, puts the output together, opens it.
     virtual void RunTemplate();
+    /// A run has come to its end: it went through, was stopped, or met a broken template.
+    virtual void Finished() {}
 
+    /// The report's template, read afresh.
+    ReportTemplate ReadTemplate(TemplateKind kind) const;
     /// A box that names what is wrong with the template; true when nothing is.
     bool CheckTemplate(const ReportTemplate& pattern) const;
-    /// A file below the program's folder.
-    static QString ProgramFile(const QString& name);
+    /// Writes the report's output file and hands it to the desktop.
     void WriteAndOpen(const QByteArray& output) const;
     bool IsStopped() const { return Preruseno; }
 

@@ -28,6 +28,10 @@ QString BirthDateOf(const Psi& dog) {
     return dog.DatumNar ? ThePlatform().locale->DateText(*dog.DatumNar) : QString();
 }
 
+QString SexOf(const Psi& dog) {
+    return dog.PohlaviPes ? QStringLiteral("Pes") : QStringLiteral("Fena");
+}
+
 QString BreedNameOf(const Plemena& breed) {
     return breed.Nazev.isEmpty() ? breed.NazevOrig : breed.Nazev;
 }

@@ -17,6 +17,8 @@ QString FullNameOf(const Psi& dog);
 QString NumberOf(const Psi& dog);
 /// Date of birth as the locale writes it; empty when it is not known.
 QString BirthDateOf(const Psi& dog);
+/// "Pes" or "Fena".
+QString SexOf(const Psi& dog);
 /// Czech name of the breed, or the original one where there is none.
 QString BreedNameOf(const Plemena& breed);
 

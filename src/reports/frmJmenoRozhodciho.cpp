@@ -1,0 +1,57 @@
+#include "reports/frmJmenoRozhodciho.h"
+
+#include "app/main_window_services.h"
+#include "forms/controls.h"
+#include "store/kruhy.h"
+
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kNameWidth = 280;
+
+/// ID of the ring whose node is selected; nullopt when no node is.
+std::optional<int> SelectedRing() {
+    const QString key = TheMainWindow().SelectedNode();
+    if (key.isEmpty())
+        return std::nullopt;
+    return TheMainWindow().NodeTag(key).mid(1).toInt();
+}
+
+} // namespace
+
+frmJmenoRozhodciho::frmJmenoRozhodciho(QWidget* parent)
+    : Form("frmJmenoRozhodciho", QStringLiteral("Jméno rozhodčího"), Border::Fixed, parent),
+      txtRozhodci(Named(new QLineEdit(this), QStringLiteral("txtRozhodci"))),
+      cmdOK(Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"))),
+      cmdCancel(
+          Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"))) {
+    txtRozhodci->setMinimumWidth(kNameWidth);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(CaptionFor(txtRozhodci, QStringLiteral("Jméno rozhodčího"), this));
+    layout->addWidget(txtRozhodci);
+    layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
+
+    connect(cmdOK, &QPushButton::clicked, this, &frmJmenoRozhodciho::Store);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmJmenoRozhodciho::Load() {
+    const auto ring = SelectedRing();
+    if (!ring)
+        return;
+    if (const auto row = RingByID(*ring))
+        txtRozhodci->setText(row->JmenoRozhodciho);
+    txtRozhodci->selectAll();
+}
+
+void frmJmenoRozhodciho::Store() {
+    if (const auto ring = SelectedRing())
+        SetRingJudge(*ring, txtRozhodci->text());
+    accept();
+}
+
+} // namespace lorvo

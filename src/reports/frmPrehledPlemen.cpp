@@ -1,0 +1,54 @@
+#include "reports/frmPrehledPlemen.h"
+
+#include "forms/controls.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
+#include "reports/breed_overview.h"
+
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+constexpr int kTitleWidth = 360;
+}
+
+frmPrehledPlemen::frmPrehledPlemen(QWidget* parent)
+    : Form("frmPrehledPlemen", QStringLiteral("Přehled plemen"), Border::Fixed, parent) {
+    auto* options = new QGroupBox(QStringLiteral("Volby"), this);
+    txtTitle =
+        Named(new QLineEdit(QStringLiteral("Krajská výstava psů společenských plemen v ..."), this),
+              QStringLiteral("txtTitle"));
+    txtTitle->setMinimumWidth(kTitleWidth);
+    (new QFormLayout(options))
+        ->addRow(CaptionFor(txtTitle, QStringLiteral("Titulek"), options), txtTitle);
+    cmdOK = Named(new QPushButton(QStringLiteral("Tisk"), this), QStringLiteral("cmdOK"));
+    cmdCancel = Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"));
+    connect(cmdOK, &QPushButton::clicked, this, &frmPrehledPlemen::Print);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(options);
+    layout->addStretch();
+    layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
+}
+
+void frmPrehledPlemen::Print() {
+    try {
+        PutOut();
+    } catch (const Error& error) {
+        ThePlatform().messages->Show(QString::fromUtf8(error.what()), MessageIcon::Stop,
+                                     MessageButtons::Ok, windowTitle());
+        return;
+    }
+    accept();
+}
+
+void frmPrehledPlemen::PutOut() const {
+    const WaitCursor wait(*ThePlatform().ui);
+    const auto word = ThePlatform().wordProcessors->Create();
+    TypeBreedOverview(*word, txtTitle->text());
+    word->Show();
+}
+
+} // namespace lorvo
