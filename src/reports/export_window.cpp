@@ -39,7 +39,7 @@ void ExportWindow::LayOut(QWidget* options) {
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(options);
-    layout->addWidget(chkHTML);
+    layout->addWidget(chkHTML, 0, Qt::AlignLeft);
     layout->addStretch();
     layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
 }

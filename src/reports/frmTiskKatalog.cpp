@@ -25,7 +25,7 @@ frmTiskKatalog::frmTiskKatalog(QWidget* parent) : ExportWindow(CatalogueTraits()
     auto* options = new QGroupBox(QStringLiteral("Volby"), this);
     chkEX = Named(new QCheckBox(QStringLiteral("Generovat povýstavní katalog"), options),
                   QStringLiteral("chkEX"));
-    (new QVBoxLayout(options))->addWidget(chkEX);
+    (new QVBoxLayout(options))->addWidget(chkEX, 0, Qt::AlignLeft);
     LayOut(options);
     chkHTML->setChecked(false);
     chkHTML->setEnabled(false);

@@ -51,7 +51,7 @@ QGroupBox* frmTiskSeznamuPsu::MakeOptions() {
         optSortKey[i] = Named(new QRadioButton(QString::fromUtf16(option.caption), options),
                               ElementName("optSortKey", static_cast<int>(i)));
         optSortKey[i]->setChecked(option.grouping == SortKey);
-        layout->addWidget(optSortKey[i]);
+        layout->addWidget(optSortKey[i], 0, Qt::AlignLeft);
         connect(optSortKey[i], &QRadioButton::clicked, this,
                 [this, grouping = option.grouping] { SortKey = grouping; });
     }
