@@ -81,6 +81,8 @@ class ReportList : public QTreeView {
     void SetIcons(std::vector<QIcon> icons);
     void SetLabelEdit(bool allowed); ///< in-place editing by F2 or a click on the selected text
     void SetSorting(bool on);        ///< SortListColumn on a click on a heading
+    /// Whether an edit in which nothing was typed counts as one, as it does unless told otherwise.
+    void SetUntouchedEdits(bool count) { untouchedEdits_ = count; }
     void StartLabelEdit(int position);
     void EndLabelEdit(); ///< as by loss of focus; nothing when no edit goes on
 
@@ -98,8 +100,8 @@ class ReportList : public QTreeView {
     void DeletePressed();
     /// In-place editing begins; set *cancel to keep it from starting.
     void BeforeLabelEdit(int position, bool* cancel);
-    /// In-place editing ended with Enter or loss of focus, whether the text changed or not; the
-    /// list still shows the old text. Set *cancel to keep it.
+    /// In-place editing ended with Enter or loss of focus; the list still shows the old text. Set
+    /// *cancel to keep it.
     void AfterLabelEdit(int position, const QString& text, bool* cancel);
 
   protected:
@@ -121,6 +123,7 @@ class ReportList : public QTreeView {
 
     ReportListModel* model_;
     bool gridLines_ = false;
+    bool untouchedEdits_ = true;
     Qt::SortOrder order_ = Qt::AscendingOrder;
     QPointer<QLineEdit> editor_;
     std::optional<QString> editedText_; ///< what an edit that is just ending has committed

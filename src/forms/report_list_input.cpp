@@ -38,7 +38,10 @@ class ReportListDelegate : public QStyledItemDelegate {
 
     void setModelData(QWidget* editor, QAbstractItemModel*,
                       const QModelIndex& index) const override {
-        list_.editedText_ = static_cast<QLineEdit*>(editor)->text();
+        const auto* box = static_cast<QLineEdit*>(editor);
+        if (!box->isModified() && !list_.untouchedEdits_)
+            return;
+        list_.editedText_ = box->text();
         list_.editedRow_ = index.row();
     }
 

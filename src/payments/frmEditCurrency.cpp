@@ -25,9 +25,7 @@ QString CurrencyRateCaption() {
 
 frmEditCurrency::frmEditCurrency(std::function<void(bool)> onStored, QWidget* parent)
     : Form("frmEditCurrency", u"Editace měny"_s, Border::Fixed, parent),
-      onStored_(std::move(onStored)),
-      chkMainCurr(Named(new QCheckBox(u"Používat jako hlavní měnu"_s, this), u"chkMainCurr"_s)),
-      cmdOK(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s)) {
+      onStored_(std::move(onStored)) {
     BuildControls();
     for (QLineEdit* box : txtEditCurr)
         connect(box, &QLineEdit::textChanged, this, &frmEditCurrency::EnableOK);
@@ -42,9 +40,12 @@ void frmEditCurrency::BuildControls() {
         txtEditCurr[i] = Named(new QLineEdit(this), ElementName("txtEditCurr", i));
         form->addRow(CaptionFor(txtEditCurr[i], captions[i], this), txtEditCurr[i]);
     }
+    txtEditCurr[kName]->setMinimumWidth(220);
+    chkMainCurr = Named(new QCheckBox(u"Používat jako hlavní měnu"_s, this), u"chkMainCurr"_s);
     auto* note = new QLabel(
         u"Tuto volbu nelze změnit, pokud již byla přijata alespoň jedna platba."_s, this);
     note->setWordWrap(true);
+    cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 

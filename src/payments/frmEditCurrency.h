@@ -36,8 +36,8 @@ class frmEditCurrency : public Form {
 
     std::function<void(bool)> onStored_;
     std::array<QLineEdit*, 3> txtEditCurr{};
-    QCheckBox* chkMainCurr;
-    QPushButton* cmdOK;
+    QCheckBox* chkMainCurr = nullptr;
+    QPushButton* cmdOK = nullptr;
 };
 
 } // namespace lorvo

@@ -14,6 +14,7 @@
 namespace lorvo {
 
 namespace {
+constexpr int kRowAir = 6; ///< pixels that a row is taller than its text
 /// The letters that the tree answers to.
 constexpr QStringView kJumpLetters = u"qwertzuioplkjhgfdsayxcvbnmůúěščřžýáíé";
 } // namespace
@@ -38,8 +39,16 @@ class BreedTitleDelegate : public QStyledItemDelegate {
     }
     void setModelData(QWidget* editor, QAbstractItemModel*,
                       const QModelIndex& index) const override {
-        tree_.editedText_ = static_cast<QLineEdit*>(editor)->text();
+        const auto* box = static_cast<QLineEdit*>(editor);
+        if (!box->isModified())
+            return;
+        tree_.editedText_ = box->text();
         tree_.editedID_ = tree_.Model().NodeAt(index)->ID;
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), std::max(size.height(), option.fontMetrics.height() + kRowAir)};
     }
 
   private:
@@ -54,7 +63,7 @@ BreedTree::BreedTree(const char* name, std::vector<BreedTreeModel::Column> colum
     setAllColumnsShowFocus(true);
     setItemDelegate(new BreedTitleDelegate(*this));
     setEditTriggers(EditKeyPressed | SelectedClicked);
-    setColumnWidth(0, 340);
+    setColumnWidth(0, 380);
 }
 
 BreedNode* BreedTree::SelectedNode() const {

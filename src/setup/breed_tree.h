@@ -28,7 +28,7 @@ class BreedTree : public QTreeView {
     void RightClick();
     /// Editing in place begins; set *cancel to keep it from starting.
     void BeforeLabelEdit(lorvo::BreedNode* node, bool* cancel);
-    /// Editing in place ended with a text; the node still shows its old one.
+    /// Editing in place ended with a text that was typed; the node still shows its old one.
     void AfterLabelEdit(lorvo::BreedNode* node, const QString& text);
 
   protected:

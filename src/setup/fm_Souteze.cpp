@@ -62,6 +62,7 @@ void fm_Souteze::BuildControls() {
 
     lvwSouteze->SetColumnWidths({280, 80, 120});
     lvwSouteze->SetLabelEdit(true);
+    lvwSouteze->SetUntouchedEdits(false);
     lvwSouteze->SetSorting(true);
     auto* column = new QVBoxLayout(this);
     column->addWidget(bar);

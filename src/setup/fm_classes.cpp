@@ -23,6 +23,7 @@ fm_classes::fm_classes(QWidget* parent)
       lvwClasses(new ReportList("lvwClasses", {u"Název třídy"_s, u"Počet psů"_s}, this)) {
     lvwClasses->SetColumnWidths({260, 90});
     lvwClasses->SetLabelEdit(true);
+    lvwClasses->SetUntouchedEdits(false);
     auto* column = new QVBoxLayout(this);
     column->addWidget(CodeListToolBar("tbrPlemena", this));
     column->addWidget(lvwClasses);

@@ -31,14 +31,7 @@ std::optional<Currency> PriceFromText(const QString& text) {
 
 } // namespace
 
-frmSoutez::frmSoutez(QWidget* parent)
-    : Form("frmSoutez", {}, Border::Fixed, parent),
-      chkPairs(Named(new QCheckBox(u"Soutěž je určena pro páry"_s, this), u"chkPairs"_s)),
-      lblErr(Named(new QLabel(u"(Tuto volbu není možno přepínat, je-li v soutěži už přihlášen "
-                              u"nějaký pes)"_s,
-                              this),
-                   u"lblErr"_s)),
-      cmdOK(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s)) {
+frmSoutez::frmSoutez(QWidget* parent) : Form("frmSoutez", {}, Border::Fixed, parent) {
     BuildControls();
     SetNumberStyle(*txtNazev[kPrice]);
     for (QLineEdit* box : txtNazev)
@@ -58,6 +51,12 @@ void frmSoutez::BuildControls() {
         txtNazev[i]->setHidden(hidden);
     }
     txtNazev[kName]->setMinimumWidth(280);
+    chkPairs = Named(new QCheckBox(u"Soutěž je určena pro páry"_s, this), u"chkPairs"_s);
+    lblErr = Named(new QLabel(u"(Tuto volbu není možno přepínat, je-li v soutěži už přihlášen "
+                              u"nějaký pes)"_s,
+                              this),
+                   u"lblErr"_s);
+    cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 

@@ -28,9 +28,9 @@ class frmSoutez : public Form {
     void Store();
 
     std::array<QLineEdit*, 4> txtNazev{};
-    QCheckBox* chkPairs;
-    QLabel* lblErr;
-    QPushButton* cmdOK;
+    QCheckBox* chkPairs = nullptr;
+    QLabel* lblErr = nullptr;
+    QPushButton* cmdOK = nullptr;
 };
 
 } // namespace lorvo

@@ -28,8 +28,8 @@ QString IniPath() {
 frmVystava::frmVystava(int vystavaID, std::function<void(const QString&)> onStored, QWidget* parent)
     : Form("frmVystava", u"Výstava"_s, Border::Fixed, parent), vystavaID_(vystavaID),
       onStored_(std::move(onStored)), txtName(Named(new QLineEdit(this), u"txtName"_s)),
-      chkRozliseni(Named(new QCheckBox(u"Rozlišovat ceny podle tříd"_s, this), u"chkRozliseni"_s)),
-      fees_(new FeeGrid(this)) {
+      fees_(new FeeGrid(this)),
+      chkRozliseni(Named(new QCheckBox(u"Rozlišovat ceny podle tříd"_s, this), u"chkRozliseni"_s)) {
     BuildControls();
     connect(chkRozliseni, &QCheckBox::toggled, this, &frmVystava::ChooseGrid);
 }

@@ -36,8 +36,8 @@ class frmVystava : public Form {
     bool Loading = false;
 
     QLineEdit* txtName;
-    QCheckBox* chkRozliseni;
     FeeGrid* fees_;
+    QCheckBox* chkRozliseni;
 };
 
 } // namespace lorvo

@@ -21,6 +21,7 @@ frmVystavy::frmVystavy(QWidget* parent)
       lvwList(new ReportList("lvwList", {u"Název"_s, u"Přihlášeno psů"_s}, this)) {
     lvwList->SetColumnWidths({300, 120});
     lvwList->SetLabelEdit(true);
+    lvwList->SetUntouchedEdits(false);
     auto* cmdOK = Named(new QPushButton(u"Zavřít"_s, this), u"cmdOK"_s);
 
     auto* column = new QVBoxLayout(this);

@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kBreedsHeight = 280;
+
 enum Page { kWelcome, kDate, kShow, kCurrency, kBreeds };
 
 constexpr QStringView kTexts[] = {
@@ -67,9 +69,7 @@ QGroupBox* AddFrame(QWidget* page, const QString& caption, QWidget* field) {
 
 frmWizard::frmWizard(QWidget* parent)
     : Form("frmWizard", u"Průvodce"_s, Border::Fixed, parent), pages_(new QStackedWidget(this)),
-      lblTitle(Named(new QLabel(this), u"lblTitle"_s)),
-      cmdBack(Named(new QPushButton(u"< Zpět"_s, this), u"cmdBack"_s)),
-      cmdFwd(Named(new QPushButton(kForward, this), u"cmdFwd"_s)) {
+      lblTitle(Named(new QLabel(this), u"lblTitle"_s)) {
     QFont titleFont = lblTitle->font();
     titleFont.setBold(true);
     titleFont.setPointSize(titleFont.pointSize() + 4);
@@ -87,6 +87,7 @@ frmWizard::frmWizard(QWidget* parent)
     tvwWizardPlemena =
         new BreedTree("tvwWizardPlemena",
                       {{kBreedName, u"Název (Původní název)"_s}, {kBreedFci, u"FCI"_s}}, breeds);
+    tvwWizardPlemena->setMinimumHeight(kBreedsHeight);
     breeds->layout()->addWidget(tvwWizardPlemena);
     breeds->layout()->addWidget(MakeSummary(breeds));
     for (int page = kDate; page < kBreeds; ++page)
@@ -125,6 +126,8 @@ QWidget* frmWizard::MakeSummary(QWidget* page) {
 }
 
 void frmWizard::BuildButtons() {
+    cmdBack = Named(new QPushButton(u"< Zpět"_s, this), u"cmdBack"_s);
+    cmdFwd = Named(new QPushButton(kForward, this), u"cmdFwd"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();

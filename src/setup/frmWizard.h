@@ -41,8 +41,8 @@ class frmWizard : public Form {
     int page_ = 0;
     QStackedWidget* pages_;
     QLabel* lblTitle;
-    QPushButton* cmdBack;
-    QPushButton* cmdFwd;
+    QPushButton* cmdBack = nullptr;
+    QPushButton* cmdFwd = nullptr;
     QDateEdit* dtDatum;
     QLineEdit* txtNazevVystavy;
     QLineEdit* txtNazevMeny;

@@ -9,10 +9,14 @@ namespace lorvo::test {
 void WhileOpen(const std::function<void()>& open, const std::function<void(QWidget&)>& inside) {
     bool came = false;
     std::exception_ptr failure;
-    QTimer::singleShot(0, qApp, [&] {
+    const QWidget* before = QApplication::activeModalWidget();
+    QTimer watch;
+    // What opens a window may let pending events run first.
+    QObject::connect(&watch, &QTimer::timeout, qApp, [&] {
         QWidget* window = QApplication::activeModalWidget();
-        if (!window)
+        if (!window || window == before)
             return;
+        watch.stop();
         came = true;
         try {
             inside(*window);
@@ -22,6 +26,7 @@ void WhileOpen(const std::function<void()>& open, const std::function<void(QWidg
         if (QWidget* still = QApplication::activeModalWidget(); still == window)
             window->close();
     });
+    watch.start(0);
     open();
     EXPECT_TRUE(came) << "no window was opened";
     if (failure)
