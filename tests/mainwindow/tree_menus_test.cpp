@@ -200,5 +200,13 @@ TEST_F(TreeMenusTest, HighlightsAllDogsOfTheCurrentOwner) {
     EXPECT_TRUE(Tree().IsSelectionBarShown());
 }
 
+TEST_F(TreeMenusTest, ForgetsTheHighlightAtAReloadAlone) {
+    Module().CurrentOwner = 5;
+    Choose(u"P2"_qs, 604);
+    Choose({}, 603);
+    EXPECT_EQ(Background(u"P1"_qs), kWhite);
+    EXPECT_EQ(Background(u"P3"_qs), kWhite);
+}
+
 } // namespace
 } // namespace lorvo::test
