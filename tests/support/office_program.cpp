@@ -27,11 +27,17 @@ bool HasOfficeProgram() {
 
 QString PdfOf(const QString& document, const QString& profileFolder) {
     const QFileInfo info(document);
-    OutputOf(QStringLiteral("soffice"),
-             {QStringLiteral("-env:UserInstallation=file://%1/profile").arg(profileFolder),
-              QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("pdf"),
-              QStringLiteral("--outdir"), info.path(), document});
+    MakePdfs({document}, info.path(), profileFolder);
     return info.path() + u'/' + info.completeBaseName() + QStringLiteral(".pdf");
+}
+
+void MakePdfs(const QStringList& documents, const QString& folder, const QString& profileFolder) {
+    OutputOf(
+        QStringLiteral("soffice"),
+        QStringList{QStringLiteral("-env:UserInstallation=file://%1/profile").arg(profileFolder),
+                    QStringLiteral("--headless"), QStringLiteral("--convert-to"),
+                    QStringLiteral("pdf"), QStringLiteral("--outdir"), folder} +
+            documents);
 }
 
 QString PdfInfo(const QString& pdf) {

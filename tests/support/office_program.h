@@ -12,6 +12,8 @@ bool HasOfficeProgram();
 /// Lays the document out into a PDF beside it and returns its path. The program keeps its settings
 /// in `profileFolder`.
 QString PdfOf(const QString& document, const QString& profileFolder);
+/// The same for several documents at once; all PDFs come into `folder`, named as the documents.
+void MakePdfs(const QStringList& documents, const QString& folder, const QString& profileFolder);
 
 /// What pdfinfo and pdffonts tell of the PDF.
 QString PdfInfo(const QString& pdf);
