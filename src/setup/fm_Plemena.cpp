@@ -51,7 +51,7 @@ void fm_Plemena::BuildControls() {
     column->addWidget(commands_->MakeBar(u"PLEMENA"_s, this));
     column->addWidget(tvwPlemena);
     column->addWidget(sbPlemena);
-    resize(900, 600);
+    resize(940, 600);
     tvwPlemena->setFocus();
 }
 
