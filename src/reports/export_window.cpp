@@ -15,6 +15,8 @@ namespace {
 constexpr const char* kTag = "tag";
 /// A stop request is seen within this time, however long a percent of the run takes.
 constexpr qint64 kEventInterval = 50;
+/// Leaves the caption room for its progress figure.
+constexpr int kMinimumWidth = 360;
 
 /// A file below the program's folder.
 QString ProgramFile(const QString& name) {
@@ -38,6 +40,7 @@ void ExportWindow::LayOut(QWidget* options) {
     connect(cmdCancel, &QPushButton::clicked, this, &ExportWindow::reject);
 
     auto* layout = new QVBoxLayout(this);
+    layout->addStrut(kMinimumWidth);
     layout->addWidget(options);
     layout->addWidget(chkHTML, 0, Qt::AlignLeft);
     layout->addStretch();

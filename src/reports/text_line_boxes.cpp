@@ -8,8 +8,9 @@ namespace lorvo {
 
 namespace {
 
-/// Characters that a line of a box shows.
+/// Average characters that a line of a box shows; a text of some words needs a little more.
 constexpr int kLineLength = 80;
+constexpr int kWordedLineLength = 62;
 
 } // namespace
 
@@ -34,7 +35,7 @@ QWidget* TextLineBoxes::AddLine(const QString& text) {
 
 QWidget* TextLineBoxes::AddParagraph(const QString& text) {
     auto* box = new QPlainTextEdit(text, this);
-    const auto lines = static_cast<int>(text.size()) / kLineLength + 1;
+    const auto lines = static_cast<int>(text.size()) / kWordedLineLength + 1;
     const int frame = box->frameWidth() + static_cast<int>(box->document()->documentMargin());
     box->setFixedHeight(box->fontMetrics().lineSpacing() * lines + 2 * frame);
     box->setTabChangesFocus(true);
