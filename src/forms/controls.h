@@ -37,6 +37,10 @@ class LinkLabel : public QLabel {
   public:
     explicit LinkLabel(const QString& text, QWidget* parent);
 
+    /// Asks for that many pixels where the text needs less.
+    void SetReach(int width);
+    QSize sizeHint() const override;
+
   Q_SIGNALS:
     void Clicked(Qt::MouseButton button);
 
@@ -50,6 +54,8 @@ class LinkLabel : public QLabel {
 
   private:
     void Underline(bool on);
+
+    int reach_ = 0;
 };
 
 /// Makes the box refuse typed non-digits; text pasted in is not filtered.

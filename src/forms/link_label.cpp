@@ -14,6 +14,15 @@ LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent
     setFocusPolicy(Qt::TabFocus);
 }
 
+void LinkLabel::SetReach(int width) {
+    reach_ = width;
+    updateGeometry();
+}
+
+QSize LinkLabel::sizeHint() const {
+    return QLabel::sizeHint().expandedTo({reach_, 0});
+}
+
 void LinkLabel::Underline(bool on) {
     QFont underlined = font();
     underlined.setUnderline(on);

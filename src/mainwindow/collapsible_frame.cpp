@@ -23,7 +23,7 @@ CollapsibleFrame::CollapsibleFrame(const char* name, const QString& title, int o
     setFrameShape(QFrame::StyledPanel);
     const bool fixed = growth == Growth::Fixed;
     QSizePolicy policy(QSizePolicy::Preferred,
-                       fixed ? QSizePolicy::Fixed : QSizePolicy::MinimumExpanding);
+                       fixed ? QSizePolicy::Minimum : QSizePolicy::MinimumExpanding);
     policy.setHeightForWidth(fixed);
     setSizePolicy(policy);
 
@@ -63,11 +63,10 @@ int CollapsibleFrame::heightForWidth(int width) const {
                                                   : layout->totalSizeHint().height());
 }
 
-// A frame that takes the rest asks for no more than it needs, so that nothing scrolls for its sake.
+// A frame asks for no more than it needs, so that nothing scrolls for its sake. What a text that
+// wraps needs beside that is known by the width alone.
 QSize CollapsibleFrame::sizeHint() const {
-    const QSize content =
-        growth_ == Growth::TakesRest ? content_->minimumSizeHint() : content_->sizeHint();
-    return {content.width(), collapsed_ ? HeaderHeight() : OpenHeight(content.height())};
+    return minimumSizeHint();
 }
 
 QSize CollapsibleFrame::minimumSizeHint() const {

@@ -10,6 +10,7 @@
 #include "mainwindow/main_tree.h"
 #include "mainwindow/node_history.h"
 #include "mainwindow/owner_panel.h"
+#include "mainwindow/panel_builders.h"
 #include "mainwindow/ring_panel.h"
 #include "mainwindow/status_panels.h"
 #include "mainwindow/window_opener.h"
@@ -78,6 +79,7 @@ QLayout* NodePanels::TitleRow() {
     lblItemTitle = Named(new QLabel(this), QStringLiteral("lblItemTitle"));
     lblItemTitle->setTextFormat(Qt::PlainText);
     lblItemTitle->setWordWrap(true);
+    TakeGivenWidth(*lblItemTitle);
     QFont large = lblItemTitle->font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
     large.setBold(true);

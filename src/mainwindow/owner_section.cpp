@@ -101,7 +101,7 @@ void OwnerSection::ShowCard(const DogCard& card) {
 void OwnerSection::ShowOwnerName(const QString& name) {
     name_->setText(name);
     name_->setEnabled(!name.isEmpty());
-    name_->setFixedWidth(name_->fontMetrics().horizontalAdvance(name) * 13 / 10);
+    name_->SetReach(name_->fontMetrics().horizontalAdvance(name) * 13 / 10);
 }
 
 } // namespace lorvo

@@ -41,6 +41,12 @@ QStringList SectionCaptions() {
     return {QStringLiteral("Datum narození:"), QStringLiteral("Chovatelská stanice:")};
 }
 
+void TakeGivenWidth(QLabel& label) {
+    QSizePolicy policy = label.sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    label.setSizePolicy(policy);
+}
+
 ValueGrid::ValueGrid(int pairs, const QStringList& widestCaptions)
     : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(pairs), 0) {
     for (int pair = 0; pair < pairs; ++pair) {
@@ -66,6 +72,7 @@ LinkLabel* ValueGrid::AddLink(int pair, const QString& caption) {
     auto* link = new LinkLabel(QString(), nullptr);
     link->setAccessibleName(caption);
     link->setFont(Bold(link->font()));
+    TakeGivenWidth(*link);
     Place(pair, caption, link, Qt::AlignTop | Qt::AlignLeft);
     return link;
 }
@@ -80,6 +87,7 @@ QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name
     value->setObjectName(name);
     value->setFont(Bold(value->font()));
     value->setWordWrap(true);
+    TakeGivenWidth(*value);
     Add(pair, caption, value);
     return value;
 }

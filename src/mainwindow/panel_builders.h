@@ -15,6 +15,10 @@ class ReportList;
 /// The widest captions in the sections of the dog panel, whose columns stand in line.
 QStringList SectionCaptions();
 
+/// Lets a label take the width that its place has: a long text is wrapped or cut there and never
+/// widens the window.
+void TakeGivenWidth(QLabel& label);
+
 /// A panel's heading; `text` is the panel's accessible name too.
 QLabel* PanelHeading(const QString& text, QWidget* panel);
 

@@ -13,7 +13,7 @@ StatusPanels::StatusPanels(const QString& name, QWidget* parent) : QStatusBar(pa
     for (int number = 1; number <= kCount; ++number) {
         PanelAt(number) = MakePanel(number);
         SetPanel(number, QString());
-        addWidget(PanelAt(number).text);
+        addWidget(PanelAt(number).text, 1);
     }
     ShowPanels(0);
 }
@@ -23,6 +23,8 @@ StatusPanels::Panel StatusPanels::MakePanel(int number) {
     auto* text = Named(new QLabel(this), name);
     // A name is shown as it is, whatever signs it holds.
     text->setTextFormat(Qt::PlainText);
+    // The panels share the bar: a long name is cut, and no other panel pays for it.
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     text->setAccessibleName(QStringLiteral("Cesta %1").arg(number));
     auto* picture = Named(new QLabel(text), name + QStringLiteral(".picture"));
     auto* row = new QHBoxLayout(text);

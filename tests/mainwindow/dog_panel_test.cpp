@@ -4,6 +4,8 @@
 #include "store/psi_ve_vystavach.h"
 #include "store/vazby_souteze.h"
 
+#include <QScrollArea>
+
 namespace lorvo {
 namespace {
 
@@ -19,6 +21,13 @@ class DogPanelTest : public PanelsTest {
     QColor ColourOf(const QString& caption) {
         const QLabel* label = Value(caption);
         return label->palette().color(label->foregroundRole());
+    }
+    /// Short words, together that long.
+    static std::string Words(std::size_t length) {
+        std::string words;
+        while (words.size() < length)
+            words += "slovo ";
+        return words;
     }
 };
 
@@ -73,6 +82,22 @@ TEST_F(DogPanelTest, AnEmptyNoteIsBlankOnWhiteAndTheOwnersNameHasRoom) {
     EXPECT_EQ(note->palette().color(note->backgroundRole()), QColor(Qt::white));
     const QLabel* name = Value(u"Jméno:"_qs);
     EXPECT_EQ(name->width(), name->fontMetrics().horizontalAdvance(name->text()) * 13 / 10);
+}
+
+TEST_F(DogPanelTest, LongTextsNeitherWidenThePanelNorLeaveBlankRoom) {
+    Start();
+    Show(u"P3"_qs);
+    auto* area = Value(u"PK:"_qs)->window()->findChild<QScrollArea*>();
+    const int before = area->window()->minimumSizeHint().width();
+    Run("UPDATE Psi SET PK = '" + std::string(150, 'W') + "', ChovnaStanice = '" + Words(140) +
+        "'");
+    Run("UPDATE Majitele SET Jmeno = '" + Words(250) + "', Email = '" + std::string(250, 'w') +
+        "'");
+    Show(u"P3"_qs);
+    EXPECT_EQ(area->window()->minimumSizeHint().width(), before);
+    const QWidget* sections = area->widget();
+    EXPECT_EQ(sections->height(),
+              std::max(area->viewport()->height(), sections->heightForWidth(sections->width())));
 }
 
 TEST_F(DogPanelTest, TheListsHaveTheirColumnsAndRefuseRenaming) {
