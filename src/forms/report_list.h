@@ -4,8 +4,7 @@
 
 #include <QColor>
 #include <QIcon>
-#include <QLineEdit>
-#include <QPointer>
+#include <QPersistentModelIndex>
 #include <QTreeView>
 #include <optional>
 #include <vector>
@@ -30,6 +29,7 @@ struct ReportRow {
 /// The picture in a column's heading: which way the list is sorted by it.
 enum class HeaderPicture { None = 0, Descending = 1, Ascending = 2, Neutral = 3 };
 
+class LabelEditDelegate;
 class ReportListModel;
 
 class ReportList : public QTreeView {
@@ -82,7 +82,7 @@ class ReportList : public QTreeView {
     void SetLabelEdit(bool allowed); ///< in-place editing by F2 or a click on the selected text
     void SetSorting(bool on);        ///< SortListColumn on a click on a heading
     /// Whether an edit in which nothing was typed counts as one, as it does unless told otherwise.
-    void SetUntouchedEdits(bool count) { untouchedEdits_ = count; }
+    void SetUntouchedEdits(bool count);
     void StartLabelEdit(int position);
     void EndLabelEdit(); ///< as by loss of focus; nothing when no edit goes on
 
@@ -117,17 +117,13 @@ class ReportList : public QTreeView {
 
   private:
     friend void SortListColumn(ReportList& list, int column);
-    friend class ReportListDelegate;
     void InstallEditing();
-    void DeliverEditedText(const QString& text);
+    void DeliverEditedText(const QPersistentModelIndex& row, const QString& text);
 
     ReportListModel* model_;
     bool gridLines_ = false;
-    bool untouchedEdits_ = true;
     Qt::SortOrder order_ = Qt::AscendingOrder;
-    QPointer<QLineEdit> editor_;
-    std::optional<QString> editedText_; ///< what an edit that is just ending has committed
-    int editedRow_ = -1;
+    LabelEditDelegate* delegate_ = nullptr;
 };
 
 /// Sorts by the clicked column's texts and toggles the list's direction, with the three header

@@ -1,61 +1,27 @@
-// What the clerk does with a report list by keyboard and mouse, and the lines between its cells.
+// What the clerk does with a report list by keyboard and mouse.
+#include "forms/label_edit_delegate.h"
 #include "forms/report_list_model.h"
 
 #include <QContextMenuEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollArea>
-#include <QStyledItemDelegate>
-#include <algorithm>
 #include <utility>
 
 namespace lorvo {
 
-/// Pixels that a row is higher than its text.
-constexpr int kRowAir = 5;
-
-/// Gives rows their height, opens the in-place editor and hands what it committed to the list.
-class ReportListDelegate : public QStyledItemDelegate {
-  public:
-    explicit ReportListDelegate(ReportList& list) : QStyledItemDelegate(&list), list_(list) {}
-
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                          const QModelIndex& index) const override {
-        bool cancel = false;
-        Q_EMIT list_.BeforeLabelEdit(index.row(), &cancel);
-        if (cancel)
-            return nullptr;
-        auto* editor = new QLineEdit(parent);
-        editor->setObjectName(list_.objectName() + QStringLiteral(".editor"));
-        editor->setFrame(false);
-        editor->setMaxLength(255); // as much as a text field of the store takes
-        editor->setAutoFillBackground(true);
-        list_.editor_ = editor;
-        return editor;
-    }
-
-    void setModelData(QWidget* editor, QAbstractItemModel*,
-                      const QModelIndex& index) const override {
-        const auto* box = static_cast<QLineEdit*>(editor);
-        if (!box->isModified() && !list_.untouchedEdits_)
-            return;
-        list_.editedText_ = box->text();
-        list_.editedRow_ = index.row();
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const QSize size = QStyledItemDelegate::sizeHint(option, index);
-        return {size.width(), std::max(size.height(), option.fontMetrics.height() + kRowAir)};
-    }
-
-  private:
-    ReportList& list_;
-};
-
 void ReportList::InstallEditing() {
-    setItemDelegate(new ReportListDelegate(*this));
+    delegate_ = new LabelEditDelegate(*this);
+    delegate_->mayEdit = [this](const QModelIndex& index) {
+        bool cancel = false;
+        Q_EMIT BeforeLabelEdit(index.row(), &cancel);
+        return !cancel;
+    };
+    setItemDelegate(delegate_);
+}
+
+void ReportList::SetUntouchedEdits(bool count) {
+    delegate_->untouchedEdits = count;
 }
 
 void ReportList::SetLabelEdit(bool allowed) {
@@ -71,10 +37,11 @@ void ReportList::StartLabelEdit(int position) {
 }
 
 void ReportList::EndLabelEdit() {
-    if (state() != EditingState || !editor_)
+    QLineEdit* editor = delegate_->Editor();
+    if (state() != EditingState || !editor)
         return;
-    commitData(editor_);
-    closeEditor(editor_, QAbstractItemDelegate::NoHint);
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 bool ReportList::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
@@ -86,13 +53,11 @@ bool ReportList::edit(const QModelIndex& index, EditTrigger trigger, QEvent* eve
 void ReportList::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
     // Tab ends an edit as any loss of focus does and opens no other row.
     QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    // Only now, with the editor gone, may a handler show message boxes or take the row away.
-    if (editedText_)
-        DeliverEditedText(*std::exchange(editedText_, std::nullopt));
+    if (const auto edited = delegate_->TakeEdited())
+        DeliverEditedText(edited->index, edited->text);
 }
 
-void ReportList::DeliverEditedText(const QString& text) {
-    const QPersistentModelIndex row(model_->index(editedRow_, 0));
+void ReportList::DeliverEditedText(const QPersistentModelIndex& row, const QString& text) {
     bool cancel = false;
     Q_EMIT AfterLabelEdit(row.row(), text, &cancel);
     if (!cancel && row.isValid())
@@ -131,19 +96,8 @@ void ReportList::selectionChanged(const QItemSelection& selected,
 void ReportList::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
     QTreeView::drawRow(painter, option, index);
-    if (!gridLines_)
-        return;
-    painter->save();
-    painter->setPen(palette().color(QPalette::Midlight));
-    const QRect row = option.rect;
-    painter->drawLine(row.left(), row.bottom(), header()->length() - header()->offset() - 1,
-                      row.bottom());
-    for (int column = 0; column < header()->count(); ++column) {
-        const int right =
-            header()->sectionViewportPosition(column) + header()->sectionSize(column) - 1;
-        painter->drawLine(right, row.top(), right, row.bottom());
-    }
-    painter->restore();
+    if (gridLines_)
+        PaintGridLines(*painter, *this, option.rect);
 }
 
 void ReportList::scrollTo(const QModelIndex& index, ScrollHint hint) {

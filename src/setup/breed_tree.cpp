@@ -1,67 +1,34 @@
 #include "setup/breed_tree.h"
 
 #include "app/start_up.h"
+#include "forms/label_edit_delegate.h"
 
 #include <QContextMenuEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QPainter>
-#include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
 
 namespace lorvo {
 
 namespace {
-constexpr int kRowAir = 6; ///< pixels that a row is taller than its text
 /// The letters that the tree answers to.
 constexpr QStringView kJumpLetters = u"qwertzuioplkjhgfdsayxcvbnmůúěščřžýáíé";
 } // namespace
 
-/// Opens the in-place editor and hands what it committed to the tree.
-class BreedTitleDelegate : public QStyledItemDelegate {
-  public:
-    explicit BreedTitleDelegate(BreedTree& tree) : QStyledItemDelegate(&tree), tree_(tree) {}
-
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                          const QModelIndex& index) const override {
-        bool cancel = false;
-        Q_EMIT tree_.BeforeLabelEdit(tree_.Model().NodeAt(index), &cancel);
-        if (cancel)
-            return nullptr;
-        auto* editor = new QLineEdit(parent);
-        editor->setObjectName(tree_.objectName() + QStringLiteral(".editor"));
-        editor->setFrame(false);
-        editor->setMaxLength(255); // as much as a text field of the store takes
-        editor->setAutoFillBackground(true);
-        return editor;
-    }
-    void setModelData(QWidget* editor, QAbstractItemModel*,
-                      const QModelIndex& index) const override {
-        const auto* box = static_cast<QLineEdit*>(editor);
-        if (!box->isModified())
-            return;
-        tree_.editedText_ = box->text();
-        tree_.editedID_ = tree_.Model().NodeAt(index)->ID;
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const QSize size = QStyledItemDelegate::sizeHint(option, index);
-        return {size.width(), std::max(size.height(), option.fontMetrics.height() + kRowAir)};
-    }
-
-  private:
-    BreedTree& tree_;
-};
-
 BreedTree::BreedTree(const char* name, std::vector<BreedTreeModel::Column> columns, QWidget* parent)
-    : QTreeView(parent), model_(new BreedTreeModel(std::move(columns), this)) {
+    : QTreeView(parent), model_(new BreedTreeModel(std::move(columns), this)),
+      delegate_(new LabelEditDelegate(*this)) {
     setObjectName(QString::fromLatin1(name));
     setModel(model_);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
-    setItemDelegate(new BreedTitleDelegate(*this));
+    delegate_->untouchedEdits = false;
+    delegate_->mayEdit = [this](const QModelIndex& index) {
+        bool cancel = false;
+        Q_EMIT BeforeLabelEdit(model_->NodeAt(index), &cancel);
+        return !cancel;
+    };
+    setItemDelegate(delegate_);
     setEditTriggers(EditKeyPressed | SelectedClicked);
     setColumnWidth(0, 380);
 }
@@ -120,28 +87,15 @@ void BreedTree::contextMenuEvent(QContextMenuEvent* event) {
 
 void BreedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
     QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    // Only now, with the editor gone, may a handler show message boxes.
-    if (!editedText_)
-        return;
-    const QString text = *std::exchange(editedText_, std::nullopt);
-    if (BreedNode* node = model_->Find(editedID_))
-        Q_EMIT AfterLabelEdit(node, text);
+    if (const auto edited = delegate_->TakeEdited(); edited && edited->index.isValid())
+        Q_EMIT AfterLabelEdit(model_->NodeAt(edited->index), edited->text);
 }
 
 void BreedTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     QTreeView::drawRow(painter, option, index);
-    if (!gridLines_)
-        return;
-    painter->save();
-    painter->setPen(palette().color(QPalette::Midlight));
-    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    for (int column = 0; column < header()->count(); ++column) {
-        const int right =
-            header()->sectionViewportPosition(column) + header()->sectionSize(column) - 1;
-        painter->drawLine(right, option.rect.top(), right, option.rect.bottom());
-    }
-    painter->restore();
+    if (gridLines_)
+        PaintGridLines(*painter, *this, option.rect);
 }
 
 } // namespace lorvo

@@ -4,9 +4,10 @@
 #include "setup/breed_tree_model.h"
 
 #include <QTreeView>
-#include <optional>
 
 namespace lorvo {
+
+class LabelEditDelegate;
 
 class BreedTree : public QTreeView {
     Q_OBJECT
@@ -42,13 +43,11 @@ class BreedTree : public QTreeView {
                  const QModelIndex& index) const override;
 
   private:
-    friend class BreedTitleDelegate;
     void JumpToLetter(QChar letter);
 
     BreedTreeModel* model_;
+    LabelEditDelegate* delegate_;
     bool gridLines_ = false;
-    std::optional<QString> editedText_; ///< what an edit that is just ending has committed
-    int editedID_ = 0;
 };
 
 } // namespace lorvo
