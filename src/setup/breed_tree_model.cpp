@@ -11,7 +11,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QColor kInUseBackground(224, 255, 255);
+const QColor kUnusedBackground(255, 255, 255);
 const QColor kOwnText(0, 0, 255);
+const QColor kBaseText(0, 0, 0);
 
 void Number(std::vector<std::unique_ptr<BreedNode>>& siblings, std::size_t from = 0) {
     for (std::size_t row = from; row < siblings.size(); ++row)
@@ -132,12 +134,10 @@ QVariant BreedTreeModel::data(const QModelIndex& index, int role) const {
     case Qt::CheckStateRole:
         return first ? QVariant(node.checked ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::ForegroundRole:
-        // A breed in use lies on a light ground in every palette, so its text must be dark.
-        if (node.blue)
-            return kOwnText;
-        return node.inUse ? QVariant(QColor(Qt::black)) : QVariant();
+        // Both grounds are light in every palette, so the text must be dark.
+        return node.blue ? kOwnText : kBaseText;
     case Qt::BackgroundRole:
-        return node.inUse ? QVariant(kInUseBackground) : QVariant();
+        return node.inUse ? kInUseBackground : kUnusedBackground;
     case Qt::UserRole:
         return first ? QVariant(u"C"_s + QString::number(node.ID)) : QVariant();
     default:
