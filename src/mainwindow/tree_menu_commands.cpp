@@ -89,9 +89,13 @@ void TreeCommands::ShowDogMenu(TreeNode* dog) {
             ShowSelected();
         return;
     case kTakePayment:
-        return Open(QStringLiteral("frmPlatba"));
+        Module().CurrentDogID = dog->Id();
+        Open(QStringLiteral("frmPlatba"));
+        return ShowSelected();
     case kPayments:
-        return Open(QStringLiteral("frmUhrady"));
+        Module().CurrentDogID = dog->Id();
+        Open(QStringLiteral("frmUhrady"));
+        return ShowSelected();
     case kHighlightOwner:
         return HighlightOwnersDogs(tree_);
     case kClearHighlight:

@@ -71,8 +71,8 @@ std::vector<MenuEntry> DogMenu() {
     const bool first = shown && shown->PrvniUzaverka;
     return {
         Entry(kRemove, QStringLiteral("Odstranit psa")),
-        Entry(kTakePayment, QStringLiteral("Příjem platby"), shown.has_value()),
-        Entry(kPayments, QStringLiteral("Zobrazit seznam přijatých plateb"), shown.has_value()),
+        Entry(kTakePayment, QStringLiteral("Příjem platby")),
+        Entry(kPayments, QStringLiteral("Zobrazit seznam přijatých plateb")),
         MenuEntry::Separator(),
         Entry(kHighlightOwner, QStringLiteral("Zvýraznit všechny psy stejného majitele")),
         Entry(kClearHighlight, QStringLiteral("Zrušit zvýraznění")),

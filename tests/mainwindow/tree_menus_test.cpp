@@ -76,18 +76,22 @@ TEST_F(TreeMenusTest, MarksTheDogMenuByTheDogLastShown) {
 }
 
 TEST_F(TreeMenusTest, GreysWhatADogNotShownYetHasNot) {
-    EXPECT_EQ(MenuOf(u"P1"_qs).mid(0, 3),
-              (QStringList{u"601 Odstranit psa"_qs, u"602 Příjem platby (-)"_qs,
-                           u"603 Zobrazit seznam přijatých plateb (-)"_qs}));
+    const QStringList lines = MenuOf(u"P1"_qs);
+    EXPECT_EQ(lines.mid(0, 3), (QStringList{u"601 Odstranit psa"_qs, u"602 Příjem platby"_qs,
+                                            u"603 Zobrazit seznam přijatých plateb"_qs}));
+    EXPECT_TRUE(lines.value(9).endsWith(u"První pes (-)"_qs)) << lines.value(9).toStdString();
 }
 
-TEST_F(TreeMenusTest, OpensTheWindowsOfPayments) {
+TEST_F(TreeMenusTest, OpensTheWindowsOfPaymentsForTheDogPointedAt) {
     StandInFor(u"frmPlatba"_qs);
     StandInFor(u"frmUhrady"_qs);
-    Module().CurrentDogID = 2;
-    Choose(u"P1"_qs, 602);
-    Choose(u"P1"_qs, 603);
+    for (const int entry : {602, 603}) {
+        Module().CurrentDogID = 2;
+        Choose(u"P1"_qs, entry);
+        EXPECT_EQ(Module().CurrentDogID, 1);
+    }
     EXPECT_EQ(opened, (QStringList{u"frmPlatba"_qs, u"frmUhrady"_qs}));
+    EXPECT_EQ(host.shown, (QStringList{u"P1"_qs, u"P1"_qs}));
 }
 
 TEST_F(TreeMenusTest, SetsTheClosingOfTheDogLastShownNotOfTheOnePointedAt) {
