@@ -1,9 +1,10 @@
-// The long lists of exhibitors and payments, filled and sorted, beside their statements alone; and
-// a payment stored with its edit on disk.
+// The long lists of dogs, exhibitors and payments, filled and sorted, beside their statements
+// alone; and a payment stored with its edit on disk.
 //   QT_QPA_PLATFORM=offscreen bench_lists [--benchmark_filter=...]
 
 #include "bare_rows.h"
 #include "bench_shows.h"
+#include "dogs/fm_DogsList.h"
 #include "dogs/frmVystavovatele.h"
 #include "forms/application.h"
 #include "forms/report_list.h"
@@ -27,6 +28,20 @@ constexpr const char* kExhibitorStatements[] = {
     "SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze",
     "SELECT ID_Psa, Kc FROM Uhrady",
     "SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi",
+    "SELECT * FROM Souteze",
+};
+
+constexpr const char* kDogStatements[] = {
+    "SELECT Psi.ID, Psi.Jmeno, ChovnaStanice, Trida, PohlaviPes, PrvniPes, PrvniUzaverka, "
+    "Poznamka, "
+    "Plemena.Nazev, Plemena.NazevOrig, Majitele.Jmeno FROM Psi, Plemena, Majitele WHERE PlemenoID "
+    "= "
+    "Plemena.ID AND MajitelID = Majitele.ID ORDER BY czech_key(Psi.Jmeno), Psi.ID",
+    "SELECT * FROM Vystavy",
+    "SELECT PesID, VystavaID FROM PsiVeVystavach",
+    "SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze",
+    "SELECT IDPsa, Nazev FROM PsiOceneni, Oceneni WHERE IDOceneni = Oceneni.ID",
+    "SELECT ID_Psa, Kc FROM Uhrady",
     "SELECT * FROM Souteze",
 };
 
@@ -128,6 +143,12 @@ void Add(const std::string& name, const std::string& size, const char* side,
 }
 
 void Register(const char* size) {
+    Add("dog list filled", size, "program",
+        [size](benchmark::State& state) { Fill<fm_DogsList>(state, size); });
+    Add("dog list filled", size, "bare",
+        [size](benchmark::State& state) { BareFill(state, size, kDogStatements); });
+    Add("dog list sorted", size, "program",
+        [size](benchmark::State& state) { Sort<fm_DogsList>(state, size); });
     Add("exhibitor list filled", size, "program",
         [size](benchmark::State& state) { Fill<frmVystavovatele>(state, size); });
     Add("exhibitor list filled", size, "bare",
