@@ -7,7 +7,11 @@
 #include "mainwindow/tree_loader.h"
 #include "pair_table.h"
 #include "platform/platform.h"
+#include "platform/values/cp1250.h"
 #include "reports/catalogue.h"
+#include "reports/entry_confirmations.h"
+#include "reports/run_progress.h"
+#include "reports/template_engine.h"
 #include "setup/catalogue_numbers.h"
 #include "store/psi.h"
 
@@ -119,6 +123,61 @@ void BareCatalogue(benchmark::State& state, const char* size) {
     }
 }
 
+class NeverStops : public RunProgress {
+  public:
+    bool Advance(int, int) override { return true; }
+};
+
+QByteArray ConfirmationPattern() {
+    return ReportTemplate::Read(QStringLiteral(LORVO_TEMPLATES "/Pozvánky.html"),
+                                TemplateKind::Rows)
+        .Body();
+}
+
+QString OutputFile(const char* size) {
+    return ShowFolder(size) + QStringLiteral("/output.html");
+}
+
+void Confirmations(benchmark::State& state, const char* size) {
+    UseShow(size);
+    const QByteArray pattern = ConfirmationPattern();
+    QStringList lines;
+    for (const ConfirmationLine& line : kConfirmationLines)
+        lines << QString::fromUtf16(line.text);
+    NeverStops progress;
+    for (auto _ : state) {
+        QByteArray output;
+        AppendConfirmations(output, pattern, lines, progress);
+        WriteReportOutput(OutputFile(size), output);
+    }
+}
+
+/// As many bytes: the rows in the order of the sheets, each value once through the encoder, the
+/// rest of a sheet copied, the whole written.
+void BareConfirmations(benchmark::State& state, const char* size) {
+    UseShow(size);
+    BareDatabase database(DatabaseOf(size));
+    sqlite3_stmt* rows = database.Prepare("SELECT Majitele.Jmeno, Ulice, Mesto, Psi.Jmeno, "
+                                          "ChovnaStanice, Plemena.Nazev FROM Psi LEFT "
+                                          "JOIN Majitele ON Majitele.ID = MajitelID LEFT JOIN "
+                                          "Plemena ON Plemena.ID = PlemenoID ORDER "
+                                          "BY Cislo, Psi.ID");
+    QByteArray rest = ConfirmationPattern();
+    for (const ConfirmationLine& line : kConfirmationLines)
+        rest += ToCp1250(QString::fromUtf16(line.text));
+    for (auto _ : state) {
+        QByteArray output;
+        while (sqlite3_step(rows) == SQLITE_ROW) {
+            output += rest;
+            for (int column = 0; column < 6; ++column)
+                output += ToCp1250(QString::fromUtf8(
+                    reinterpret_cast<const char*>(sqlite3_column_text(rows, column))));
+        }
+        sqlite3_reset(rows);
+        WriteReportOutput(OutputFile(size), output);
+    }
+}
+
 struct Measure {
     const char* name;
     void (*program)(benchmark::State&, const char* size);
@@ -130,6 +189,7 @@ constexpr Measure kMeasures[] = {
     {"figures of a dog's card", Card, BareCardRows},
     {"catalogue numbers", Numbering, BareNumbering},
     {"catalogue file", Catalogue, BareCatalogue},
+    {"confirmations by template", Confirmations, BareConfirmations},
 };
 
 void Register() {
