@@ -32,8 +32,7 @@ void TypeTwoColumnPages(WordProcessor& word) {
 } // namespace
 
 TEST(DocxRendering, AnOfficeProgramLaysTheDocumentOutAsTyped) {
-    if (!HasOfficeProgram())
-        GTEST_SKIP() << "no office program on this machine";
+    ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
     DocumentDesk desk;
     const QString pdf = PdfOf(desk.Document(TypeTwoColumnPages), desk.folder.path());
 

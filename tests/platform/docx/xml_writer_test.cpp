@@ -58,10 +58,10 @@ TEST(XmlWriter, KeepsWhatIsLongerThanItsBuffer) {
     EXPECT_EQ(bytes.count("<b>"), 300);
 }
 
+#ifdef Q_OS_LINUX // whose systems have a device that is always full
 TEST(XmlWriter, NamesTheFileThatTakesNoMore) {
     QFile full(QStringLiteral("/dev/full"));
-    if (!full.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        GTEST_SKIP() << "no device that is always full";
+    ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     XmlWriter xml(full);
     try {
         xml.Finish();
@@ -70,5 +70,6 @@ TEST(XmlWriter, NamesTheFileThatTakesNoMore) {
         EXPECT_NE(std::string(error.what()).find("„/dev/full“"), std::string::npos) << error.what();
     }
 }
+#endif
 
 } // namespace lorvo::docx
