@@ -7,7 +7,7 @@
 #include "forms/application.h"
 #include "mainwindow/fm_main.h"
 #include "pair_table.h"
-#include "platform/desktop/desktop_services.h"
+#include "desktop/desktop_services.h"
 #include "platform/platform.h"
 #include "start_child.h"
 #include "store/kruhy.h"

@@ -10,7 +10,7 @@
 #include "forms/report_list.h"
 #include "pair_table.h"
 #include "payments/frmPrehledPlateb.h"
-#include "platform/desktop/desktop_services.h"
+#include "desktop/desktop_services.h"
 #include "platform/platform.h"
 #include "store/uhrady.h"
 

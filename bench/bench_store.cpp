@@ -3,16 +3,16 @@
 
 #include "bare_rows.h"
 #include "bench_shows.h"
-#include "mainwindow/dog_card.h"
-#include "mainwindow/tree_loader.h"
+#include "office/cards/dog_card.h"
+#include "office/tree/tree_loader.h"
 #include "pair_table.h"
 #include "platform/platform.h"
 #include "platform/values/cp1250.h"
-#include "reports/catalogue.h"
-#include "reports/entry_confirmations.h"
-#include "reports/run_progress.h"
-#include "reports/template_engine.h"
-#include "setup/catalogue_numbers.h"
+#include "office/papers/catalogue.h"
+#include "office/papers/entry_confirmations.h"
+#include "office/papers/run_progress.h"
+#include "office/papers/template_engine.h"
+#include "office/numbers/catalogue_numbers.h"
 #include "store/psi.h"
 
 #include <QCoreApplication>

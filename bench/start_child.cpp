@@ -5,7 +5,7 @@
 #include "bench_shows.h"
 #include "forms/application.h"
 #include "mainwindow/fm_main.h"
-#include "platform/desktop/desktop_services.h"
+#include "desktop/desktop_services.h"
 #include "platform/platform.h"
 
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 #include "dogs/dog_class_box.h"
 
 #include "app/module_values.h"
-#include "dogs/class_eligibility.h"
+#include "office/dogs/class_eligibility.h"
 #include "forms/controls.h"
 #include "platform/platform.h"
 #include "store/connection.h"

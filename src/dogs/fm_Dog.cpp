@@ -4,7 +4,7 @@
 #include "app/module_values.h"
 #include "dogs/dog_class_box.h"
 #include "dogs/dog_owner_box.h"
-#include "dogs/dog_saving.h"
+#include "office/dogs/dog_saving.h"
 #include "dogs/stored_texts_combo.h"
 #include "forms/controls.h"
 #include "platform/platform.h"

@@ -2,7 +2,7 @@
 // The section of the dog panel with the awards.
 
 #include "mainwindow/collapsible_frame.h"
-#include "mainwindow/dog_card.h"
+#include "office/cards/dog_card.h"
 
 namespace lorvo {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The panel of a breed: how many dogs it has, their share of all, and its FCI group.
 
-#include "mainwindow/node_figures.h"
+#include "office/cards/node_figures.h"
 
 #include <QWidget>
 

@@ -5,7 +5,7 @@
 #include "mainwindow/awards_section.h"
 #include "mainwindow/dog_panel.h"
 #include "mainwindow/entries_section.h"
-#include "mainwindow/entry_ticks.h"
+#include "office/cards/entry_ticks.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/node_panels.h"
 #include "mainwindow/owner_panel.h"

@@ -1,7 +1,7 @@
 #pragma once
 // What the links, pictures and check lists of the dog panel and the owner panel do.
 
-#include "mainwindow/card_line.h"
+#include "office/cards/card_line.h"
 #include "platform/message_boxes.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 // The panel of a dog: everything known about it in sections that can be collapsed.
 
-#include "mainwindow/dog_card.h"
+#include "office/cards/dog_card.h"
 
 #include <QWidget>
 

@@ -2,7 +2,7 @@
 
 #include "forms/controls.h"
 #include "forms/report_list.h"
-#include "mainwindow/entry_ticks.h"
+#include "office/cards/entry_ticks.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/window_opener.h"
 

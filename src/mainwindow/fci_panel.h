@@ -1,7 +1,7 @@
 #pragma once
 // The panel of an FCI group: how many breeds and dogs belong to it.
 
-#include "mainwindow/node_figures.h"
+#include "office/cards/node_figures.h"
 
 #include <QWidget>
 

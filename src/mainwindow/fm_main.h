@@ -5,8 +5,8 @@
 #include "app/main_window_services.h"
 #include "forms/form.h"
 #include "mainwindow/command_bar.h"
-#include "mainwindow/node_history.h"
-#include "mainwindow/tree_nodes.h"
+#include "office/tree/node_history.h"
+#include "office/tree/tree_nodes.h"
 
 #include <QMainWindow>
 

@@ -4,7 +4,7 @@
 #include "app/module_values.h"
 #include "forms/controls.h"
 #include "mainwindow/node_delegate.h"
-#include "mainwindow/tree_loader.h"
+#include "office/tree/tree_loader.h"
 
 #include <QDrag>
 #include <QDragMoveEvent>

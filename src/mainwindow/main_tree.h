@@ -2,7 +2,7 @@
 // The tree of the main window, tvwMain: the view and its ways with mouse and keyboard. What a
 // command does is not its matter.
 
-#include "mainwindow/tree_model.h"
+#include "office/tree/tree_model.h"
 
 #include <QTreeView>
 

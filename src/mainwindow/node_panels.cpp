@@ -8,7 +8,7 @@
 #include "mainwindow/dog_panel.h"
 #include "mainwindow/fci_panel.h"
 #include "mainwindow/main_tree.h"
-#include "mainwindow/node_history.h"
+#include "office/tree/node_history.h"
 #include "mainwindow/owner_panel.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/ring_panel.h"

@@ -2,7 +2,7 @@
 // The section of the dog panel that tells what the dog is and where it comes from.
 
 #include "mainwindow/collapsible_frame.h"
-#include "mainwindow/dog_card.h"
+#include "office/cards/dog_card.h"
 
 class QLabel;
 

@@ -1,7 +1,7 @@
 #pragma once
 // The panel of an owner: address, the list of his dogs with fees and payments, the totals.
 
-#include "mainwindow/owner_card.h"
+#include "office/cards/owner_card.h"
 
 #include <QWidget>
 

@@ -2,7 +2,7 @@
 // The section of the dog panel with the dog's owner, and the way to the owner's other dogs.
 
 #include "mainwindow/collapsible_frame.h"
-#include "mainwindow/dog_card.h"
+#include "office/cards/dog_card.h"
 
 class QLabel;
 class QToolButton;

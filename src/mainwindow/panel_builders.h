@@ -1,7 +1,7 @@
 #pragma once
 // What the panels of the main window are laid out with.
 
-#include "mainwindow/card_line.h"
+#include "office/cards/card_line.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #pragma once
 // The panel of a ring: how many breeds and dogs it holds, and their share of all.
 
-#include "mainwindow/node_figures.h"
+#include "office/cards/node_figures.h"
 
 #include <QWidget>
 

@@ -4,7 +4,7 @@
 #include "app/module_values.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/tree_edits.h"
-#include "mainwindow/tree_loader.h"
+#include "office/tree/tree_loader.h"
 #include "mainwindow/tree_search.h"
 #include "mainwindow/window_opener.h"
 #include "store/kruhy.h"

@@ -3,7 +3,7 @@
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "app/start_up.h"
-#include "mainwindow/tree_nodes.h"
+#include "office/tree/tree_nodes.h"
 #include "platform/platform.h"
 #include "store/kruhy.h"
 #include "store/meny.h"

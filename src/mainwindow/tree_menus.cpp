@@ -1,7 +1,7 @@
 #include "mainwindow/tree_menus.h"
 
 #include "app/module_values.h"
-#include "mainwindow/tree_nodes.h"
+#include "office/tree/tree_nodes.h"
 #include "mainwindow/window_opener.h"
 #include "store/plemena.h"
 #include "store/psi.h"

@@ -2,7 +2,7 @@
 
 #include "app/main_window_services.h"
 #include "app/module_values.h"
-#include "mainwindow/node_search.h"
+#include "office/tree/node_search.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 

@@ -3,7 +3,7 @@
 #include "app/common_routines.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
-#include "payments/payment_lookups.h"
+#include "office/payments/payment_lookups.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
 #include "store/uhrady.h"

@@ -3,8 +3,8 @@
 // between a page in the browser and a document in the word processor.
 
 #include "forms/form.h"
-#include "reports/run_progress.h"
-#include "reports/template_engine.h"
+#include "office/papers/run_progress.h"
+#include "office/papers/template_engine.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "reports/fmDiplom.h"
 
-#include "reports/diplomas.h"
+#include "office/papers/diplomas.h"
 
 #include <QLabel>
 

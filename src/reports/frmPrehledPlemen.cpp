@@ -3,7 +3,7 @@
 #include "forms/controls.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
-#include "reports/breed_overview.h"
+#include "office/papers/breed_overview.h"
 
 #include <QVBoxLayout>
 

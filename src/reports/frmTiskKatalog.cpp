@@ -1,7 +1,7 @@
 #include "reports/frmTiskKatalog.h"
 
 #include "forms/controls.h"
-#include "reports/catalogue.h"
+#include "office/papers/catalogue.h"
 
 #include <QVBoxLayout>
 

@@ -1,6 +1,6 @@
 #include "reports/frmTiskPosudku.h"
 
-#include "reports/judging_sheets.h"
+#include "office/papers/judging_sheets.h"
 #include "reports/text_line_boxes.h"
 
 namespace lorvo {

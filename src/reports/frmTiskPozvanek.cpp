@@ -1,6 +1,6 @@
 #include "reports/frmTiskPozvanek.h"
 
-#include "reports/entry_confirmations.h"
+#include "office/papers/entry_confirmations.h"
 #include "reports/text_line_boxes.h"
 
 namespace lorvo {

@@ -1,6 +1,6 @@
 #include "reports/frmTiskSeznamVystavovatelu.h"
 
-#include "reports/exhibitor_list.h"
+#include "office/papers/exhibitor_list.h"
 #include "reports/text_line_boxes.h"
 
 namespace lorvo {

@@ -1,7 +1,7 @@
 #pragma once
 // The window that puts the dog lists out.
 
-#include "reports/dog_lists.h"
+#include "office/papers/dog_lists.h"
 #include "reports/export_window.h"
 
 #include <QGroupBox>

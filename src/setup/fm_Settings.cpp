@@ -6,7 +6,7 @@
 #include "forms/controls.h"
 #include "payments/currency_list.h"
 #include "platform/platform.h"
-#include "setup/catalogue_numbers.h"
+#include "office/numbers/catalogue_numbers.h"
 #include "setup/frmCisteniDB.h"
 #include "setup/frmWizard.h"
 #include "store/meny.h"

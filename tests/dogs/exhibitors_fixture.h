@@ -3,7 +3,7 @@
 // reckons each owner's figures dog by dog with the statements for one row.
 
 #include "app/module_values.h"
-#include "dogs/exhibitor_figures.h"
+#include "office/dogs/exhibitor_figures.h"
 #include "store/majitele.h"
 #include "store/psi_ve_vystavach.h"
 #include "store/routines_fixture.h"

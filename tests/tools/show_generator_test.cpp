@@ -1,7 +1,7 @@
 #include "show/show_generator.h"
 
 #include "app/module_values.h"
-#include "dogs/class_eligibility.h"
+#include "office/dogs/class_eligibility.h"
 #include "store/barvy.h"
 #include "store/data_module.h"
 #include "store/kruhy.h"

@@ -1,7 +1,7 @@
 // Owners and their dogs.
 
 #include "app/module_values.h"
-#include "dogs/class_eligibility.h"
+#include "office/dogs/class_eligibility.h"
 #include "show/show_names.h"
 #include "show/show_parts.h"
 #include "store/majitele.h"

@@ -1,7 +1,7 @@
 #pragma once
 // The steps of filling a show, and what each hands on to the next.
 
-#include "dogs/entry_fee.h"
+#include "office/fees/entry_fee.h"
 #include "platform/values/date_value.h"
 #include "show/dice.h"
 #include "show/show_size.h"

@@ -1,0 +1,48 @@
+#include "desktop/desktop_services.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCursor>
+#include <QMenu>
+
+namespace lorvo {
+
+namespace {
+
+/// Menus take an ampersand as the mark of an access key.
+QString PlainText(QString text) {
+    return text.replace(u'&', QStringLiteral("&&"));
+}
+
+void Fill(QMenu& menu, const std::vector<MenuEntry>& entries) {
+    for (const MenuEntry& entry : entries) {
+        if (entry.separator) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction* action = nullptr;
+        if (entry.submenu.empty()) {
+            action = menu.addAction(PlainText(entry.text));
+        } else {
+            QMenu* submenu = menu.addMenu(PlainText(entry.text));
+            Fill(*submenu, entry.submenu);
+            action = submenu->menuAction();
+        }
+        action->setData(entry.number);
+        action->setEnabled(entry.enabled);
+        action->setCheckable(entry.checked);
+        action->setChecked(entry.checked);
+    }
+}
+
+} // namespace
+
+int DesktopPopupMenus::TrackPopup(const std::vector<MenuEntry>& entries) {
+    QMenu menu(QApplication::activeWindow());
+    menu.setObjectName(QStringLiteral("popupMenu"));
+    Fill(menu, entries);
+    const QAction* chosen = menu.exec(QCursor::pos());
+    return chosen ? chosen->data().toInt() : 0;
+}
+
+} // namespace lorvo

@@ -1,0 +1,18 @@
+#include "desktop/desktop_services.h"
+
+#include <QApplication>
+
+namespace lorvo {
+
+void DesktopUserInterface::SetWaitCursor(bool on) {
+    if (on)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void DesktopUserInterface::ProcessEvents() {
+    QCoreApplication::processEvents();
+}
+
+} // namespace lorvo

@@ -1,0 +1,58 @@
+// The entry: the desktop's real services, the database, the main window, the event loop.
+
+#include "app/start_up.h"
+#include "forms/application.h"
+#include "forms/controls.h"
+#include "mainwindow/fm_main.h"
+#include "desktop/desktop_services.h"
+#include "desktop/termination.h"
+#include "platform/docx/docx_word_processor.h"
+#include "platform/platform.h"
+#include "platform/real_services.h"
+
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <memory>
+
+namespace {
+
+void InstallPlatform(lorvo::Platform& platform) {
+    platform.programFolder = QCoreApplication::applicationDirPath();
+    platform.messages = std::make_unique<lorvo::DesktopMessageBoxes>();
+    platform.menus = std::make_unique<lorvo::DesktopPopupMenus>();
+    platform.ui = std::make_unique<lorvo::DesktopUserInterface>();
+    platform.opener = lorvo::MakeOpenService();
+    platform.settings = lorvo::MakeSettingsTree(platform.programFolder);
+    platform.iniFiles = lorvo::MakeIniFiles();
+    platform.locale = lorvo::MakeLocaleInfo();
+    platform.clock = lorvo::MakeClock();
+    platform.wordProcessors = std::make_unique<lorvo::DocxWordProcessors>(*platform.opener);
+}
+
+/// Calendars and the menus of text boxes speak Czech as the rest of the program does.
+void SpeakCzech(QTranslator& toolkitTexts) {
+    const QLocale czech(QLocale::Czech, QLocale::CzechRepublic);
+    QLocale::setDefault(czech);
+    if (toolkitTexts.load(czech, QStringLiteral("qtbase"), QStringLiteral("_"),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitTexts);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    lorvo::Application application(argc, argv);
+    QTranslator toolkitTexts;
+    SpeakCzech(toolkitTexts);
+    InstallPlatform(lorvo::ThePlatform());
+    lorvo::CloseOnTermination();
+    lorvo::Application::setWindowIcon(lorvo::ProgramIcon(QStringLiteral("lorvo")));
+
+    std::unique_ptr<lorvo::fm_main> mainWindow;
+    return application.Run([&mainWindow] {
+        lorvo::OpenDatabase();
+        mainWindow = std::make_unique<lorvo::fm_main>();
+        mainWindow->Start();
+    });
+}

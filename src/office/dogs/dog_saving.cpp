@@ -1,0 +1,97 @@
+#include "office/dogs/dog_saving.h"
+
+#include "app/main_window_services.h"
+#include "app/module_values.h"
+#include "store/barvy.h"
+#include "store/psi_ve_vystavach.h"
+
+#include <algorithm>
+
+namespace lorvo {
+
+namespace {
+
+const QString kNoColour = QStringLiteral("Nezadáno");
+
+int OwnerOfEntry(const DogEntry& entry) {
+    if (!entry.newOwner)
+        return entry.dog.MajitelID;
+    return Module().SavedOwnerID = InsertOwner(entry.owner);
+}
+
+/// Stores the dog; returns the number that its row had before.
+int StoreDog(Psi& dog, bool adding) {
+    if (adding) {
+        Module().CurrentDogID = 0;
+        dog.ID = InsertDog(dog);
+        return 0;
+    }
+    Module().CurrentDogID = dog.ID;
+    const auto before = DogByID(dog.ID);
+    UpdateDog(dog);
+    return before ? before->Cislo.value_or(0) : 0;
+}
+
+void AddNode(const Psi& dog) {
+    const QString breed = QString::number(dog.PlemenoID);
+    const QString parent =
+        Module().ShowClassesOn ? QStringLiteral("TR%1|%2").arg(breed).arg(dog.Trida) : u'R' + breed;
+    TheMainWindow().AddDogNode(parent, dog.ID, dog.Jmeno.left(kJmenoWidth), dog.PohlaviPes);
+}
+
+void PatchNode(const Psi& dog, int cislo) {
+    MainWindowServices& window = TheMainWindow();
+    const QString node = window.SelectedNode();
+    const QString name = dog.Jmeno.left(kJmenoWidth);
+    window.ShowNodeInfo(node);
+    window.SetItemTitle(name + u' ' + dog.ChovnaStanice);
+    window.SetNodeText(node, cislo > 0 ? QStringLiteral("%1 %2").arg(name).arg(cislo) : name);
+}
+
+/// Sees to it that the name in the owner's box stands among the owners.
+void AddMissingOwner(const Majitele& boxes) {
+    if (boxes.Jmeno.isEmpty() || !OwnersNamed(boxes.Jmeno.trimmed()).empty())
+        return;
+    Majitele owner = boxes;
+    owner.Prijmeni.reset();
+    InsertOwner(owner);
+}
+
+} // namespace
+
+QString CleanedPostCode(QString text) {
+    text.remove(u' ');
+    return text.isEmpty() ? QStringLiteral("0") : text;
+}
+
+bool IsPostCode(const QString& cleaned) {
+    const bool digits =
+        std::all_of(cleaned.begin(), cleaned.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return cleaned == u"0" || (cleaned.size() == 5 && digits);
+}
+
+int KeptColour(int barvaID) {
+    if (barvaID == 0)
+        return 0;
+    const auto colour = ColourByID(barvaID);
+    return colour && !colour->Nazev.isEmpty() && colour->Nazev != kNoColour ? barvaID : 0;
+}
+
+void SaveDog(const DogEntry& entry) {
+    Psi dog = entry.dog;
+    dog.MajitelID = OwnerOfEntry(entry);
+    const int cislo = StoreDog(dog, entry.adding);
+    Module().SavedOwnerID = dog.MajitelID;
+    Module().CurrentDogID = dog.ID;
+    if (entry.adding && CountDogsOfOwner(dog.MajitelID) == 1)
+        MarkFirstDog(dog.ID);
+    if (entry.adding)
+        AddNode(dog);
+    else
+        PatchNode(dog, cislo);
+    AddMissingOwner(entry.owner);
+    DeleteShowsOfDog(dog.ID);
+    TheMainWindow().SelectNode(QStringLiteral("P%1").arg(dog.ID));
+}
+
+} // namespace lorvo

@@ -1,0 +1,37 @@
+#include "office/payments/payment_lookups.h"
+
+#include "app/module_values.h"
+#include "platform/values/errors.h"
+#include "store/meny.h"
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+Psi CurrentDog() {
+    const int dogID = Module().CurrentDogID;
+    if (const auto dog = DogByID(dogID))
+        return *dog;
+    throw StoreError("V tabulce Psi není řádek s číslem " + std::to_string(dogID) + '.');
+}
+
+const QString& PaymentModeText(int uhrada) {
+    const auto& modes = Module().PaymentModes;
+    if (uhrada < 0 || uhrada >= static_cast<int>(modes.size()))
+        throw StoreError("Tabulka Uhrady: neznámý způsob úhrady " + std::to_string(uhrada) + '.');
+    return modes[static_cast<size_t>(uhrada)];
+}
+
+CurrencyAbbreviations::CurrencyAbbreviations() {
+    for (const Meny& currency : Currencies())
+        abbreviations_.emplace(currency.ID, currency.Zkratka);
+}
+
+const QString& CurrencyAbbreviations::Of(int menaID) const {
+    const auto found = abbreviations_.find(menaID);
+    if (found == abbreviations_.end())
+        throw StoreError("V tabulce Meny není řádek s číslem " + std::to_string(menaID) + '.');
+    return found->second;
+}
+
+} // namespace lorvo

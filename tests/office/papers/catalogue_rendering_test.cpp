@@ -1,0 +1,65 @@
+// The catalogue as it comes out on paper.
+
+#include "app/module_values.h"
+#include "platform/docx/docx_word_processor.h"
+#include "office/papers/catalogue.h"
+#include "support/office_program.h"
+#include "support/recording_platform.h"
+#include "support/temp_database.h"
+
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+namespace lorvo::test {
+
+namespace {
+
+/// Two rings with three breeds, males and bitches of two classes in each breed.
+void FillShow(TempDatabase& show) {
+    show.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'Kruh 1 – pracovní plemena'), "
+                 "(2, 'Kruh 2 – společenská plemena');"
+                 "INSERT INTO Plemena (ID, Nazev, NazevOrig, Pouzivat, ID_Kruhu) VALUES "
+                 "(10, 'Boxer', '', -1, 1), (11, 'Čuvač', '', -1, 1), (12, '', 'Pug', -1, 2);"
+                 "INSERT INTO Majitele (ID, Jmeno) VALUES (1, 'Novák Jan'), (2, 'Žižková Eliška');"
+                 "INSERT INTO Oceneni (ID, Nazev) VALUES (1, 'CAC'), (2, 'Vítěz třídy');"
+                 "INSERT INTO PsiOceneni (IDPsa, IDOceneni) VALUES (1, 1), (1, 2)");
+    for (int i = 0; i < 36; ++i)
+        show.Execute(
+            "INSERT INTO Psi (Jmeno, ChovnaStanice, Cislo, PlemenoID, MajitelID, PohlaviPes, "
+            "DatumNar, Trida, Otec, Matka, PK, Chovatel) VALUES ('Dog" +
+            std::to_string(i) + "', 'z Podlesí', " + std::to_string(i + 1) + ", " +
+            std::to_string(10 + i / 12) + ", " + std::to_string(1 + i % 2) + ", " +
+            (i / 6 % 2 == 0 ? "-1" : "0") + ", '2003-05-14T00:00:00', " +
+            std::to_string(3 + i / 3 % 2) +
+            ", 'Áron z Dvora', 'Bára od Řeky', 'CMKU/B/1234/03', 'Dvořák Petr, Zlín')");
+}
+
+} // namespace
+
+TEST(CatalogueRendering, ReadsInTwoColumnsOnALandscapePage) {
+    ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
+    RecordingPlatform platform;
+    FillConstantTables(Module());
+    TempDatabase show;
+    FillShow(show);
+    DocxWordProcessors processors(*ThePlatform().opener, platform.ProgramFolder());
+    const auto word = processors.Create();
+    TypeCatalogue(*word, true);
+    word->Show();
+    ASSERT_EQ(platform.openedFiles.size(), 1);
+
+    const QString pdf = PdfOf(platform.openedFiles.first(), platform.ProgramFolder());
+    EXPECT_TRUE(
+        PdfInfo(pdf).contains(QRegularExpression(QStringLiteral("Page size: +841\\.\\d+ x 595"))));
+    const QString first = PdfPages(pdf).first();
+    const auto neighbours = QRegularExpression(QStringLiteral("Dog0 z Podlesí {4,}[^ ]"));
+    EXPECT_FALSE(first.split(u'\n').filter(neighbours).isEmpty()) << "no two columns:\n"
+                                                                  << first.toStdString();
+    for (const char16_t* text :
+         {u"Kruh 1 – pracovní plemena", u"Boxer", u"   Pes - mezitřída", u"1 Dog0 z Podlesí",
+          u"nar. : 14.5.2003", u"CAC, Vítěz třídy", u"maj. : Žižková Eliška"})
+        EXPECT_TRUE(first.contains(QString::fromUtf16(text).trimmed()))
+            << QString::fromUtf16(text).toStdString();
+}
+
+} // namespace lorvo::test
