@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing. Usage: install_packages.sh run|test
+# Installs the Debian packages that are missing. Usage: install_packages.sh run|test|windows
 # "run" is what building and starting the program takes, "test" adds what its tests and
-# measurements take. Quick when nothing is missing: it then asks the package database alone.
+# measurements take, "windows" what the build for Windows, its proof under Wine and the packages
+# take. Quick when nothing is missing: it then asks the package database alone.
 set -euo pipefail
 
 packages=(
@@ -14,6 +15,13 @@ packages=(
 )
 if [ "${1:-run}" = test ]; then
   packages+=(libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
+fi
+if [ "${1:-run}" = windows ]; then
+  packages+=(
+    g++-mingw-w64-x86-64-posix libz-mingw-w64-dev make dpkg-dev patch tcl python3 icu-devtools
+    qt6-base-dev-tools nsis wine wine64 fonts-wine xvfb xauth xdotool scrot icoutils zip
+    desktop-file-utils appstream lintian debootstrap
+  )
 fi
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [ "${1:-run}" = run ]; then
   packages+=(xvfb xauth xdotool scrot) # a virtual display and a picture of it
