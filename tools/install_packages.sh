@@ -7,8 +7,9 @@ set -euo pipefail
 
 packages=(
   ca-certificates ccache cmake g++ git ninja-build pkg-config
-  qt6-base-dev libqt6svg6-dev libqt6svg6 libgl-dev
+  qt6-base-dev libgl-dev
   libsqlitecpp-dev libsqlite3-dev libicu-dev libzip-dev
+  librsvg2-bin         # rsvg-convert, which draws the icons
   fp-utils             # chmcmd, which compiles the help file
   qt6-translations-l10n # Czech texts of the toolkit's own menus
   fonts-dejavu-core

@@ -70,18 +70,3 @@ QLayout* ButtonRow(std::initializer_list<QPushButton*> buttons) {
 }
 
 } // namespace lorvo
-
-/// Outside the namespace, as the resource compiler's function is.
-static void LoadIconResources() {
-    Q_INIT_RESOURCE(forms);
-}
-
-namespace lorvo {
-
-QIcon ProgramIcon(const QString& name) {
-    static const bool loaded = (LoadIconResources(), true);
-    Q_UNUSED(loaded);
-    return QIcon(QStringLiteral(":/lorvo/icons/%1.svg").arg(name));
-}
-
-} // namespace lorvo

@@ -5,10 +5,8 @@
 #include "support/window_walk.h"
 
 #include <QClipboard>
-#include <QDir>
 #include <QGuiApplication>
 #include <QSignalSpy>
-#include <QSvgRenderer>
 #include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest-spi.h>
@@ -64,16 +62,6 @@ TEST(DatePickerTest, ShowsTheSystemsShortDateAndKeepsDates) {
     EXPECT_EQ(picker->minimumDate(), QDate(1601, 1, 1));
     EXPECT_EQ(picker->maximumDate(), QDate(9999, 12, 31));
     EXPECT_TRUE(picker->calendarPopup());
-}
-
-TEST(ProgramIconTest, EveryPictureOfTheFamilyIsAValidDrawing) {
-    ASSERT_FALSE(ProgramIcon(QStringLiteral("dog")).isNull());
-    const QDir folder(QStringLiteral(":/lorvo/icons"));
-    const QStringList pictures = folder.entryList();
-    EXPECT_GE(pictures.size(), 30);
-    for (const QString& picture : pictures)
-        EXPECT_TRUE(QSvgRenderer(folder.filePath(picture)).isValid()) << qPrintable(picture);
-    EXPECT_FALSE(ProgramIcon(QStringLiteral("dog")).pixmap(16, 16).isNull());
 }
 
 /// A window that holds what the walk asks for.

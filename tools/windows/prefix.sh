@@ -98,14 +98,14 @@ cross_build() {
   cmake --install "$windows/build/$name"
 }
 
-# No network, no SQL, no printing: the program uses none. Debian's source lacks the tablet
+# No network, no SQL, no printing, no scenes: the program uses none. Debian's source lacks the tablet
 # headers, and DirectWrite fonts link only together with Direct2D.
 step_qt() {
   cross_build qt6-base -DBUILD_SHARED_LIBS=ON -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF \
     -DQT_BUILD_TOOLS_BY_DEFAULT=OFF -DFEATURE_icu=ON -DFEATURE_pkg_config=OFF \
     -DINPUT_opengl=no -DFEATURE_opengl=OFF -DFEATURE_vulkan=OFF -DFEATURE_tabletevent=OFF \
     -DFEATURE_direct2d1_1=OFF -DFEATURE_androiddeployqt=OFF \
-    -DFEATURE_{dbus,network,sql,zstd,concurrent,printsupport}=OFF \
+    -DFEATURE_{dbus,network,sql,zstd,concurrent,printsupport,graphicsview,graphicseffect}=OFF \
     -DFEATURE_system_{zlib,png,jpeg,freetype,harfbuzz,pcre2,doubleconversion}=OFF
 }
 

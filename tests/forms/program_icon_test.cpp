@@ -1,0 +1,74 @@
+#include "forms/controls.h"
+
+#include <QDir>
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+constexpr double kScales[] = {1.0, 1.25, 1.5, 2.0, 3.0};
+
+/// The names of all pictures; the first icon asked for loads them.
+QStringList AllNames() {
+    EXPECT_FALSE(ProgramIcon(QStringLiteral("dog")).isNull());
+    QStringList names;
+    for (const QString& file : QDir(QStringLiteral(":/lorvo/icons/16")).entryList())
+        names.append(file.chopped(4));
+    EXPECT_GE(names.size(), 30);
+    return names;
+}
+
+QImage FileOf(const QString& name, int side) {
+    return QImage(QStringLiteral(":/lorvo/icons/%1/%2.png").arg(side).arg(name))
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+QImage Shown(const QString& name, int side, double scale) {
+    return ProgramIcon(name)
+        .pixmap(QSize(side, side), scale)
+        .toImage()
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// The drawing itself, pixel for pixel: nothing was scaled.
+void ExpectCrisp(const QString& name, int side, double scale) {
+    QImage shown = Shown(name, side, scale);
+    shown.setDevicePixelRatio(1);
+    EXPECT_TRUE(shown == FileOf(name, qRound(side * scale)))
+        << qPrintable(name) << " of " << side << " at " << scale;
+}
+
+TEST(ProgramIconTest, EveryPictureIsCrispAtEveryScale) {
+    for (const QString& name : AllNames())
+        for (const int side : {16, 24, 32})
+            for (const double scale : kScales)
+                ExpectCrisp(name, side, scale);
+}
+
+TEST(ProgramIconTest, TheProgramsOwnPictureFillsAPanelCrisply) {
+    for (const double scale : kScales)
+        ExpectCrisp(QStringLiteral("lorvo"), 256, scale);
+}
+
+/// A picture larger than any that was drawn is the largest one, never an empty one.
+TEST(ProgramIconTest, ASizeThatWasNotDrawnIsStillAPicture) {
+    const QImage picture = Shown(QStringLiteral("dog"), 300, 1);
+    EXPECT_TRUE(picture == FileOf(QStringLiteral("dog"), 96));
+}
+
+TEST(ProgramIconTest, EveryPictureButTheBlankOneIsDrawn) {
+    for (const QString& name : AllNames()) {
+        const QImage picture = FileOf(name, 16);
+        QImage nothing(picture.size(), picture.format());
+        nothing.fill(Qt::transparent);
+        EXPECT_EQ(picture == nothing, name == QStringLiteral("blank")) << qPrintable(name);
+    }
+}
+
+TEST(ProgramIconTest, ANameWithoutAPictureIsANullIcon) {
+    EXPECT_TRUE(ProgramIcon(QStringLiteral("unicorn")).isNull());
+}
+
+} // namespace
+} // namespace lorvo
