@@ -1,5 +1,7 @@
 #include "desktop/desktop_services.h"
 
+#include "platform/failure_guard.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -86,6 +88,7 @@ MessageAnswer DesktopMessageBoxes::Show(const QString& text, MessageIcon icon,
     box.setDefaultButton(kinds.front().standard);
     box.setEscapeButton(kinds.back().standard);
     box.exec();
+    RethrowFailure();
     const auto clicked = box.standardButton(box.clickedButton());
     for (const ButtonKind& kind : kinds)
         if (kind.standard == clicked)

@@ -1,5 +1,7 @@
 #include "desktop/desktop_services.h"
 
+#include "platform/failure_guard.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QCursor>
@@ -42,6 +44,7 @@ int DesktopPopupMenus::TrackPopup(const std::vector<MenuEntry>& entries) {
     menu.setObjectName(QStringLiteral("popupMenu"));
     Fill(menu, entries);
     const QAction* chosen = menu.exec(QCursor::pos());
+    RethrowFailure();
     return chosen ? chosen->data().toInt() : 0;
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/desktop_services.h"
 
+#include "platform/failure_guard.h"
+
 #include <QApplication>
 
 namespace lorvo {
@@ -13,6 +15,7 @@ void DesktopUserInterface::SetWaitCursor(bool on) {
 
 void DesktopUserInterface::ProcessEvents() {
     QCoreApplication::processEvents();
+    RethrowFailure();
 }
 
 } // namespace lorvo

@@ -1,5 +1,7 @@
 #include "desktop/termination.h"
 
+#include "platform/failure_guard.h"
+
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
@@ -29,7 +31,7 @@ void CloseOnTermination() {
         return;
     auto* notifier =
         new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, QCoreApplication::instance());
-    QObject::connect(notifier, &QSocketNotifier::activated, notifier, [notifier] {
+    Connect(notifier, &QSocketNotifier::activated, notifier, [notifier] {
         notifier->setEnabled(false);
         QCoreApplication::quit();
     });

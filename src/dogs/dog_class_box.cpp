@@ -1,8 +1,9 @@
 #include "dogs/dog_class_box.h"
 
 #include "app/module_values.h"
-#include "office/dogs/class_eligibility.h"
 #include "forms/controls.h"
+#include "office/dogs/class_eligibility.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/connection.h"
 #include "store/ostatni.h"
@@ -51,7 +52,7 @@ DogClassBox::DogClassBox(QWidget* parent)
         choice_->addButton(button, i);
         optClasses[static_cast<size_t>(i)] = button;
     }
-    connect(choice_, &QButtonGroup::idClicked, this, &DogClassBox::Clicked);
+    Connect(choice_, &QButtonGroup::idClicked, this, &DogClassBox::Clicked);
 }
 
 void DogClassBox::NameClasses() {

@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "dogs/owner_list_model.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -42,9 +43,9 @@ DogOwnerBox::DogOwnerBox(QWidget* parent)
     PrepareForLongList(*cmbOwners);
     cmdAddNameCancel->setEnabled(false);
     LayOut();
-    connect(cmbOwners, &QComboBox::activated, this, &DogOwnerBox::FillBoxes);
-    connect(cmdAddName, &QPushButton::clicked, this, &DogOwnerBox::AddName);
-    connect(cmdAddNameCancel, &QPushButton::clicked, this, &DogOwnerBox::CancelName);
+    Connect(cmbOwners, &QComboBox::activated, this, &DogOwnerBox::FillBoxes);
+    Connect(cmdAddName, &QPushButton::clicked, this, &DogOwnerBox::AddName);
+    Connect(cmdAddNameCancel, &QPushButton::clicked, this, &DogOwnerBox::CancelName);
 }
 
 void DogOwnerBox::LayOut() {

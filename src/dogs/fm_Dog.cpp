@@ -4,9 +4,10 @@
 #include "app/module_values.h"
 #include "dogs/dog_class_box.h"
 #include "dogs/dog_owner_box.h"
-#include "office/dogs/dog_saving.h"
 #include "dogs/stored_texts_combo.h"
 #include "forms/controls.h"
+#include "office/dogs/dog_saving.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 
@@ -48,7 +49,7 @@ void fm_Dog::Load() {
         owner_->ShowOwnerOfDog(dog.MajitelID);
     }
     UpdateClasses();
-    connect(dtBorn, &QDateEdit::dateChanged, this, &fm_Dog::UpdateClasses);
+    Connect(dtBorn, &QDateEdit::dateChanged, this, &fm_Dog::UpdateClasses);
 }
 
 void fm_Dog::ShowDog(const Psi& dog) {

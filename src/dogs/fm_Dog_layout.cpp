@@ -5,6 +5,7 @@
 #include "dogs/fm_Dog.h"
 #include "dogs/stored_texts_combo.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 
 #include <QComboBox>
@@ -45,10 +46,10 @@ fm_Dog::fm_Dog(QWidget* parent)
     layout->addStretch();
     layout->addLayout(ButtonRow({cmd_OK, cmdCancel}));
     resize(kDesignedWidth, sizeHint().height());
-    connect(txtbox[0], &QLineEdit::textChanged, this, &fm_Dog::UpdateOKButton);
-    connect(classes_, &DogClassBox::Clicked, this, &fm_Dog::UpdateOKButton);
-    connect(cmd_OK, &QPushButton::clicked, this, &fm_Dog::OK);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(txtbox[0], &QLineEdit::textChanged, this, &fm_Dog::UpdateOKButton);
+    Connect(classes_, &DogClassBox::Clicked, this, &fm_Dog::UpdateOKButton);
+    Connect(cmd_OK, &QPushButton::clicked, this, &fm_Dog::OK);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 QWidget* fm_Dog::MakeDogSide() {

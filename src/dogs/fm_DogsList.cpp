@@ -3,13 +3,14 @@
 #include "app/common_routines.h"
 #include "app/main_window_services.h"
 #include "app/module_values.h"
-#include "office/dogs/dog_counts_line.h"
-#include "office/dogs/dog_list_figures.h"
 #include "dogs/frmDogListFilter.h"
 #include "dogs/totals_bar.h"
-#include "office/dogs/totals_line.h"
 #include "forms/command_collection.h"
 #include "forms/report_list.h"
+#include "office/dogs/dog_counts_line.h"
+#include "office/dogs/dog_list_figures.h"
+#include "office/dogs/totals_line.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
 #include "store/oceneni.h"
@@ -98,12 +99,12 @@ fm_DogsList::fm_DogsList(QWidget* parent)
     lvwList->AlignRight({kPrice, kCompetitionFees, kPaid, kBalance});
     lvwList->SetSorting(true);
     LayOut();
-    connect(commands_, &CommandCollection::CommandClick, this, [this] {
+    Connect(commands_, &CommandCollection::CommandClick, this, [this] {
         frmDogListFilter filter(this);
         OpenModal(filter);
     });
-    connect(lvwList, &ReportList::DoubleClick, this, &fm_DogsList::JumpToDog);
-    connect(lvwList, &ReportList::RightClick, this, &fm_DogsList::ShowAwardsMenu);
+    Connect(lvwList, &ReportList::DoubleClick, this, &fm_DogsList::JumpToDog);
+    Connect(lvwList, &ReportList::RightClick, this, &fm_DogsList::ShowAwardsMenu);
 }
 
 void fm_DogsList::LayOut() {

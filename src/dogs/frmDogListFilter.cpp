@@ -2,6 +2,7 @@
 
 #include "dogs/dog_filter_choices.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 
 #include <QCheckBox>
@@ -39,8 +40,8 @@ QLineEdit* AddTextRow(QFormLayout& form, const char* name, const QString& captio
     auto* box = Named(new QLineEdit(parent), QString::fromLatin1(name));
     QLabel* label = CaptionFor(box, caption, parent);
     form.addRow(label, box);
-    QObject::connect(box, &QLineEdit::textChanged, label,
-                     [label](const QString& text) { ShowChosen(*label, !text.isEmpty()); });
+    Connect(box, &QLineEdit::textChanged, label,
+            [label](const QString& text) { ShowChosen(*label, !text.isEmpty()); });
     return box;
 }
 
@@ -69,9 +70,9 @@ frmDogListFilter::frmDogListFilter(QWidget* parent)
     resize(560, 420);
     txtJmeno->setFocus();
 
-    connect(cmd_OK, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdMenu, &QPushButton::clicked, this, &frmDogListFilter::ShowBreedMenu);
+    Connect(cmd_OK, &QPushButton::clicked, this, &QDialog::accept);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdMenu, &QPushButton::clicked, this, &frmDogListFilter::ShowBreedMenu);
 }
 
 QWidget* frmDogListFilter::MakeDogPage() {
@@ -172,7 +173,7 @@ ReportList* frmDogListFilter::MakeCheckList(const char* name, const QStringList&
     auto* list = new ReportList(name, headings, label->parentWidget());
     list->SetCheckBoxes(true);
     label->setBuddy(list);
-    connect(list, &ReportList::ItemCheck, label,
+    Connect(list, &ReportList::ItemCheck, label,
             [list, label] { ShowChosen(*label, AnyChecked(*list)); });
     return list;
 }

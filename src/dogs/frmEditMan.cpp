@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/majitele.h"
 
@@ -46,8 +47,8 @@ frmEditMan::frmEditMan(QWidget* parent) : Form("frmEditMan", u"Majitel"_s, Borde
     }
     auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
-    connect(cmdOK, &QPushButton::clicked, this, &frmEditMan::Store);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmEditMan::Store);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);
     column->addLayout(ButtonRow({cmdOK, cmdCancel}));

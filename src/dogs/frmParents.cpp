@@ -3,6 +3,7 @@
 #include "app/main_window_services.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/psi_lists.h"
 
@@ -50,14 +51,14 @@ frmParents::frmParents(QWidget* parent)
     resize(420, 460);
     lvwList->setFocus();
 
-    connect(lvwList, &ReportList::RightClick, this, &frmParents::ShowOffspringMenu);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    Connect(lvwList, &ReportList::RightClick, this, &frmParents::ShowOffspringMenu);
+    Connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 QAction* frmParents::AddToggle(const QString& key, const QString& caption, const QString& picture) {
     QAction* toggle = Named(tbrSouteze->addAction(ProgramIcon(picture), caption), key);
     toggle->setCheckable(true);
-    connect(toggle, &QAction::triggered, this, &frmParents::ShowToggled);
+    Connect(toggle, &QAction::triggered, this, &frmParents::ShowToggled);
     return toggle;
 }
 

@@ -3,6 +3,7 @@
 #include "app/module_values.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "platform/failure_guard.h"
 #include "store/psi_lists.h"
 #include "store/souteze.h"
 #include "store/vazby_souteze.h"
@@ -36,9 +37,9 @@ frmPsiVSoutezi::frmPsiVSoutezi(int soutezID, QWidget* parent)
       dogs_(new QStandardItemModel(tvwDogs)), lvwDogs1(DogList("lvwDogs1", this)),
       picSecondDog(MakeSecondDogPanel()) {
     BuildControls();
-    connect(lvwDogs1, &ReportList::ItemClick, this, &frmPsiVSoutezi::ListPartners);
-    connect(lvwDogs2, &ReportList::ItemCheck, this, &frmPsiVSoutezi::ChoosePartner);
-    connect(dogs_, &QStandardItemModel::itemChanged, this,
+    Connect(lvwDogs1, &ReportList::ItemClick, this, &frmPsiVSoutezi::ListPartners);
+    Connect(lvwDogs2, &ReportList::ItemCheck, this, &frmPsiVSoutezi::ChoosePartner);
+    Connect(dogs_, &QStandardItemModel::itemChanged, this,
             [this](QStandardItem* item) { PassCheck(*item); });
 }
 
@@ -53,8 +54,8 @@ void frmPsiVSoutezi::BuildControls() {
 
     auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
-    connect(cmdOK, &QPushButton::clicked, this, &frmPsiVSoutezi::Store);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmPsiVSoutezi::Store);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addLayout(lists);
     column->addLayout(ButtonRow({cmdOK, cmdCancel}));

@@ -3,13 +3,14 @@
 #include "app/common_routines.h"
 #include "app/main_window_services.h"
 #include "app/module_values.h"
-#include "office/dogs/exhibitor_figures.h"
 #include "dogs/frmEditMan.h"
 #include "dogs/totals_bar.h"
-#include "office/dogs/totals_line.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "office/dogs/exhibitor_figures.h"
+#include "office/dogs/totals_line.h"
 #include "payments/frmUhrady.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
 #include "store/majitele.h"
@@ -112,7 +113,7 @@ frmVystavovatele::frmVystavovatele(QWidget* parent)
 
 void frmVystavovatele::LayOut() {
     auto* cmdCancel = Named(new QPushButton(u"Zavřít"_s, this), u"cmdCancel"_s);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addWidget(lvwList);
     column->addWidget(Label1);
@@ -124,9 +125,9 @@ void frmVystavovatele::LayOut() {
 }
 
 void frmVystavovatele::ConnectList() {
-    connect(lvwList, &ReportList::DoubleClick, this, &frmVystavovatele::EditOwner);
-    connect(lvwList, &ReportList::DeletePressed, this, &frmVystavovatele::DeleteSelected);
-    connect(lvwList, &ReportList::RightClick, this, &frmVystavovatele::ShowMenu);
+    Connect(lvwList, &ReportList::DoubleClick, this, &frmVystavovatele::EditOwner);
+    Connect(lvwList, &ReportList::DeletePressed, this, &frmVystavovatele::DeleteSelected);
+    Connect(lvwList, &ReportList::RightClick, this, &frmVystavovatele::ShowMenu);
 }
 
 void frmVystavovatele::Load() {

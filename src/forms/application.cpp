@@ -1,18 +1,14 @@
 #include "forms/application.h"
 
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 
 #include <QFont>
-#include <QTimer>
 #include <exception>
-#include <utility>
 
 namespace lorvo {
 
 namespace {
-
-/// The first failure that an event handler raised and nobody has passed on yet.
-std::exception_ptr pendingFailure;
 
 QString FailureText(const std::exception_ptr& failure) {
     try {
@@ -37,28 +33,21 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
-        if (!pendingFailure)
-            pendingFailure = std::current_exception();
-        QCoreApplication::exit(1);
+        KeepFailure();
         return true;
     }
 }
 
 int Application::Run(const std::function<void()>& start) {
-    // Within the loop, so that the barrier stands around the start too.
-    QTimer::singleShot(0, this, start);
+    // Within the loop, so that the start ends it as any handler does.
+    Later(this, start);
     const int code = exec();
-    if (!pendingFailure)
+    const std::exception_ptr failure = TakeFailure();
+    if (!failure)
         return code;
-    const auto failure = std::exchange(pendingFailure, nullptr);
     ThePlatform().messages->Show(FailureText(failure), MessageIcon::Stop, MessageButtons::Ok,
                                  QStringLiteral("Lorvo"));
     return 1;
-}
-
-void Application::RethrowFailure() {
-    if (pendingFailure)
-        std::rethrow_exception(std::exchange(pendingFailure, nullptr));
 }
 
 } // namespace lorvo

@@ -1,13 +1,13 @@
 #pragma once
-// The application object with the one barrier for failures that no handler met.
+// The application object, which shows the failure that ended the program.
 
 #include <QApplication>
 #include <functional>
 
 namespace lorvo {
 
-/// Catches what an event handler raises, ends every event loop and passes the failure up through
-/// the modal windows that are open, so that each is unwound in order.
+/// Guards catch a failure where it rises (platform/failure_guard.h); what an event handler without
+/// one lets out is caught here, last, and kept as theirs are.
 class Application : public QApplication {
   public:
     /// Takes argc by reference, as its base does.
@@ -18,10 +18,6 @@ class Application : public QApplication {
     /// Runs `start` (which opens the main window) inside the event loop. A failure of either is
     /// shown in the platform's error box. Returns the exit code: 1 after a failure.
     int Run(const std::function<void()>& start);
-
-    /// Raises again what an event handler raised meanwhile, once. To be called after an event loop
-    /// of one's own has ended.
-    static void RethrowFailure();
 };
 
 } // namespace lorvo

@@ -2,6 +2,7 @@
 
 #include "app/commands.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 
 #include <QAction>
@@ -61,7 +62,7 @@ QAction* CommandCollection::MakeAction(const Command& command) {
     action->setCheckable(command.style == CommandStyle::CheckBox);
     if (!command.toolTip.isEmpty())
         action->setToolTip(command.toolTip.toString());
-    connect(action, &QAction::triggered, this,
+    Connect(action, &QAction::triggered, this,
             [this, key = action->objectName()] { Q_EMIT CommandClick(key); });
     return action;
 }

@@ -1,8 +1,8 @@
 #include "forms/form.h"
 
-#include "forms/application.h"
 #include "forms/form_settings.h"
 #include "forms/report_list.h"
+#include "platform/failure_guard.h"
 
 #include <QLayout>
 #include <QLineEdit>
@@ -53,9 +53,11 @@ void Form::ShowModally() {
     LoadFormSettings(*this, border_ == Border::Fixed);
     LimitTypedTexts();
     Load();
+    RethrowFailure();
     if (unloaded_)
         return;
     Activated();
+    RethrowFailure();
     if (!unloaded_)
         exec();
 }
@@ -69,16 +71,18 @@ void Form::LimitTypedTexts() {
 }
 
 void Form::done(int result) {
-    if (unloaded_)
-        return QDialog::done(result);
-    // An edit in place ends by loss of focus, which a window closed by its frame wouldn't see.
-    for (ReportList* list : findChildren<ReportList*>())
-        list->EndLabelEdit();
-    if (!QueryUnload())
-        return;
-    unloaded_ = true;
-    SaveFormSettings(*this);
-    QDialog::done(result);
+    Guarded([&] {
+        if (unloaded_)
+            return QDialog::done(result);
+        // An edit in place ends by loss of focus, which a window closed by its frame wouldn't see.
+        for (ReportList* list : findChildren<ReportList*>())
+            list->EndLabelEdit();
+        if (!QueryUnload())
+            return;
+        unloaded_ = true;
+        SaveFormSettings(*this);
+        QDialog::done(result);
+    });
 }
 
 void SetActivatedBelow(Activatable* mainWindow) {
@@ -91,7 +95,7 @@ void OpenModal(Form& form) {
         form.ShowModally();
     }
     form.hide();
-    Application::RethrowFailure();
+    RethrowFailure();
     ActivateWindowBelow();
 }
 

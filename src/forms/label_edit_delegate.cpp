@@ -1,5 +1,7 @@
 #include "forms/label_edit_delegate.h"
 
+#include "platform/failure_guard.h"
+
 #include <QHeaderView>
 #include <QPainter>
 #include <QTreeView>
@@ -21,21 +23,25 @@ std::optional<LabelEditDelegate::Edited> LabelEditDelegate::TakeEdited() {
 
 QWidget* LabelEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                          const QModelIndex& index) const {
-    if (mayEdit && !mayEdit(index))
-        return nullptr;
-    editor_ = new QLineEdit(parent);
-    editor_->setObjectName(view_.objectName() + QStringLiteral(".editor"));
-    editor_->setFrame(false);
-    editor_->setMaxLength(kLongestText);
-    editor_->setAutoFillBackground(true);
-    return editor_;
+    return GuardedAnswer(static_cast<QWidget*>(nullptr), [&]() -> QWidget* {
+        if (mayEdit && !mayEdit(index))
+            return nullptr;
+        editor_ = new QLineEdit(parent);
+        editor_->setObjectName(view_.objectName() + QStringLiteral(".editor"));
+        editor_->setFrame(false);
+        editor_->setMaxLength(kLongestText);
+        editor_->setAutoFillBackground(true);
+        return editor_;
+    });
 }
 
 void LabelEditDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
                                      const QModelIndex& index) const {
-    const auto* box = static_cast<QLineEdit*>(editor);
-    if (box->isModified() || untouchedEdits)
-        edited_ = Edited{index, box->text()};
+    Guarded([&] {
+        const auto* box = static_cast<QLineEdit*>(editor);
+        if (box->isModified() || untouchedEdits)
+            edited_ = Edited{index, box->text()};
+    });
 }
 
 QSize LabelEditDelegate::sizeHint(const QStyleOptionViewItem& option,

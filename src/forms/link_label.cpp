@@ -1,5 +1,7 @@
 #include "forms/controls.h"
 
+#include "platform/failure_guard.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyleOption>
@@ -54,20 +56,24 @@ void LinkLabel::mousePressEvent(QMouseEvent* event) {
 }
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
-    if (rect().contains(event->position().toPoint()))
-        Q_EMIT Clicked(event->button());
+    Guarded([&] {
+        if (rect().contains(event->position().toPoint()))
+            Q_EMIT Clicked(event->button());
+    });
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-        Q_EMIT Clicked(Qt::LeftButton);
-        return;
-    default:
-        QLabel::keyPressEvent(event);
-    }
+    Guarded([&] {
+        switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            Q_EMIT Clicked(Qt::LeftButton);
+            return;
+        default:
+            QLabel::keyPressEvent(event);
+        }
+    });
 }
 
 } // namespace lorvo

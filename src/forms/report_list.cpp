@@ -1,6 +1,7 @@
 #include "forms/report_list.h"
 
 #include "forms/report_list_model.h"
+#include "platform/failure_guard.h"
 
 #include <QHeaderView>
 #include <algorithm>
@@ -21,10 +22,10 @@ ReportList::ReportList(const char* name, const QStringList& headings, QWidget* p
     header()->setSectionsMovable(true);
     header()->setStretchLastSection(false);
     header()->setSectionsClickable(true);
-    connect(model_, &ReportListModel::Ticked, this, &ReportList::ItemCheck);
-    connect(this, &QTreeView::clicked, this,
+    Connect(model_, &ReportListModel::Ticked, this, &ReportList::ItemCheck);
+    Connect(this, &QTreeView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT ItemClick(index.row()); });
-    connect(this, &QTreeView::doubleClicked, this,
+    Connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& index) { Q_EMIT DoubleClick(index.row()); });
 }
 
@@ -170,7 +171,7 @@ void ReportList::SetIcons(std::vector<QIcon> icons) {
 void ReportList::SetSorting(bool on) {
     disconnect(header(), &QHeaderView::sectionClicked, this, nullptr);
     if (on)
-        connect(header(), &QHeaderView::sectionClicked, this,
+        Connect(header(), &QHeaderView::sectionClicked, this,
                 [this](int column) { SortListColumn(*this, column); });
 }
 

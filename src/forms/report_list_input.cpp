@@ -1,6 +1,7 @@
 // What the clerk does with a report list by keyboard and mouse.
 #include "forms/label_edit_delegate.h"
 #include "forms/report_list_model.h"
+#include "platform/failure_guard.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -15,6 +16,7 @@ void ReportList::InstallEditing() {
     delegate_->mayEdit = [this](const QModelIndex& index) {
         bool cancel = false;
         Q_EMIT BeforeLabelEdit(index.row(), &cancel);
+        RethrowFailure();
         return !cancel;
     };
     setItemDelegate(delegate_);
@@ -42,55 +44,69 @@ void ReportList::EndLabelEdit() {
         return;
     commitData(editor);
     closeEditor(editor, QAbstractItemDelegate::NoHint);
+    RethrowFailure();
 }
 
 bool ReportList::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
-    // F2 renames the row wherever in it the keyboard stands.
-    return QTreeView::edit(trigger == EditKeyPressed ? index.siblingAtColumn(0) : index, trigger,
-                           event);
+    return GuardedAnswer(false, [&]() -> bool {
+        // F2 renames the row wherever in it the keyboard stands.
+        return QTreeView::edit(trigger == EditKeyPressed ? index.siblingAtColumn(0) : index,
+                               trigger, event);
+    });
 }
 
 void ReportList::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
-    // Tab ends an edit as any loss of focus does and opens no other row.
-    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    if (const auto edited = delegate_->TakeEdited())
-        DeliverEditedText(edited->index, edited->text);
+    Guarded([&] {
+        // Tab ends an edit as any loss of focus does and opens no other row.
+        QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+        if (const auto edited = delegate_->TakeEdited())
+            DeliverEditedText(edited->index, edited->text);
+    });
 }
 
 void ReportList::DeliverEditedText(const QPersistentModelIndex& row, const QString& text) {
     bool cancel = false;
     Q_EMIT AfterLabelEdit(row.row(), text, &cancel);
+    RethrowFailure();
     if (!cancel && row.isValid())
         SetCell(row.row(), 0, text);
 }
 
 void ReportList::keyPressEvent(QKeyEvent* event) {
-    const QModelIndex row = currentIndex().siblingAtColumn(0);
-    if (event->key() == Qt::Key_Delete)
-        Q_EMIT DeletePressed();
-    else if (event->key() == Qt::Key_Space && model_->checkBoxes && row.isValid())
-        model_->setData(row, Row(row.row()).checked ? Qt::Unchecked : Qt::Checked,
-                        Qt::CheckStateRole);
-    else
-        QTreeView::keyPressEvent(event);
+    Guarded([&] {
+        const QModelIndex row = currentIndex().siblingAtColumn(0);
+        if (event->key() == Qt::Key_Delete)
+            Q_EMIT DeletePressed();
+        else if (event->key() == Qt::Key_Space && model_->checkBoxes && row.isValid())
+            model_->setData(row, Row(row.row()).checked ? Qt::Unchecked : Qt::Checked,
+                            Qt::CheckStateRole);
+        else
+            QTreeView::keyPressEvent(event);
+    });
 }
 
 void ReportList::mouseReleaseEvent(QMouseEvent* event) {
-    QTreeView::mouseReleaseEvent(event);
-    if (event->button() == Qt::RightButton)
-        Q_EMIT RightClick(indexAt(event->position().toPoint()).row());
+    Guarded([&] {
+        QTreeView::mouseReleaseEvent(event);
+        if (event->button() == Qt::RightButton)
+            Q_EMIT RightClick(indexAt(event->position().toPoint()).row());
+    });
 }
 
 void ReportList::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Keyboard)
-        Q_EMIT RightClick(SelectedRow());
-    event->accept();
+    Guarded([&] {
+        if (event->reason() == QContextMenuEvent::Keyboard)
+            Q_EMIT RightClick(SelectedRow());
+        event->accept();
+    });
 }
 
 void ReportList::selectionChanged(const QItemSelection& selected,
                                   const QItemSelection& deselected) {
-    QTreeView::selectionChanged(selected, deselected);
-    Q_EMIT SelectionChanged();
+    Guarded([&] {
+        QTreeView::selectionChanged(selected, deselected);
+        Q_EMIT SelectionChanged();
+    });
 }
 
 void ReportList::drawRow(QPainter* painter, const QStyleOptionViewItem& option,

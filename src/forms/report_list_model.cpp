@@ -1,6 +1,7 @@
 #include "forms/report_list_model.h"
 
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 
 #include <QFont>
 
@@ -63,11 +64,13 @@ QVariant ReportListModel::data(const QModelIndex& index, int role) const {
 }
 
 bool ReportListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (!index.isValid() || role != Qt::CheckStateRole || !checkBoxes)
-        return false;
-    EditRow(index.row(), [&](ReportRow& row) { row.checked = value.toInt() == Qt::Checked; });
-    Q_EMIT Ticked(index.row());
-    return true;
+    return GuardedAnswer(false, [&]() -> bool {
+        if (!index.isValid() || role != Qt::CheckStateRole || !checkBoxes)
+            return false;
+        EditRow(index.row(), [&](ReportRow& row) { row.checked = value.toInt() == Qt::Checked; });
+        Q_EMIT Ticked(index.row());
+        return true;
+    });
 }
 
 QVariant ReportListModel::headerData(int section, Qt::Orientation orientation, int role) const {

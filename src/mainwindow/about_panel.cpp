@@ -2,6 +2,7 @@
 
 #include "app/version.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 
 #include <QEvent>
@@ -41,7 +42,7 @@ AboutPanel::AboutPanel(QWidget* parent)
     LayOut();
     lbl_Mailto->installEventFilter(this);
     Label9->installEventFilter(this);
-    connect(lbl_Mailto, &LinkLabel::Clicked, this, &AboutPanel::WriteToAuthor);
+    Connect(lbl_Mailto, &LinkLabel::Clicked, this, &AboutPanel::WriteToAuthor);
 }
 
 void AboutPanel::LayOut() {
@@ -70,12 +71,14 @@ void AboutPanel::WriteToAuthor() {
 }
 
 bool AboutPanel::eventFilter(QObject* watched, QEvent* event) {
-    const bool overLink = watched == lbl_Mailto;
-    if (overLink && event->type() == QEvent::Enter)
-        Q_EMIT MailAddressShown(MailAddress());
-    else if (event->type() == (overLink ? QEvent::Leave : QEvent::Enter))
-        Q_EMIT MailAddressHidden();
-    return QWidget::eventFilter(watched, event);
+    return GuardedAnswer(false, [&]() -> bool {
+        const bool overLink = watched == lbl_Mailto;
+        if (overLink && event->type() == QEvent::Enter)
+            Q_EMIT MailAddressShown(MailAddress());
+        else if (event->type() == (overLink ? QEvent::Leave : QEvent::Enter))
+            Q_EMIT MailAddressHidden();
+        return QWidget::eventFilter(watched, event);
+    });
 }
 
 void AboutPanel::resizeEvent(QResizeEvent* event) {

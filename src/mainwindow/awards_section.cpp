@@ -2,6 +2,7 @@
 
 #include "forms/report_list.h"
 #include "mainwindow/panel_builders.h"
+#include "platform/failure_guard.h"
 
 #include <QVBoxLayout>
 
@@ -21,7 +22,7 @@ AwardsSection::AwardsSection(QWidget* parent)
     lvwOceneni->SetColumnWidths({360});
     auto* column = new QVBoxLayout(Content());
     column->addWidget(lvwOceneni, 1);
-    connect(lvwOceneni, &ReportList::ItemCheck, this, &AwardsSection::Tick);
+    Connect(lvwOceneni, &ReportList::ItemCheck, this, &AwardsSection::Tick);
 }
 
 void AwardsSection::ShowCard(const DogCard& card) {

@@ -5,12 +5,13 @@
 #include "mainwindow/awards_section.h"
 #include "mainwindow/dog_panel.h"
 #include "mainwindow/entries_section.h"
-#include "office/cards/entry_ticks.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/node_panels.h"
 #include "mainwindow/owner_panel.h"
 #include "mainwindow/owner_section.h"
 #include "mainwindow/window_opener.h"
+#include "office/cards/entry_ticks.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/connection.h"
 #include "store/meny.h"
@@ -25,36 +26,36 @@ CardActions::CardActions(MainTree& tree, NodePanels& panels, DogPanel& dogPanel,
 }
 
 void CardActions::ConnectDogPanel(DogPanel& panel) {
-    connect(&panel, &DogPanel::EditClicked, this, &CardActions::EditDog);
+    Connect(&panel, &DogPanel::EditClicked, this, &CardActions::EditDog);
 
     const OwnerSection* owner = &panel.Owner();
-    connect(owner, &OwnerSection::OwnerClicked, this, &CardActions::ClickOwnerName);
-    connect(owner, &OwnerSection::EmailClicked, this, &CardActions::WriteEmail);
-    connect(owner, &OwnerSection::NeighbourClicked, this,
+    Connect(owner, &OwnerSection::OwnerClicked, this, &CardActions::ClickOwnerName);
+    Connect(owner, &OwnerSection::EmailClicked, this, &CardActions::WriteEmail);
+    Connect(owner, &OwnerSection::NeighbourClicked, this,
             [this](const QString& key) { navigation_.GoToDog(key); });
-    connect(owner, &OwnerSection::DogListClicked, this, [this] { navigation_.ShowDogMenu(); });
-    connect(owner, &OwnerSection::EditOwnerClicked, this,
+    Connect(owner, &OwnerSection::DogListClicked, this, [this] { navigation_.ShowDogMenu(); });
+    Connect(owner, &OwnerSection::EditOwnerClicked, this,
             [] { Open(QStringLiteral("frmEditMan")); });
 
     const EntriesSection* entries = &panel.Entries();
-    connect(entries, &EntriesSection::EntriesTicked, this, &CardActions::WriteTickedEntries);
-    connect(entries, &EntriesSection::NewPaymentClicked, this, &CardActions::TakePayment);
-    connect(entries, &EntriesSection::PaymentsClicked, this, &CardActions::ShowPaymentsOfDog);
+    Connect(entries, &EntriesSection::EntriesTicked, this, &CardActions::WriteTickedEntries);
+    Connect(entries, &EntriesSection::NewPaymentClicked, this, &CardActions::TakePayment);
+    Connect(entries, &EntriesSection::PaymentsClicked, this, &CardActions::ShowPaymentsOfDog);
 
-    connect(&panel.AwardsList(), &AwardsSection::AwardsTicked, this,
+    Connect(&panel.AwardsList(), &AwardsSection::AwardsTicked, this,
             [](const CheckLines& awards) { WriteAwards(Module().CurrentDogID, awards); });
 }
 
 void CardActions::ConnectOwnerPanel(OwnerPanel& panel) {
-    connect(&panel, &OwnerPanel::EmailClicked, this, &CardActions::WriteEmail);
-    connect(&panel, &OwnerPanel::PaymentsClicked, this, [] {
+    Connect(&panel, &OwnerPanel::EmailClicked, this, &CardActions::WriteEmail);
+    Connect(&panel, &OwnerPanel::PaymentsClicked, this, [] {
         Module().PaymentsOwner = Module().CurrentOwner;
         Open(QStringLiteral("frmUhrady"));
     });
-    connect(&panel, &OwnerPanel::BackClicked, this, &CardActions::BackToDog);
-    connect(&panel, &OwnerPanel::DogClicked, this,
+    Connect(&panel, &OwnerPanel::BackClicked, this, &CardActions::BackToDog);
+    Connect(&panel, &OwnerPanel::DogClicked, this,
             [this](const QString& key) { navigation_.SelectDog(key); });
-    connect(&panel, &OwnerPanel::DogDoubleClicked, this, [this] { panels_.ShowSelectedNode(); });
+    Connect(&panel, &OwnerPanel::DogDoubleClicked, this, [this] { panels_.ShowSelectedNode(); });
 }
 
 void CardActions::EditDog() {

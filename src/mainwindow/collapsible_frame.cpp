@@ -1,5 +1,7 @@
 #include "mainwindow/collapsible_frame.h"
 
+#include "platform/failure_guard.h"
+
 #include <QEvent>
 #include <QLayout>
 #include <QToolButton>
@@ -36,7 +38,7 @@ CollapsibleFrame::CollapsibleFrame(const char* name, const QString& title, int o
     QFont font = header_->font();
     font.setBold(true);
     header_->setFont(font);
-    connect(header_, &QToolButton::clicked, this, &CollapsibleFrame::Toggle);
+    Connect(header_, &QToolButton::clicked, this, &CollapsibleFrame::Toggle);
 }
 
 int CollapsibleFrame::Pixels(const QWidget& widget, int units) {

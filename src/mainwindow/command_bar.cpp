@@ -3,6 +3,7 @@
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "mainwindow/window_opener.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 
 #include <QAction>
@@ -52,7 +53,7 @@ MainCommandBar::MainCommandBar(CommandTarget& target, QObject* parent)
     const auto& windows = WindowsOfCommands();
     for (auto row = windows.begin(); row != windows.end(); ++row)
         Action(row.key())->setEnabled(CanOpen(row.value()));
-    connect(this, &CommandCollection::CommandClick, this, &MainCommandBar::Run);
+    Connect(this, &CommandCollection::CommandClick, this, &MainCommandBar::Run);
 }
 
 void MainCommandBar::Run(const QString& key) {

@@ -7,6 +7,7 @@
 #include "mainwindow/owner_section.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/window_opener.h"
+#include "platform/failure_guard.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -31,7 +32,7 @@ DogPanel::DogPanel(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addLayout(top);
     column->addWidget(Sections(), 1);
-    connect(lblEdit, &LinkLabel::Clicked, this, &DogPanel::EditClicked);
+    Connect(lblEdit, &LinkLabel::Clicked, this, &DogPanel::EditClicked);
 }
 
 QScrollArea* DogPanel::Sections() {

@@ -2,9 +2,10 @@
 
 #include "forms/controls.h"
 #include "forms/report_list.h"
-#include "office/cards/entry_ticks.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/window_opener.h"
+#include "office/cards/entry_ticks.h"
+#include "platform/failure_guard.h"
 
 #include <QHBoxLayout>
 
@@ -41,9 +42,9 @@ EntriesSection::EntriesSection(QWidget* parent)
     column->addWidget(lvwSouteze, 1);
     column->addLayout(Links());
 
-    connect(lvwSouteze, &ReportList::ItemCheck, this, &EntriesSection::Tick);
-    connect(lblNovaPlatba, &LinkLabel::Clicked, this, &EntriesSection::NewPaymentClicked);
-    connect(lblSeznamPlateb, &LinkLabel::Clicked, this, &EntriesSection::PaymentsClicked);
+    Connect(lvwSouteze, &ReportList::ItemCheck, this, &EntriesSection::Tick);
+    Connect(lblNovaPlatba, &LinkLabel::Clicked, this, &EntriesSection::NewPaymentClicked);
+    Connect(lblSeznamPlateb, &LinkLabel::Clicked, this, &EntriesSection::PaymentsClicked);
 }
 
 QLayout* EntriesSection::Values() {

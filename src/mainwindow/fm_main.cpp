@@ -12,6 +12,7 @@
 #include "mainwindow/return_watch.h"
 #include "mainwindow/status_panels.h"
 #include "mainwindow/tree_commands.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
 
@@ -75,18 +76,18 @@ void fm_main::MakeSplitter() {
     vbuSplit->setStretchFactor(1, 1);
     PlaceSplitter(*vbuSplit, kDesignedTreeWidth);
     setCentralWidget(vbuSplit);
-    connect(tvwMain, &MainTree::NodeClick, cmdBar, &MainCommandBar::NodeClicked);
+    Connect(tvwMain, &MainTree::NodeClick, cmdBar, &MainCommandBar::NodeClicked);
 }
 
 void fm_main::MakeAboutPanel() {
     picAbout = new AboutPanel(picDetails);
     picDetails->AddPanel(picAbout);
-    connect(picAbout, &AboutPanel::MailAddressShown, sbMain, [this](const QString& address) {
+    Connect(picAbout, &AboutPanel::MailAddressShown, sbMain, [this](const QString& address) {
         sbMain->Clear();
         sbMain->SetPanel(1, address);
         sbMain->SetPanelVisible(1, true);
     });
-    connect(picAbout, &AboutPanel::MailAddressHidden, sbMain, &StatusPanels::Clear);
+    Connect(picAbout, &AboutPanel::MailAddressHidden, sbMain, &StatusPanels::Clear);
 }
 
 // Start and end -----------------------------------------------------------------------------------
@@ -94,12 +95,11 @@ void fm_main::MakeAboutPanel() {
 void fm_main::Start() {
     Load();
     show();
-    connect(new ReturnWatch(*this), &ReturnWatch::Returned, this, [this] {
+    Connect(new ReturnWatch(*this), &ReturnWatch::Returned, this, [this] {
         if (!IsModalOpen())
             Activate();
     });
-    QMetaObject::invokeMethod(
-        this, [this] { Activate(); }, Qt::QueuedConnection);
+    Later(this, [this] { Activate(); });
 }
 
 void fm_main::Load() {
@@ -162,8 +162,8 @@ void fm_main::ShowAgain(const QString& key) {
 }
 
 void fm_main::closeEvent(QCloseEvent* event) {
-    Unload();
     event->accept();
+    Guarded([this] { Unload(); });
 }
 
 void fm_main::Unload() {

@@ -4,6 +4,7 @@
 #include "app/module_values.h"
 #include "forms/controls.h"
 #include "mainwindow/tree_search.h"
+#include "platform/failure_guard.h"
 
 #include <QVBoxLayout>
 
@@ -29,8 +30,8 @@ frmFind::frmFind(QWidget* parent)
     column->addWidget(frame);
     column->addLayout(ButtonRow({cdmOK, cmdCancel}));
 
-    connect(cdmOK, &QPushButton::clicked, this, &frmFind::Find);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cdmOK, &QPushButton::clicked, this, &frmFind::Find);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmFind::Load() {

@@ -5,6 +5,7 @@
 #include "forms/controls.h"
 #include "mainwindow/node_delegate.h"
 #include "office/tree/tree_loader.h"
+#include "platform/failure_guard.h"
 
 #include <QDrag>
 #include <QDragMoveEvent>
@@ -54,15 +55,15 @@ MainTree::MainTree(TreeNodes& nodes, QWidget* parent)
     setDragDropMode(DragDrop);
     setDragDropOverwriteMode(true); // a drop lands on a node, never between two
 
-    connect(this, &QTreeView::clicked, this,
+    Connect(this, &QTreeView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT NodeClick(TreeModel::NodeAt(index)); });
-    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+    Connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
         if (index.isValid())
             Q_EMIT NodeDoubleClick(TreeModel::NodeAt(index));
     });
-    connect(this, &QTreeView::collapsed, this,
+    Connect(this, &QTreeView::collapsed, this,
             [this](const QModelIndex& index) { Q_EMIT NodeCollapse(TreeModel::NodeAt(index)); });
-    connect(model_, &TreeModel::LabelEdited, this, &MainTree::LabelEdited);
+    Connect(model_, &TreeModel::LabelEdited, this, &MainTree::LabelEdited);
 }
 
 void MainTree::LoadData() {
@@ -111,9 +112,11 @@ void MainTree::StartLabelEdit(const TreeNode* node) {
 }
 
 bool MainTree::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
-    if (trigger == AllEditTriggers && !std::exchange(Module().LabelEditAllowed, false))
-        return false;
-    return QTreeView::edit(index, trigger, event);
+    return GuardedAnswer(false, [&]() -> bool {
+        if (trigger == AllEditTriggers && !std::exchange(Module().LabelEditAllowed, false))
+            return false;
+        return QTreeView::edit(index, trigger, event);
+    });
 }
 
 void MainTree::SetSelectionBarShown(bool shown) {
@@ -181,60 +184,72 @@ MainTree::Signal MainTree::SignalOf(const QKeyEvent& event) {
 }
 
 void MainTree::keyPressEvent(QKeyEvent* event) {
-    if (state() == EditingState)
-        return QTreeView::keyPressEvent(event);
-    const Signal signal = SignalOf(*event);
-    if (!signal || event->key() == Qt::Key_Home)
-        QTreeView::keyPressEvent(event);
-    if (signal)
-        Q_EMIT(this->*signal)();
-    Q_EMIT KeyDone();
+    Guarded([&] {
+        if (state() == EditingState)
+            return QTreeView::keyPressEvent(event);
+        const Signal signal = SignalOf(*event);
+        if (!signal || event->key() == Qt::Key_Home)
+            QTreeView::keyPressEvent(event);
+        if (signal)
+            Q_EMIT(this->*signal)();
+        Q_EMIT KeyDone();
+    });
 }
 
 void MainTree::mousePressEvent(QMouseEvent* event) {
-    const TreeNode* node = NodeUnder(event->position().toPoint());
-    QTreeView::mousePressEvent(event);
-    // The view itself leaves the selection alone on the opening sign. Nothing may scroll here, or
-    // the release would hit another node.
-    if (node && node != SelectedNode())
-        selectionModel()->setCurrentIndex(model_->IndexOf(node),
-                                          QItemSelectionModel::ClearAndSelect);
+    Guarded([&] {
+        const TreeNode* node = NodeUnder(event->position().toPoint());
+        QTreeView::mousePressEvent(event);
+        // The view itself leaves the selection alone on the opening sign. Nothing may scroll here,
+        // or the release would hit another node.
+        if (node && node != SelectedNode())
+            selectionModel()->setCurrentIndex(model_->IndexOf(node),
+                                              QItemSelectionModel::ClearAndSelect);
+    });
 }
 
 void MainTree::mouseMoveEvent(QMouseEvent* event) {
-    // A pressed button drags a breed or a dog; it never moves the selection.
-    const TreeNode* node = SelectedNode();
-    const bool draggable = node && model_->flags(model_->IndexOf(node)) & Qt::ItemIsDragEnabled;
-    if (event->buttons() == Qt::NoButton || draggable)
-        QTreeView::mouseMoveEvent(event);
+    Guarded([&] {
+        // A pressed button drags a breed or a dog; it never moves the selection.
+        const TreeNode* node = SelectedNode();
+        const bool draggable = node && model_->flags(model_->IndexOf(node)) & Qt::ItemIsDragEnabled;
+        if (event->buttons() == Qt::NoButton || draggable)
+            QTreeView::mouseMoveEvent(event);
+    });
 }
 
 void MainTree::mouseReleaseEvent(QMouseEvent* event) {
-    QTreeView::mouseReleaseEvent(event);
-    if (event->button() == Qt::RightButton)
-        Q_EMIT RightClick(NodeUnder(event->position().toPoint()));
+    Guarded([&] {
+        QTreeView::mouseReleaseEvent(event);
+        if (event->button() == Qt::RightButton)
+            Q_EMIT RightClick(NodeUnder(event->position().toPoint()));
+    });
 }
 
 void MainTree::startDrag(Qt::DropActions) {
-    const TreeNode* node = SelectedNode();
-    if (!node)
-        return;
-    auto* drag = new QDrag(this);
-    drag->setMimeData(model_->mimeData({model_->IndexOf(node)}));
-    drag->setPixmap(IconOf(*node).pixmap(iconSize()));
-    drag->exec(Qt::MoveAction);
+    Guarded([&] {
+        const TreeNode* node = SelectedNode();
+        if (!node)
+            return;
+        auto* drag = new QDrag(this);
+        drag->setMimeData(model_->mimeData({model_->IndexOf(node)}));
+        drag->setPixmap(IconOf(*node).pixmap(iconSize()));
+        drag->exec(Qt::MoveAction);
+    });
 }
 
 void MainTree::dropEvent(QDropEvent* event) {
-    TreeNode* dragged = nodes_.Find(event->mimeData()->text());
-    TreeNode* target = NodeUnder(event->position().toPoint());
-    stopAutoScroll();
-    setState(NoState);
-    viewport()->update();
-    event->setDropAction(Qt::IgnoreAction);
-    event->accept();
-    if (dragged && target)
-        Q_EMIT NodeDropped(dragged, target);
+    Guarded([&] {
+        TreeNode* dragged = nodes_.Find(event->mimeData()->text());
+        TreeNode* target = NodeUnder(event->position().toPoint());
+        stopAutoScroll();
+        setState(NoState);
+        viewport()->update();
+        event->setDropAction(Qt::IgnoreAction);
+        event->accept();
+        if (dragged && target)
+            Q_EMIT NodeDropped(dragged, target);
+    });
 }
 
 } // namespace lorvo

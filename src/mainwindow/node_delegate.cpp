@@ -1,5 +1,7 @@
 #include "mainwindow/node_delegate.h"
 
+#include "platform/failure_guard.h"
+
 #include <QLineEdit>
 
 namespace lorvo {
@@ -16,12 +18,14 @@ void NodeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
 
 QWidget* NodeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const {
-    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-    if (auto* line = qobject_cast<QLineEdit*>(editor)) {
-        line->setObjectName(QStringLiteral("tvwMain.editor"));
-        line->setMaxLength(kLongestName);
-    }
-    return editor;
+    return GuardedAnswer(static_cast<QWidget*>(nullptr), [&]() -> QWidget* {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+            line->setObjectName(QStringLiteral("tvwMain.editor"));
+            line->setMaxLength(kLongestName);
+        }
+        return editor;
+    });
 }
 
 } // namespace lorvo

@@ -8,12 +8,13 @@
 #include "mainwindow/dog_panel.h"
 #include "mainwindow/fci_panel.h"
 #include "mainwindow/main_tree.h"
-#include "office/tree/node_history.h"
 #include "mainwindow/owner_panel.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/ring_panel.h"
 #include "mainwindow/status_panels.h"
 #include "mainwindow/window_opener.h"
+#include "office/tree/node_history.h"
+#include "platform/failure_guard.h"
 
 #include <QHBoxLayout>
 #include <QScopeGuard>
@@ -68,7 +69,7 @@ NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& histor
     navigation_ = std::make_unique<OwnerNavigation>(tree, *this);
     actions_ =
         std::make_unique<CardActions>(tree, *this, *picPesInfo, *picMajitelInfo, *navigation_);
-    connect(picKruhInfo, &RingPanel::EditClicked, this, &NodePanels::EditRing);
+    Connect(picKruhInfo, &RingPanel::EditClicked, this, &NodePanels::EditRing);
 }
 
 NodePanels::~NodePanels() = default;
@@ -91,11 +92,11 @@ QLayout* NodePanels::TitleRow() {
     const NodeHistory::Show show = [this](const QString& key) {
         ShowNodeInfo(key);
     };
-    connect(cmdHistoryBack, &QPushButton::clicked, this, [this, show] {
+    Connect(cmdHistoryBack, &QPushButton::clicked, this, [this, show] {
         history_.GoBack(show);
         UpdateHistoryButtons();
     });
-    connect(cmdHistoryFwd, &QPushButton::clicked, this, [this, show] {
+    Connect(cmdHistoryFwd, &QPushButton::clicked, this, [this, show] {
         history_.GoForward(show);
         UpdateHistoryButtons();
     });

@@ -4,6 +4,7 @@
 #include "forms/report_list.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/window_opener.h"
+#include "platform/failure_guard.h"
 
 #include <QHBoxLayout>
 
@@ -57,12 +58,12 @@ OwnerPanel::OwnerPanel(QWidget* parent)
     column->addWidget(lvwDogs, 1);
     column->addLayout(Totals());
 
-    connect(email_, &LinkLabel::Clicked, this, [this] { Q_EMIT EmailClicked(email_->text()); });
-    connect(lblSeznamPlateb1, &LinkLabel::Clicked, this, &OwnerPanel::PaymentsClicked);
-    connect(Label21, &LinkLabel::Clicked, this, &OwnerPanel::BackClicked);
-    connect(lvwDogs, &ReportList::ItemClick, this,
+    Connect(email_, &LinkLabel::Clicked, this, [this] { Q_EMIT EmailClicked(email_->text()); });
+    Connect(lblSeznamPlateb1, &LinkLabel::Clicked, this, &OwnerPanel::PaymentsClicked);
+    Connect(Label21, &LinkLabel::Clicked, this, &OwnerPanel::BackClicked);
+    Connect(lvwDogs, &ReportList::ItemClick, this,
             [this](int position) { Q_EMIT DogClicked(lvwDogs->Row(position).key); });
-    connect(lvwDogs, &ReportList::DoubleClick, this, &OwnerPanel::DogDoubleClicked);
+    Connect(lvwDogs, &ReportList::DoubleClick, this, &OwnerPanel::DogDoubleClicked);
 }
 
 QLayout* OwnerPanel::Lines() {

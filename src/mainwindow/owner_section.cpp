@@ -3,6 +3,7 @@
 #include "forms/controls.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/window_opener.h"
+#include "platform/failure_guard.h"
 
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -43,13 +44,13 @@ OwnerSection::OwnerSection(QWidget* parent)
     for (std::size_t i = 1; i < inReadingOrder.size(); ++i)
         setTabOrder(inReadingOrder[i - 1], inReadingOrder[i]);
 
-    connect(name_, &LinkLabel::Clicked, this, &OwnerSection::OwnerClicked);
-    connect(email_, &LinkLabel::Clicked, this, [this] { Q_EMIT EmailClicked(email_->text()); });
-    connect(picPrev, &QToolButton::clicked, this,
+    Connect(name_, &LinkLabel::Clicked, this, &OwnerSection::OwnerClicked);
+    Connect(email_, &LinkLabel::Clicked, this, [this] { Q_EMIT EmailClicked(email_->text()); });
+    Connect(picPrev, &QToolButton::clicked, this,
             [this] { Q_EMIT NeighbourClicked(previousKey_); });
-    connect(picNext, &QToolButton::clicked, this, [this] { Q_EMIT NeighbourClicked(nextKey_); });
-    connect(picList, &QToolButton::clicked, this, &OwnerSection::DogListClicked);
-    connect(picEditMajitele, &QToolButton::clicked, this, &OwnerSection::EditOwnerClicked);
+    Connect(picNext, &QToolButton::clicked, this, [this] { Q_EMIT NeighbourClicked(nextKey_); });
+    Connect(picList, &QToolButton::clicked, this, &OwnerSection::DogListClicked);
+    Connect(picEditMajitele, &QToolButton::clicked, this, &OwnerSection::EditOwnerClicked);
 }
 
 QLayout* OwnerSection::Lines() {

@@ -1,5 +1,7 @@
 #include "mainwindow/return_watch.h"
 
+#include "platform/failure_guard.h"
+
 #include <QGuiApplication>
 #include <QWidget>
 #include <QWindow>
@@ -9,8 +11,8 @@ namespace lorvo {
 
 ReturnWatch::ReturnWatch(QWidget& window) : QObject(&window), window_(window) {
     FocusMoved(QGuiApplication::focusWindow());
-    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &ReturnWatch::FocusMoved);
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &ReturnWatch::StateChanged);
+    Connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &ReturnWatch::FocusMoved);
+    Connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &ReturnWatch::StateChanged);
 }
 
 void ReturnWatch::FocusMoved(QWindow* focused) {

@@ -2,6 +2,7 @@
 
 #include "forms/controls.h"
 #include "mainwindow/panel_builders.h"
+#include "platform/failure_guard.h"
 
 #include <QVBoxLayout>
 
@@ -25,7 +26,7 @@ RingPanel::RingPanel(QWidget* parent)
     column->addLayout(grid.Layout());
     column->addWidget(lblEditKruh, 0, Qt::AlignLeft);
     column->addStretch();
-    connect(lblEditKruh, &LinkLabel::Clicked, this, &RingPanel::EditClicked);
+    Connect(lblEditKruh, &LinkLabel::Clicked, this, &RingPanel::EditClicked);
 }
 
 void RingPanel::ShowFigures(const RingFigures& figures) {

@@ -4,9 +4,10 @@
 #include "app/module_values.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/tree_edits.h"
-#include "office/tree/tree_loader.h"
 #include "mainwindow/tree_search.h"
 #include "mainwindow/window_opener.h"
+#include "office/tree/tree_loader.h"
+#include "platform/failure_guard.h"
 #include "store/kruhy.h"
 
 namespace lorvo {
@@ -17,21 +18,21 @@ TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* 
     const auto show = [this](TreeNode* node) {
         window_.ShowNodeInfo(node->Key());
     };
-    connect(&tree_, &MainTree::NodeClick, this, show);
-    connect(&tree_, &MainTree::NodeCollapse, this, show);
-    connect(&tree_, &MainTree::NodeDoubleClick, this, &TreeCommands::EditDog);
-    connect(&tree_, &MainTree::RightClick, this, &TreeCommands::ShowMenu);
-    connect(&tree_, &MainTree::DeletePressed, this, [this] {
+    Connect(&tree_, &MainTree::NodeClick, this, show);
+    Connect(&tree_, &MainTree::NodeCollapse, this, show);
+    Connect(&tree_, &MainTree::NodeDoubleClick, this, &TreeCommands::EditDog);
+    Connect(&tree_, &MainTree::RightClick, this, &TreeCommands::ShowMenu);
+    Connect(&tree_, &MainTree::DeletePressed, this, [this] {
         if (TreeNode* node = tree_.SelectedNode())
             edits_->Remove(node);
     });
-    connect(&tree_, &MainTree::RenamePressed, this, &TreeCommands::RenameSelected);
-    connect(&tree_, &MainTree::FindPressed, this, &TreeCommands::Find);
-    connect(&tree_, &MainTree::FindNextPressed, this, &TreeCommands::FindNext);
-    connect(&tree_, &MainTree::HomePressed, this, [] { Module().FindStart = 1; });
-    connect(&tree_, &MainTree::KeyDone, this, &TreeCommands::ShowSelected);
-    connect(&tree_, &MainTree::LabelEdited, this, &TreeCommands::StoreEditedText);
-    connect(&tree_, &MainTree::NodeDropped, this,
+    Connect(&tree_, &MainTree::RenamePressed, this, &TreeCommands::RenameSelected);
+    Connect(&tree_, &MainTree::FindPressed, this, &TreeCommands::Find);
+    Connect(&tree_, &MainTree::FindNextPressed, this, &TreeCommands::FindNext);
+    Connect(&tree_, &MainTree::HomePressed, this, [] { Module().FindStart = 1; });
+    Connect(&tree_, &MainTree::KeyDone, this, &TreeCommands::ShowSelected);
+    Connect(&tree_, &MainTree::LabelEdited, this, &TreeCommands::StoreEditedText);
+    Connect(&tree_, &MainTree::NodeDropped, this,
             [this](TreeNode* dragged, TreeNode* target) { edits_->Drop(dragged, target); });
 }
 
@@ -53,7 +54,7 @@ void TreeCommands::StoreEditedText(TreeNode* node, const QString& text) {
         window_.SetItemTitle(name);
     }
     // After the pending events, when the edit box has gone.
-    QMetaObject::invokeMethod(this, &TreeCommands::ShowSelected, Qt::QueuedConnection);
+    Later(this, [this] { ShowSelected(); });
 }
 
 void TreeCommands::RenameSelected() {

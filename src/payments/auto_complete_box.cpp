@@ -1,5 +1,7 @@
 #include "payments/auto_complete_box.h"
 
+#include "platform/failure_guard.h"
+
 #include <QCompleter>
 #include <QFocusEvent>
 #include <QStringListModel>
@@ -23,14 +25,19 @@ void AutoCompleteBox::AddSuggestions(const std::vector<QString>& texts) {
 }
 
 void AutoCompleteBox::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    Q_EMIT FocusEntered();
+    Guarded([&] {
+        QLineEdit::focusInEvent(event);
+        Q_EMIT FocusEntered();
+    });
 }
 
 void AutoCompleteBox::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        Q_EMIT FocusLeft();
+    Guarded([&] {
+        QLineEdit::focusOutEvent(event);
+        if (event->reason() != Qt::PopupFocusReason &&
+            event->reason() != Qt::ActiveWindowFocusReason)
+            Q_EMIT FocusLeft();
+    });
 }
 
 } // namespace lorvo

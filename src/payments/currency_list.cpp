@@ -5,6 +5,7 @@
 #include "forms/command_collection.h"
 #include "forms/report_list.h"
 #include "payments/frmEditCurrency.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/meny.h"
 #include "store/uhrady.h"
@@ -42,9 +43,9 @@ CurrencyList::CurrencyList(QWidget* parent)
     column->addWidget(commands_->MakeBar(u"CURRENCIESLIST"_s, this));
     column->addWidget(lvwCurrencies);
 
-    connect(commands_, &CommandCollection::CommandClick, this, &CurrencyList::CarryOut);
-    connect(lvwCurrencies, &ReportList::DeletePressed, this, &CurrencyList::DeleteByKey);
-    connect(lvwCurrencies, &ReportList::DoubleClick, this, &CurrencyList::EditSelected);
+    Connect(commands_, &CommandCollection::CommandClick, this, &CurrencyList::CarryOut);
+    Connect(lvwCurrencies, &ReportList::DeletePressed, this, &CurrencyList::DeleteByKey);
+    Connect(lvwCurrencies, &ReportList::DoubleClick, this, &CurrencyList::EditSelected);
 }
 
 void CurrencyList::Refill() {

@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "store/meny.h"
@@ -28,9 +29,9 @@ frmEditCurrency::frmEditCurrency(std::function<void(bool)> onStored, QWidget* pa
       onStored_(std::move(onStored)) {
     BuildControls();
     for (QLineEdit* box : txtEditCurr)
-        connect(box, &QLineEdit::textChanged, this, &frmEditCurrency::EnableOK);
-    connect(chkMainCurr, &QCheckBox::toggled, this, &frmEditCurrency::FollowMainMark);
-    connect(cmdOK, &QPushButton::clicked, this, &frmEditCurrency::Store);
+        Connect(box, &QLineEdit::textChanged, this, &frmEditCurrency::EnableOK);
+    Connect(chkMainCurr, &QCheckBox::toggled, this, &frmEditCurrency::FollowMainMark);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmEditCurrency::Store);
 }
 
 void frmEditCurrency::BuildControls() {
@@ -47,7 +48,7 @@ void frmEditCurrency::BuildControls() {
     note->setWordWrap(true);
     cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);

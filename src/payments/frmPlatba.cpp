@@ -3,9 +3,10 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
-#include "payments/auto_complete_box.h"
 #include "office/payments/payment_lookups.h"
+#include "payments/auto_complete_box.h"
 #include "payments/price_box.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "store/meny.h"
@@ -62,7 +63,7 @@ void frmPlatba::LayOut() {
     form->addRow(CaptionFor(acUcet, u"Číslo ú&čtu"_s, this), acUcet);
     form->addRow(CaptionFor(dtPrijata, u"&Přijato"_s, this), dtPrijata);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);
@@ -72,14 +73,14 @@ void frmPlatba::LayOut() {
 
 void frmPlatba::ConnectControls() {
     txtCastka->installEventFilter(this);
-    connect(txtCastka, &QLineEdit::textChanged, this, &frmPlatba::FollowAmount);
-    connect(cmbMena, &QComboBox::currentIndexChanged, this, &frmPlatba::ShowConverted);
-    connect(cmbZpusob, &QComboBox::currentIndexChanged, this,
+    Connect(txtCastka, &QLineEdit::textChanged, this, &frmPlatba::FollowAmount);
+    Connect(cmbMena, &QComboBox::currentIndexChanged, this, &frmPlatba::ShowConverted);
+    Connect(cmbZpusob, &QComboBox::currentIndexChanged, this,
             [this](int mode) { acUcet->setEnabled(mode == kTransfer); });
     // Enter in the account box takes the suggestion, it doesn't store the payment yet.
-    connect(acUcet, &AutoCompleteBox::FocusEntered, this, [this] { cmdOK->setDefault(false); });
-    connect(acUcet, &AutoCompleteBox::FocusLeft, this, [this] { cmdOK->setDefault(true); });
-    connect(cmdOK, &QPushButton::clicked, this, &frmPlatba::Store);
+    Connect(acUcet, &AutoCompleteBox::FocusEntered, this, [this] { cmdOK->setDefault(false); });
+    Connect(acUcet, &AutoCompleteBox::FocusLeft, this, [this] { cmdOK->setDefault(true); });
+    Connect(cmdOK, &QPushButton::clicked, this, &frmPlatba::Store);
 }
 
 void frmPlatba::Load() {
@@ -104,12 +105,14 @@ void frmPlatba::FillCurrencies() {
 }
 
 bool frmPlatba::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == txtCastka && event->type() == QEvent::FocusIn) {
-        txtCastka->selectAll();
-        // A click sets the cursor only after the focus has come.
-        QMetaObject::invokeMethod(txtCastka, &QLineEdit::selectAll, Qt::QueuedConnection);
-    }
-    return Form::eventFilter(watched, event);
+    return GuardedAnswer(false, [&]() -> bool {
+        if (watched == txtCastka && event->type() == QEvent::FocusIn) {
+            txtCastka->selectAll();
+            // A click sets the cursor only after the focus has come.
+            Later(txtCastka, [this] { txtCastka->selectAll(); });
+        }
+        return Form::eventFilter(watched, event);
+    });
 }
 
 Meny frmPlatba::ChosenCurrency() const {

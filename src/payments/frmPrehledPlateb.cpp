@@ -4,6 +4,7 @@
 #include "forms/controls.h"
 #include "forms/report_list.h"
 #include "office/payments/payment_lookups.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
 #include "store/uhrady.h"
@@ -62,7 +63,7 @@ frmPrehledPlateb::frmPrehledPlateb(QWidget* parent)
                          ProgramIcon(u"not-printed"_s), ProgramIcon(u"printed"_s)});
     lvwUhrady->SetMultiSelect(true);
     lvwUhrady->SetSorting(true);
-    connect(lvwUhrady, &ReportList::RightClick, this, &frmPrehledPlateb::ShowMenu);
+    Connect(lvwUhrady, &ReportList::RightClick, this, &frmPrehledPlateb::ShowMenu);
     auto* column = new QVBoxLayout(this);
     column->addWidget(lvwUhrady);
     resize(1150, 560);

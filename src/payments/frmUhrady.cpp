@@ -3,9 +3,10 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
-#include "payments/frmPlatba.h"
 #include "office/payments/payment_lookups.h"
+#include "payments/frmPlatba.h"
 #include "payments/price_box.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
 #include "store/majitele.h"
@@ -50,7 +51,7 @@ frmUhrady::frmUhrady(QWidget* parent)
     lvwUhrady->SetColumnWidths({110, 150, 120, 110, 150});
     lvwUhrady->AlignRight({kMainCurrencyColumn});
     lvwUhrady->SetIcons({ProgramIcon(u"payment"_s)});
-    connect(lvwUhrady, &ReportList::DeletePressed, this, &frmUhrady::DeleteSelected);
+    Connect(lvwUhrady, &ReportList::DeletePressed, this, &frmUhrady::DeleteSelected);
     LayOut();
 }
 
@@ -58,9 +59,9 @@ void frmUhrady::LayOut() {
     auto* cmdPlatba = Named(new QPushButton(u"Příjem platby"_s, this), u"cmdPlatba"_s);
     auto* cmdDelete = Named(new QPushButton(u"Smazat"_s, this), u"cmdDelete"_s);
     auto* cmdClose = Named(new QPushButton(u"Zavřít"_s, this), u"cmdClose"_s);
-    connect(cmdPlatba, &QPushButton::clicked, this, &frmUhrady::TakePayment);
-    connect(cmdDelete, &QPushButton::clicked, this, &frmUhrady::DeleteSelected);
-    connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
+    Connect(cmdPlatba, &QPushButton::clicked, this, &frmUhrady::TakePayment);
+    Connect(cmdDelete, &QPushButton::clicked, this, &frmUhrady::DeleteSelected);
+    Connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
 
     QGroupBox* price = PriceBox(this);
     price->hide();

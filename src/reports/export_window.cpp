@@ -1,6 +1,7 @@
 #include "reports/export_window.h"
 
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 
@@ -36,8 +37,8 @@ void ExportWindow::LayOut(QWidget* options) {
     chkHTML = Named(new QCheckBox(QStringLiteral("HTML formát"), this), QStringLiteral("chkHTML"));
     cmdOK = Named(new QPushButton(traits_.startCaption, this), QStringLiteral("cmdOK"));
     cmdCancel = Named(new QPushButton(traits_.closeCaption, this), QStringLiteral("cmdCancel"));
-    connect(cmdOK, &QPushButton::clicked, this, &ExportWindow::StartOrStop);
-    connect(cmdCancel, &QPushButton::clicked, this, &ExportWindow::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &ExportWindow::StartOrStop);
+    Connect(cmdCancel, &QPushButton::clicked, this, &ExportWindow::reject);
 
     auto* layout = new QVBoxLayout(this);
     layout->addStrut(kMinimumWidth);
@@ -89,6 +90,7 @@ void ExportWindow::Start() {
         Run(asTemplate);
         Finished();
     } catch (const Error& error) {
+        RethrowFailure(); // it came from another window's handler
         failure = QString::fromUtf8(error.what());
     }
     setWindowTitle(failure.isEmpty() ? traits_.title : captionBefore);

@@ -2,6 +2,7 @@
 
 #include "app/main_window_services.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "store/kruhy.h"
 
 #include <QVBoxLayout>
@@ -35,8 +36,8 @@ frmJmenoRozhodciho::frmJmenoRozhodciho(QWidget* parent)
     layout->addWidget(txtRozhodci);
     layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
 
-    connect(cmdOK, &QPushButton::clicked, this, &frmJmenoRozhodciho::Store);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmJmenoRozhodciho::Store);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmJmenoRozhodciho::Load() {

@@ -1,9 +1,10 @@
 #include "reports/frmPrehledPlemen.h"
 
 #include "forms/controls.h"
+#include "office/papers/breed_overview.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
-#include "office/papers/breed_overview.h"
 
 #include <QVBoxLayout>
 
@@ -24,8 +25,8 @@ frmPrehledPlemen::frmPrehledPlemen(QWidget* parent)
         ->addRow(CaptionFor(txtTitle, QStringLiteral("Titulek"), options), txtTitle);
     cmdOK = Named(new QPushButton(QStringLiteral("Tisk"), this), QStringLiteral("cmdOK"));
     cmdCancel = Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"));
-    connect(cmdOK, &QPushButton::clicked, this, &frmPrehledPlemen::Print);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmPrehledPlemen::Print);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(options);

@@ -1,6 +1,7 @@
 #include "reports/frmTiskSeznamuPsu.h"
 
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 
 #include <QVBoxLayout>
@@ -52,7 +53,7 @@ QGroupBox* frmTiskSeznamuPsu::MakeOptions() {
                               ElementName("optSortKey", static_cast<int>(i)));
         optSortKey[i]->setChecked(option.grouping == SortKey);
         layout->addWidget(optSortKey[i], 0, Qt::AlignLeft);
-        connect(optSortKey[i], &QRadioButton::clicked, this,
+        Connect(optSortKey[i], &QRadioButton::clicked, this,
                 [this, grouping = option.grouping] { SortKey = grouping; });
     }
     return options;

@@ -2,6 +2,7 @@
 
 #include "app/start_up.h"
 #include "forms/label_edit_delegate.h"
+#include "platform/failure_guard.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -26,6 +27,7 @@ BreedTree::BreedTree(const char* name, std::vector<BreedTreeModel::Column> colum
     delegate_->mayEdit = [this](const QModelIndex& index) {
         bool cancel = false;
         Q_EMIT BeforeLabelEdit(model_->NodeAt(index), &cancel);
+        RethrowFailure();
         return !cancel;
     };
     setItemDelegate(delegate_);
@@ -49,14 +51,16 @@ void BreedTree::FollowGridPreference() {
 }
 
 void BreedTree::keyPressEvent(QKeyEvent* event) {
-    const QString text = event->text().toLower();
-    if (event->key() == Qt::Key_Delete)
-        Q_EMIT DeletePressed();
-    else if (text.size() == 1 && kJumpLetters.contains(text.front()) &&
-             !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
-        JumpToLetter(text.front());
-    else
-        QTreeView::keyPressEvent(event);
+    Guarded([&] {
+        const QString text = event->text().toLower();
+        if (event->key() == Qt::Key_Delete)
+            Q_EMIT DeletePressed();
+        else if (text.size() == 1 && kJumpLetters.contains(text.front()) &&
+                 !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
+            JumpToLetter(text.front());
+        else
+            QTreeView::keyPressEvent(event);
+    });
 }
 
 void BreedTree::JumpToLetter(QChar letter) {
@@ -74,21 +78,27 @@ void BreedTree::JumpToLetter(QChar letter) {
 }
 
 void BreedTree::mouseReleaseEvent(QMouseEvent* event) {
-    QTreeView::mouseReleaseEvent(event);
-    if (event->button() == Qt::RightButton && indexAt(event->position().toPoint()).isValid())
-        Q_EMIT RightClick();
+    Guarded([&] {
+        QTreeView::mouseReleaseEvent(event);
+        if (event->button() == Qt::RightButton && indexAt(event->position().toPoint()).isValid())
+            Q_EMIT RightClick();
+    });
 }
 
 void BreedTree::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Keyboard && SelectedNode())
-        Q_EMIT RightClick();
-    event->accept();
+    Guarded([&] {
+        if (event->reason() == QContextMenuEvent::Keyboard && SelectedNode())
+            Q_EMIT RightClick();
+        event->accept();
+    });
 }
 
 void BreedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
-    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    if (const auto edited = delegate_->TakeEdited(); edited && edited->index.isValid())
-        Q_EMIT AfterLabelEdit(model_->NodeAt(edited->index), edited->text);
+    Guarded([&] {
+        QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+        if (const auto edited = delegate_->TakeEdited(); edited && edited->index.isValid())
+            Q_EMIT AfterLabelEdit(model_->NodeAt(edited->index), edited->text);
+    });
 }
 
 void BreedTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,

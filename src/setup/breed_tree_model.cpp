@@ -1,5 +1,6 @@
 #include "setup/breed_tree_model.h"
 
+#include "platform/failure_guard.h"
 #include "store/plemena.h"
 
 #include <QColor>
@@ -163,12 +164,14 @@ Qt::ItemFlags BreedTreeModel::flags(const QModelIndex& index) const {
 }
 
 bool BreedTreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (role != Qt::CheckStateRole || index.column() != 0)
-        return false;
-    BreedNode& node = *NodeAt(index);
-    SetChecked(node, value.toInt() == Qt::Checked);
-    Q_EMIT Ticked(node.ID);
-    return true;
+    return GuardedAnswer(false, [&]() -> bool {
+        if (role != Qt::CheckStateRole || index.column() != 0)
+            return false;
+        BreedNode& node = *NodeAt(index);
+        SetChecked(node, value.toInt() == Qt::Checked);
+        Q_EMIT Ticked(node.ID);
+        return true;
+    });
 }
 
 QString BreedTitle(const QString& nazev, const QString& nazevOrig) {

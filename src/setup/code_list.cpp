@@ -2,6 +2,7 @@
 
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 
@@ -48,13 +49,13 @@ CodeListForm::CodeListForm(const CodeListTexts& texts, CodeListStore store, QWid
     resize(400, 360);
     list_->setFocus();
 
-    connect(bar->findChild<QAction*>(u"Add"_s), &QAction::triggered, this, &CodeListForm::AddEntry);
-    connect(bar->findChild<QAction*>(u"Edit"_s), &QAction::triggered, this,
+    Connect(bar->findChild<QAction*>(u"Add"_s), &QAction::triggered, this, &CodeListForm::AddEntry);
+    Connect(bar->findChild<QAction*>(u"Edit"_s), &QAction::triggered, this,
             &CodeListForm::EditEntry);
-    connect(bar->findChild<QAction*>(u"Remove"_s), &QAction::triggered, this,
+    Connect(bar->findChild<QAction*>(u"Remove"_s), &QAction::triggered, this,
             &CodeListForm::RemoveEntry);
-    connect(list_, &ReportList::DeletePressed, this, &CodeListForm::RemoveEntry);
-    connect(list_, &ReportList::AfterLabelEdit, this, &CodeListForm::StoreEntry);
+    Connect(list_, &ReportList::DeletePressed, this, &CodeListForm::RemoveEntry);
+    Connect(list_, &ReportList::AfterLabelEdit, this, &CodeListForm::StoreEntry);
 }
 
 void CodeListForm::Load() {

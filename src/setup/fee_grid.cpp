@@ -2,12 +2,12 @@
 
 #include "app/common_routines.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 
 #include <QFocusEvent>
 #include <QFrame>
 #include <QGridLayout>
-#include <QTimer>
 
 namespace lorvo {
 
@@ -100,14 +100,16 @@ QLineEdit* FeeGrid::MakeBox(const char* array, int slot) {
 }
 
 bool FeeGrid::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn) {
-        auto* box = static_cast<QLineEdit*>(watched);
-        box->selectAll();
-        // The press that brings the focus places the text cursor afterwards.
-        if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
-            QTimer::singleShot(0, box, &QLineEdit::selectAll);
-    }
-    return QStackedWidget::eventFilter(watched, event);
+    return GuardedAnswer(false, [&]() -> bool {
+        if (event->type() == QEvent::FocusIn) {
+            auto* box = static_cast<QLineEdit*>(watched);
+            box->selectAll();
+            // The press that brings the focus places the text cursor afterwards.
+            if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+                Later(box, [box] { box->selectAll(); });
+        }
+        return QStackedWidget::eventFilter(watched, event);
+    });
 }
 
 void FeeGrid::SetFees(const FeeRow& fees) {

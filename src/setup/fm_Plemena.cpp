@@ -3,6 +3,7 @@
 #include "app/module_values.h"
 #include "forms/command_collection.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/breed_register.h"
 #include "setup/breed_tree.h"
@@ -33,13 +34,13 @@ fm_Plemena::fm_Plemena(QWidget* parent)
     BuildControls();
     BreedTreeModel& model = tvwPlemena->Model();
     model.SetEditable(true);
-    connect(&model, &BreedTreeModel::Ticked, this, &fm_Plemena::Tick);
-    connect(commands_, &CommandCollection::CommandClick, this, &fm_Plemena::CarryOut);
-    connect(tvwPlemena, &BreedTree::DeletePressed, this, &fm_Plemena::DeleteSelected);
-    connect(tvwPlemena, &BreedTree::RightClick, this, &fm_Plemena::ShowMenu);
-    connect(tvwPlemena, &BreedTree::BeforeLabelEdit, this,
+    Connect(&model, &BreedTreeModel::Ticked, this, &fm_Plemena::Tick);
+    Connect(commands_, &CommandCollection::CommandClick, this, &fm_Plemena::CarryOut);
+    Connect(tvwPlemena, &BreedTree::DeletePressed, this, &fm_Plemena::DeleteSelected);
+    Connect(tvwPlemena, &BreedTree::RightClick, this, &fm_Plemena::ShowMenu);
+    Connect(tvwPlemena, &BreedTree::BeforeLabelEdit, this,
             [this](BreedNode* node, bool* cancel) { RefuseBaseBreed(*node, cancel); });
-    connect(tvwPlemena, &BreedTree::AfterLabelEdit, this,
+    Connect(tvwPlemena, &BreedTree::AfterLabelEdit, this,
             [this](BreedNode* node, const QString& text) { StoreTitle(*node, text); });
 }
 

@@ -4,9 +4,10 @@
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
-#include "payments/currency_list.h"
-#include "platform/platform.h"
 #include "office/numbers/catalogue_numbers.h"
+#include "payments/currency_list.h"
+#include "platform/failure_guard.h"
+#include "platform/platform.h"
 #include "setup/frmCisteniDB.h"
 #include "setup/frmWizard.h"
 #include "store/meny.h"
@@ -76,15 +77,15 @@ fm_Settings::fm_Settings(QWidget* parent)
     column->addWidget(pages);
     column->addLayout(ButtonRow({cmdOK, cmdCancel}));
 
-    connect(cmdOK, &QPushButton::clicked, this, &fm_Settings::Store);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdGenerateNumbers, &QPushButton::clicked, this, &fm_Settings::GenerateNumbers);
-    connect(cmdRemoveNumbers, &QPushButton::clicked, this, &fm_Settings::RemoveNumbers);
-    connect(cmdClearDatabase, &QPushButton::clicked, this, [this] {
+    Connect(cmdOK, &QPushButton::clicked, this, &fm_Settings::Store);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdGenerateNumbers, &QPushButton::clicked, this, &fm_Settings::GenerateNumbers);
+    Connect(cmdRemoveNumbers, &QPushButton::clicked, this, &fm_Settings::RemoveNumbers);
+    Connect(cmdClearDatabase, &QPushButton::clicked, this, [this] {
         frmCisteniDB window(this);
         OpenModal(window);
     });
-    connect(Command1, &QPushButton::clicked, this, [this] {
+    Connect(Command1, &QPushButton::clicked, this, [this] {
         frmWizard window(this);
         OpenModal(window);
     });

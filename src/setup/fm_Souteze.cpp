@@ -5,6 +5,7 @@
 #include "dogs/frmPsiVSoutezi.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/frmSoutez.h"
 #include "store/souteze.h"
@@ -39,9 +40,9 @@ fm_Souteze::fm_Souteze(QWidget* parent)
       lvwSouteze(new ReportList("lvwSouteze", {u"Název soutěže"_s, u"Cena"_s, u"Přihlášeno psů"_s},
                                 this)) {
     BuildControls();
-    connect(lvwSouteze, &ReportList::DoubleClick, this, &fm_Souteze::EditSelected);
-    connect(lvwSouteze, &ReportList::DeletePressed, this, &fm_Souteze::RemoveSelected);
-    connect(lvwSouteze, &ReportList::AfterLabelEdit, this, &fm_Souteze::Rename);
+    Connect(lvwSouteze, &ReportList::DoubleClick, this, &fm_Souteze::EditSelected);
+    Connect(lvwSouteze, &ReportList::DeletePressed, this, &fm_Souteze::RemoveSelected);
+    Connect(lvwSouteze, &ReportList::AfterLabelEdit, this, &fm_Souteze::Rename);
 }
 
 void fm_Souteze::BuildControls() {
@@ -51,7 +52,7 @@ void fm_Souteze::BuildControls() {
                             void (fm_Souteze::*act)()) {
         QAction* action = bar->addAction(ProgramIcon(picture), caption);
         action->setObjectName(key);
-        connect(action, &QAction::triggered, this, act);
+        Connect(action, &QAction::triggered, this, act);
         return action;
     };
     button(u"Add"_s, u"Přidat"_s, u"add"_s, &fm_Souteze::AddCompetition);

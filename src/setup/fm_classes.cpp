@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "forms/report_list.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/code_list.h"
 #include "store/psi_lists.h"
@@ -29,7 +30,7 @@ fm_classes::fm_classes(QWidget* parent)
     column->addWidget(lvwClasses);
     resize(400, 360);
     lvwClasses->setFocus();
-    connect(lvwClasses, &ReportList::AfterLabelEdit, this, &fm_classes::Rename);
+    Connect(lvwClasses, &ReportList::AfterLabelEdit, this, &fm_classes::Rename);
 }
 
 void fm_classes::Load() {

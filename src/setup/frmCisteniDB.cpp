@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/barvy.h"
 #include "store/kruhy.h"
@@ -121,8 +122,8 @@ frmCisteniDB::frmCisteniDB(QWidget* parent)
     column->addLayout(buttons);
     cmdCancel->setFocus();
 
-    connect(cmdCleaa, &QPushButton::clicked, this, &frmCisteniDB::Clear);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdCleaa, &QPushButton::clicked, this, &frmCisteniDB::Clear);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmCisteniDB::Clear() {

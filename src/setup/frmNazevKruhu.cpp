@@ -2,6 +2,7 @@
 
 #include "app/main_window_services.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "store/kruhy.h"
 
 #include <QVBoxLayout>
@@ -26,10 +27,10 @@ frmNazevKruhu::frmNazevKruhu(QWidget* parent)
     layout->addWidget(txtName);
     layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
 
-    connect(txtName, &QLineEdit::textChanged, this,
+    Connect(txtName, &QLineEdit::textChanged, this,
             [this](const QString& text) { cmdOK->setEnabled(!text.isEmpty()); });
-    connect(cmdOK, &QPushButton::clicked, this, &frmNazevKruhu::Store);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmNazevKruhu::Store);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmNazevKruhu::Load() {

@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "store/plemena.h"
 
 #include <QVBoxLayout>
@@ -25,8 +26,8 @@ frmNovePlemeno::frmNovePlemeno(std::function<void(const QString&)> onStored, QWi
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);
     column->addLayout(ButtonRow({cmdOK, cmdCancel}));
-    connect(cmdOK, &QPushButton::clicked, this, &frmNovePlemeno::Store);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmNovePlemeno::Store);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmNovePlemeno::Load() {

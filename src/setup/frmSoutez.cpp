@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "store/souteze.h"
@@ -35,8 +36,8 @@ frmSoutez::frmSoutez(QWidget* parent) : Form("frmSoutez", {}, Border::Fixed, par
     BuildControls();
     SetNumberStyle(*txtNazev[kPrice]);
     for (QLineEdit* box : txtNazev)
-        connect(box, &QLineEdit::textChanged, this, &frmSoutez::EnableOK);
-    connect(cmdOK, &QPushButton::clicked, this, &frmSoutez::Store);
+        Connect(box, &QLineEdit::textChanged, this, &frmSoutez::EnableOK);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmSoutez::Store);
 }
 
 void frmSoutez::BuildControls() {
@@ -58,7 +59,7 @@ void frmSoutez::BuildControls() {
                    u"lblErr"_s);
     cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);

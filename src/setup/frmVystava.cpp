@@ -2,6 +2,7 @@
 
 #include "app/common_routines.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "setup/fee_grid.h"
@@ -31,7 +32,7 @@ frmVystava::frmVystava(int vystavaID, std::function<void(const QString&)> onStor
       fees_(new FeeGrid(this)),
       chkRozliseni(Named(new QCheckBox(u"Rozlišovat ceny podle tříd"_s, this), u"chkRozliseni"_s)) {
     BuildControls();
-    connect(chkRozliseni, &QCheckBox::toggled, this, &frmVystava::ChooseGrid);
+    Connect(chkRozliseni, &QCheckBox::toggled, this, &frmVystava::ChooseGrid);
 }
 
 void frmVystava::BuildControls() {
@@ -46,8 +47,8 @@ void frmVystava::BuildControls() {
 
     auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
-    connect(cmdOK, &QPushButton::clicked, this, &frmVystava::Store);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Connect(cmdOK, &QPushButton::clicked, this, &frmVystava::Store);
+    Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(name);

@@ -3,6 +3,7 @@
 #include "forms/command_collection.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/frmVystava.h"
 #include "store/psi_ve_vystavach.h"
@@ -31,11 +32,11 @@ frmVystavy::frmVystavy(QWidget* parent)
     resize(480, 340);
     lvwList->setFocus();
 
-    connect(commands_, &CommandCollection::CommandClick, this, &frmVystavy::CarryOut);
-    connect(lvwList, &ReportList::DoubleClick, this, &frmVystavy::EditSelectedShow);
-    connect(lvwList, &ReportList::DeletePressed, this, &frmVystavy::DeleteSelectedShow);
-    connect(lvwList, &ReportList::AfterLabelEdit, this, &frmVystavy::Rename);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    Connect(commands_, &CommandCollection::CommandClick, this, &frmVystavy::CarryOut);
+    Connect(lvwList, &ReportList::DoubleClick, this, &frmVystavy::EditSelectedShow);
+    Connect(lvwList, &ReportList::DeletePressed, this, &frmVystavy::DeleteSelectedShow);
+    Connect(lvwList, &ReportList::AfterLabelEdit, this, &frmVystavy::Rename);
+    Connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 void frmVystavy::Load() {

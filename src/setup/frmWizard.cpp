@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/breed_tree.h"
 #include "store/plemena.h"
@@ -140,9 +141,9 @@ void frmWizard::BuildButtons() {
     column->addWidget(lblTitle);
     column->addWidget(pages_);
     column->addLayout(buttons);
-    connect(cmdBack, &QPushButton::clicked, this, [this] { ShowPage(page_ - 1); });
-    connect(cmdFwd, &QPushButton::clicked, this, &frmWizard::GoForward);
-    connect(cmdCancel, &QPushButton::clicked, this, &frmWizard::Quit);
+    Connect(cmdBack, &QPushButton::clicked, this, [this] { ShowPage(page_ - 1); });
+    Connect(cmdFwd, &QPushButton::clicked, this, &frmWizard::GoForward);
+    Connect(cmdCancel, &QPushButton::clicked, this, &frmWizard::Quit);
 }
 
 void frmWizard::Load() {
@@ -192,10 +193,12 @@ void frmWizard::Quit() {
 }
 
 void frmWizard::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Cancel))
-        Quit();
-    else
-        Form::keyPressEvent(event);
+    Guarded([&] {
+        if (event->matches(QKeySequence::Cancel))
+            Quit();
+        else
+            Form::keyPressEvent(event);
+    });
 }
 
 } // namespace lorvo

@@ -1,5 +1,6 @@
 #include "forms/application.h"
 
+#include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 #include "support/recording_platform.h"
 
@@ -27,7 +28,7 @@ TEST(ApplicationTest, AFailureOfAHandlerEndsTheLoopAndIsShownOnce) {
     EXPECT_EQ(TheApplication().Run(
                   [] { QTimer::singleShot(0, qApp, [] { throw StoreError("Disk je plný."); }); }),
               1);
-    EXPECT_NO_THROW(Application::RethrowFailure());
+    EXPECT_NO_THROW(RethrowFailure());
 }
 
 TEST(ApplicationTest, AnUneventfulRunEndsWithItsOwnCode) {

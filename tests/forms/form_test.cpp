@@ -2,6 +2,7 @@
 
 #include "forms/application.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 #include "support/modal_driver.h"
 #include "support/recording_platform.h"
@@ -123,8 +124,8 @@ TEST_F(FormTest, AFailureInAHandlerGoesUpThroughEveryOpenWindow) {
     StepsForm below(steps);
     StepsForm above(steps, "fm_Above");
     above.disconnect(above.findChild<QPushButton*>());
-    QObject::connect(above.findChild<QPushButton*>(), &QPushButton::clicked, &above,
-                     [] { throw StoreError("broken"); });
+    Connect(above.findChild<QPushButton*>(), &QPushButton::clicked, &above,
+            [] { throw StoreError("broken"); });
     below.onLoad = [&] {
         QMetaObject::invokeMethod(
             &below, [&] { OpenModal(above); }, Qt::QueuedConnection);

@@ -1,5 +1,6 @@
 // Searching in the whole main window: the search window, F3 and Home.
 #include "mainwindow/shell_fixture.h"
+#include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 #include "support/modal_driver.h"
 #include "support/window_walk.h"
@@ -141,8 +142,9 @@ TEST_F(frmFindTest, AStepBackToARemovedNodeFailsByItsName) {
     window_->ShowNodeInfo(u"P100"_qs);
     window_->ShowNodeInfo(u"P101"_qs);
     Tree().Nodes().Remove(&Tree().Nodes().Get(u"P100"_qs));
+    Control<QPushButton>(u"cmdHistoryBack"_qs).click();
     try {
-        Control<QPushButton>(u"cmdHistoryBack"_qs).click();
+        RethrowFailure();
         FAIL() << "a node was shown that is gone";
     } catch (const Error& error) {
         EXPECT_NE(std::string(error.what()).find("P100"), std::string::npos) << error.what();

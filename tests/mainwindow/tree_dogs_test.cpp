@@ -2,6 +2,7 @@
 
 #include "forms/application.h"
 #include "mainwindow/tree_host.h"
+#include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 
 namespace lorvo::test {
@@ -193,7 +194,7 @@ TEST_F(TreeDogsTest, DoesNothingOnAnyOtherDrop) {
 TEST_F(TreeDogsTest, LeavesTreeAndStoreApartWhenADropFailsInTheStore) {
     database.Execute("DELETE FROM Psi WHERE ID = 1");
     Drop(u"P1"_qs, u"R20"_qs);
-    EXPECT_THROW(Application::RethrowFailure(), StoreError);
+    EXPECT_THROW(RethrowFailure(), StoreError);
     EXPECT_EQ(host.ParentNode(u"P1"_qs), u"R20"_qs);
 }
 

@@ -1,5 +1,6 @@
 #include "support/recording_platform.h"
 
+#include "platform/failure_guard.h"
 #include "platform/real_services.h"
 #include "support/recording_word_processor.h"
 
@@ -183,6 +184,7 @@ struct RecordingPlatform::Doubles {
             if (owner_.onProcessEvents)
                 owner_.onProcessEvents();
             QCoreApplication::processEvents();
+            RethrowFailure();
         }
 
       private:

@@ -2,6 +2,7 @@
 // event handler raised and no test asked for fails the test.
 
 #include "forms/application.h"
+#include "platform/failure_guard.h"
 
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -10,7 +11,7 @@ namespace {
 
 class FailureListener : public ::testing::EmptyTestEventListener {
     void OnTestEnd(const ::testing::TestInfo&) override {
-        EXPECT_NO_THROW(lorvo::Application::RethrowFailure());
+        EXPECT_NO_THROW(lorvo::RethrowFailure());
         // A failure ends all loops, later ones too until the application's own has run.
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
         QCoreApplication::exec();

@@ -1,5 +1,7 @@
 #include "office/tree/tree_model.h"
 
+#include "platform/failure_guard.h"
+
 #include <QColor>
 #include <QFont>
 #include <QMimeData>
@@ -111,10 +113,12 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
 }
 
 bool TreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (!index.isValid() || role != Qt::EditRole)
-        return false;
-    Q_EMIT LabelEdited(NodeAt(index), value.toString());
-    return true;
+    return GuardedAnswer(false, [&]() -> bool {
+        if (!index.isValid() || role != Qt::EditRole)
+            return false;
+        Q_EMIT LabelEdited(NodeAt(index), value.toString());
+        return true;
+    });
 }
 
 Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
