@@ -1,11 +1,13 @@
 // The entry: the desktop's real services, the database, the main window, the event loop.
 
 #include "app/start_up.h"
+#include "app/version.h"
+#include "desktop/desktop_services.h"
+#include "desktop/termination.h"
 #include "forms/application.h"
 #include "forms/controls.h"
 #include "mainwindow/fm_main.h"
-#include "desktop/desktop_services.h"
-#include "desktop/termination.h"
+#include "platform/console.h"
 #include "platform/docx/docx_word_processor.h"
 #include "platform/platform.h"
 #include "platform/real_services.h"
@@ -14,6 +16,8 @@
 #include <QLocale>
 #include <QTranslator>
 #include <memory>
+#include <string>
+#include <string_view>
 
 namespace {
 
@@ -39,9 +43,19 @@ void SpeakCzech(QTranslator& toolkitTexts) {
         QCoreApplication::installTranslator(&toolkitTexts);
 }
 
+/// Told without a screen and without data, as packagers and scripts ask for it.
+void TellVersion() {
+    lorvo::WriteToConsole(std::string("Lorvo ") + lorvo::kVersion + '\n' + lorvo::kCopyright +
+                          '\n');
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 2 && std::string_view(argv[1]) == "--version") {
+        TellVersion();
+        return 0;
+    }
     lorvo::Application application(argc, argv);
     QTranslator toolkitTexts;
     SpeakCzech(toolkitTexts);

@@ -28,8 +28,8 @@ AboutPanel::AboutPanel(QWidget* parent)
     : QWidget(parent), imgBkg(Named(new QLabel(this), QStringLiteral("imgBkg"))),
       lbl_About(Named(new QLabel(this), QStringLiteral("lbl_About"))),
       lbl_Ver(Named(new QLabel(this), QStringLiteral("lbl_Ver"))),
-      lbl_copyright(Named(new QLabel(QStringLiteral("© 2026 Hollow Peak"), this),
-                          QStringLiteral("lbl_copyright"))),
+      lbl_copyright(
+          Named(new QLabel(QString::fromUtf8(kCopyright), this), QStringLiteral("lbl_copyright"))),
       lbl_Mailto(Named(new LinkLabel(QStringLiteral("Tým Lorvo, Hollow Peak"), this),
                        QStringLiteral("lbl_Mailto"))),
       Label9(Named(

@@ -1,17 +1,13 @@
 #include "platform/values/money.h"
 
 #include "platform/values/errors.h"
-
-#include <limits>
+#include "platform/values/exact_arithmetic.h"
 
 namespace lorvo {
 
 namespace {
 
-__extension__ using Wide = __int128;
-
 constexpr int kDecimals = 4;
-constexpr Wide kFarTooLarge = Wide{1} << 64; // where reading on would only risk the wide type
 
 [[noreturn]] void RaiseTooLarge(const std::string& what) {
     throw RangeError("Částka " + what + " je mimo rozsah, který lze uložit.");
@@ -33,14 +29,6 @@ std::string_view Trimmed(std::string_view text) {
     return text;
 }
 
-/// Quotient of non-negative `value`, the half rounded to the even neighbour.
-Wide DividedHalfEven(Wide value, Wide divisor) {
-    const Wide quotient = value / divisor;
-    const Wide twice = value % divisor * 2;
-    const bool up = twice > divisor || (twice == divisor && quotient % 2 != 0);
-    return quotient + (up ? 1 : 0);
-}
-
 /// The digits of a decimal text, gathered while they are read from the left.
 class DecimalReader {
   public:
@@ -50,39 +38,44 @@ class DecimalReader {
         if ((c == '.' || c == ',') && !pastSign_)
             pastSign_ = true;
         else if (c >= '0' && c <= '9')
-            TakeDigit(c - '0');
+            TakeDigit(static_cast<unsigned>(c - '0'));
         else
             RaiseNotNumber(whole_);
     }
 
     /// Ten-thousandths without the sign, rounded half to even.
-    Wide Count() const {
+    std::uint64_t Count() const {
         if (!anyDigit_)
             RaiseNotNumber(whole_);
-        Wide count = count_;
+        std::uint64_t count = count_;
         for (int i = decimals_; i < kDecimals; ++i)
-            count *= 10;
+            count = WithDigit(count, 0);
         const bool up = next_ > 5 || (next_ == 5 && (beyond_ || count % 2 != 0));
         return count + (up ? 1 : 0);
     }
 
   private:
-    void TakeDigit(int digit) {
+    std::uint64_t WithDigit(std::uint64_t count, unsigned digit) const {
+        const std::optional<std::uint64_t> longer = ExactAppended(count, digit);
+        if (!longer)
+            RaiseTooLarge(std::string(whole_));
+        return *longer;
+    }
+
+    void TakeDigit(unsigned digit) {
         anyDigit_ = true;
         if (!pastSign_ || decimals_ < kDecimals) {
-            count_ = count_ * 10 + digit;
+            count_ = WithDigit(count_, digit);
             decimals_ += pastSign_ ? 1 : 0;
-            if (count_ > kFarTooLarge)
-                RaiseTooLarge(std::string(whole_));
         } else if (next_ < 0) {
-            next_ = digit;
+            next_ = static_cast<int>(digit);
         } else {
             beyond_ = beyond_ || digit != 0;
         }
     }
 
     std::string_view whole_;
-    Wide count_ = 0;
+    std::uint64_t count_ = 0;
     int decimals_ = 0;
     int next_ = -1; ///< the first decimal that has no place
     bool beyond_ = false;
@@ -90,18 +83,13 @@ class DecimalReader {
     bool anyDigit_ = false;
 };
 
-bool FitsRaw(Wide count) {
-    return count >= std::numeric_limits<std::int64_t>::min() &&
-           count <= std::numeric_limits<std::int64_t>::max();
-}
-
 } // namespace
 
 Currency Currency::FromUnits(std::int64_t units) {
-    std::int64_t raw = 0;
-    if (__builtin_mul_overflow(units, kScale, &raw))
+    const std::optional<std::int64_t> raw = ExactProductDivided(units, kScale, 1);
+    if (!raw)
         RaiseTooLarge(std::to_string(units));
-    return FromRaw(raw);
+    return FromRaw(*raw);
 }
 
 Currency Currency::FromText(std::string_view text) {
@@ -112,10 +100,10 @@ Currency Currency::FromText(std::string_view text) {
     DecimalReader reader(text);
     for (const char c : rest)
         reader.Take(c);
-    const Wide count = negative ? -reader.Count() : reader.Count();
-    if (!FitsRaw(count))
+    const std::optional<std::int64_t> count = ExactSigned(negative, reader.Count());
+    if (!count)
         RaiseTooLarge(std::string(text));
-    return FromRaw(static_cast<std::int64_t>(count));
+    return FromRaw(*count);
 }
 
 std::string Currency::ToPlainText(char decimalSign) const {
@@ -131,17 +119,17 @@ std::string Currency::ToPlainText(char decimalSign) const {
 }
 
 Currency Currency::operator+(Currency other) const {
-    std::int64_t raw = 0;
-    if (__builtin_add_overflow(raw_, other.raw_, &raw))
+    const std::optional<std::int64_t> raw = ExactSum(raw_, other.raw_);
+    if (!raw)
         RaiseTooLarge(Operation(*this, " + ", other));
-    return FromRaw(raw);
+    return FromRaw(*raw);
 }
 
 Currency Currency::operator-(Currency other) const {
-    std::int64_t raw = 0;
-    if (__builtin_sub_overflow(raw_, other.raw_, &raw))
+    const std::optional<std::int64_t> raw = ExactDifference(raw_, other.raw_);
+    if (!raw)
         RaiseTooLarge(Operation(*this, " - ", other));
-    return FromRaw(raw);
+    return FromRaw(*raw);
 }
 
 Currency Currency::operator-() const {
@@ -149,12 +137,10 @@ Currency Currency::operator-() const {
 }
 
 Currency Currency::operator*(Currency other) const {
-    const Wide product = Wide{raw_} * other.raw_;
-    const Wide size = DividedHalfEven(product < 0 ? -product : product, kScale);
-    const Wide count = product < 0 ? -size : size;
-    if (!FitsRaw(count))
+    const std::optional<std::int64_t> raw = ExactProductDivided(raw_, other.raw_, kScale);
+    if (!raw)
         RaiseTooLarge(Operation(*this, " × ", other));
-    return FromRaw(static_cast<std::int64_t>(count));
+    return FromRaw(*raw);
 }
 
 } // namespace lorvo
