@@ -4,13 +4,13 @@
 
 #include "bare_rows.h"
 #include "bench_shows.h"
+#include "desktop/desktop_services.h"
 #include "dogs/fm_DogsList.h"
 #include "dogs/frmVystavovatele.h"
 #include "forms/application.h"
 #include "forms/report_list.h"
 #include "pair_table.h"
 #include "payments/frmPrehledPlateb.h"
-#include "desktop/desktop_services.h"
 #include "platform/platform.h"
 #include "store/uhrady.h"
 

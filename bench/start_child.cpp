@@ -3,9 +3,9 @@
 #include "app/start_up.h"
 #include "bare_window.h"
 #include "bench_shows.h"
+#include "desktop/desktop_services.h"
 #include "forms/application.h"
 #include "mainwindow/fm_main.h"
-#include "desktop/desktop_services.h"
 #include "platform/platform.h"
 
 #include <QElapsedTimer>

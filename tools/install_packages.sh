@@ -15,7 +15,7 @@ packages=(
   fonts-dejavu-core
 )
 if [ "${1:-run}" = test ]; then
-  packages+=(libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
+  packages+=(clang-format-14 libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
 fi
 if [ "${1:-run}" = windows ]; then
   packages+=(

@@ -2,9 +2,9 @@
 // The right side of the main window: title and picture of the node on show, the history buttons,
 // and one panel in front of the others.
 
+#include "mainwindow/owner_navigation.h"
 #include "office/cards/dog_card.h"
 #include "office/cards/owner_card.h"
-#include "mainwindow/owner_navigation.h"
 
 #include <QWidget>
 #include <memory>

@@ -1,8 +1,8 @@
 #include "mainwindow/tree_menus.h"
 
 #include "app/module_values.h"
-#include "office/tree/tree_nodes.h"
 #include "mainwindow/window_opener.h"
+#include "office/tree/tree_nodes.h"
 #include "store/plemena.h"
 #include "store/psi.h"
 

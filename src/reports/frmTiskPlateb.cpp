@@ -1,7 +1,7 @@
 #include "reports/frmTiskPlateb.h"
 
-#include "platform/platform.h"
 #include "office/papers/payment_report.h"
+#include "platform/platform.h"
 #include "store/uhrady.h"
 
 namespace lorvo {

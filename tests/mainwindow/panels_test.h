@@ -4,10 +4,10 @@
 #include "forms/form.h"
 #include "forms/report_list.h"
 #include "mainwindow/main_tree.h"
-#include "office/tree/node_history.h"
 #include "mainwindow/node_panels.h"
 #include "mainwindow/status_panels.h"
 #include "mainwindow/window_opener.h"
+#include "office/tree/node_history.h"
 
 #include "office/cards/card_test.h"
 #include "support/modal_driver.h"

@@ -1,6 +1,7 @@
 #include "reports/paper_fixture.h"
 
 #include "app/module_values.h"
+#include "support/source_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,10 +42,6 @@ QByteArray ReadAll(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
 }
 
-QString SourceFile(const QString& name) {
-    return QDir(qEnvironmentVariable("LORVO_SOURCE_DIR")).filePath(name);
-}
-
 } // namespace
 
 PaperFixture::PaperFixture() {
@@ -56,7 +53,7 @@ PaperFixture::PaperFixture() {
 }
 
 void PaperFixture::InstallTemplates() {
-    const QDir from(SourceFile(u"Šablony"_qs));
+    const QDir from(test::SourceFile(u"Šablony"_qs));
     for (const QString& name : from.entryList(QDir::Files))
         ASSERT_TRUE(
             QFile::copy(from.filePath(name), platform.ProgramFolder() + u"/Šablony/"_qs + name));
@@ -106,7 +103,7 @@ QString PaperFixture::Text() const {
 }
 
 void ExpectGolden(const QString& name, const QByteArray& bytes) {
-    QFile file(SourceFile(u"tests/reports/golden/"_qs + name));
+    QFile file(test::SourceFile(u"tests/reports/golden/"_qs + name));
     if (qEnvironmentVariableIsSet("LORVO_WRITE_GOLDEN")) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);

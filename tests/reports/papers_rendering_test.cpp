@@ -1,14 +1,14 @@
 // The documents as they come out on paper, all laid out in one go.
 
-#include "platform/docx/docx_word_processor.h"
 #include "office/papers/breed_overview.h"
 #include "office/papers/diplomas.h"
 #include "office/papers/dog_lists.h"
 #include "office/papers/entry_confirmations.h"
 #include "office/papers/exhibitor_list.h"
 #include "office/papers/judging_sheets.h"
-#include "reports/paper_fixture.h"
 #include "office/papers/payment_report.h"
+#include "platform/docx/docx_word_processor.h"
+#include "reports/paper_fixture.h"
 #include "support/office_program.h"
 
 #include <QFile>

@@ -1,6 +1,7 @@
 #include "support/temp_database.h"
 
 #include "store/data_module.h"
+#include "support/source_file.h"
 
 #include "data_builder.h"
 
@@ -16,9 +17,9 @@ namespace lorvo {
 namespace {
 
 std::string ReadSource(const QString& pathInProject) {
-    QFile file(qEnvironmentVariable("LORVO_SOURCE_DIR") + u'/' + pathInProject);
+    QFile file(test::SourceFile(pathInProject));
     if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("LORVO_SOURCE_DIR has no " + pathInProject.toStdString());
+        throw std::runtime_error("there is no " + file.fileName().toStdString());
     return file.readAll().toStdString();
 }
 

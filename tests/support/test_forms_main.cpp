@@ -3,6 +3,7 @@
 
 #include "forms/application.h"
 #include "platform/failure_guard.h"
+#include "support/test_environment.h"
 
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -21,6 +22,7 @@ class FailureListener : public ::testing::EmptyTestEventListener {
 } // namespace
 
 int main(int argc, char** argv) {
+    lorvo::test::PrepareEnvironment();
     const lorvo::Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(&argc, argv);

@@ -1,9 +1,12 @@
 // Entry of tests of windows.
 
+#include "support/test_environment.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
+    lorvo::test::PrepareEnvironment();
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(&argc, argv);

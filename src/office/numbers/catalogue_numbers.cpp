@@ -1,7 +1,7 @@
 #include "office/numbers/catalogue_numbers.h"
 
-#include "office/tree/tree_nodes.h"
 #include "office/numbers/catalogue_numbering.h"
+#include "office/tree/tree_nodes.h"
 #include "store/data_module.h"
 #include "store/psi.h"
 

@@ -1,7 +1,7 @@
 #include "office/papers/breed_overview.h"
 
-#include "platform/values/errors.h"
 #include "office/papers/document_typing.h"
+#include "platform/values/errors.h"
 #include "store/data_module.h"
 #include "store/plemena.h"
 #include "store/psi_lists.h"

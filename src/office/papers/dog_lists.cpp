@@ -1,10 +1,10 @@
 #include "office/papers/dog_lists.h"
 
-#include "platform/values/cp1250.h"
 #include "office/papers/document_typing.h"
 #include "office/papers/report_texts.h"
 #include "office/papers/run_progress.h"
 #include "office/papers/template_engine.h"
+#include "platform/values/cp1250.h"
 #include "store/data_module.h"
 #include "store/majitele.h"
 #include "store/psi_lists.h"

@@ -2,11 +2,11 @@
 
 #include "app/common_routines.h"
 #include "app/module_values.h"
-#include "platform/platform.h"
-#include "platform/values/errors.h"
 #include "office/papers/document_typing.h"
 #include "office/papers/row_filler.h"
 #include "office/papers/run_progress.h"
+#include "platform/platform.h"
+#include "platform/values/errors.h"
 #include "store/uhrady.h"
 
 namespace lorvo {

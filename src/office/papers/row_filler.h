@@ -1,8 +1,8 @@
 #pragma once
 // Copies of a template's row pattern, filled from rows of any kind by a table of placeholders.
 
-#include "platform/values/cp1250.h"
 #include "office/papers/template_engine.h"
+#include "platform/values/cp1250.h"
 
 #include <functional>
 #include <utility>

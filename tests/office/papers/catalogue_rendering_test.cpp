@@ -1,8 +1,8 @@
 // The catalogue as it comes out on paper.
 
 #include "app/module_values.h"
-#include "platform/docx/docx_word_processor.h"
 #include "office/papers/catalogue.h"
+#include "platform/docx/docx_word_processor.h"
 #include "support/office_program.h"
 #include "support/recording_platform.h"
 #include "support/temp_database.h"

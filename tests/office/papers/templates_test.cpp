@@ -1,9 +1,9 @@
 // The templates as they are delivered.
 
-#include "platform/values/cp1250.h"
 #include "office/papers/template_engine.h"
+#include "platform/values/cp1250.h"
+#include "support/source_file.h"
 
-#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
@@ -37,8 +37,7 @@ const Delivered kDelivered[] = {
 };
 
 QByteArray Bytes(const Delivered& delivered) {
-    QFile file(QDir(qEnvironmentVariable("LORVO_SOURCE_DIR") + QStringLiteral("/Šablony"))
-                   .filePath(QString::fromUtf16(delivered.file)));
+    QFile file(test::SourceFile(QStringLiteral("Šablony/") + QString::fromUtf16(delivered.file)));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

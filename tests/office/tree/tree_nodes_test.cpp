@@ -1,8 +1,8 @@
 #include "office/tree/tree_nodes.h"
 
+#include "office/numbers/catalogue_numbering.h"
 #include "office/tree/tree_lines.h"
 #include "platform/values/errors.h"
-#include "office/numbers/catalogue_numbering.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,52 @@
+# What an installation holds. On Linux the program and what it is delivered with lie under the
+# prefix, and the command `lorvo` makes the clerk's own folder from them; on Windows all lies in
+# the one folder that the program runs in.
+include(GNUInstallDirs)
+
+set(LORVO_DELIVERED
+  ${PROJECT_BINARY_DIR}/data/data.mdb
+  ${PROJECT_BINARY_DIR}/docs/help/Lorvo.chm)
+set(LORVO_LICENCES ${PROJECT_SOURCE_DIR}/LICENSES)
+
+if(WIN32)
+  install(TARGETS Lorvo RUNTIME DESTINATION .)
+  install(FILES ${LORVO_DELIVERED} DESTINATION .)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/Šablony DESTINATION .)
+  install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION Licence RENAME Lorvo.txt)
+  install(DIRECTORY ${LORVO_LICENCES}/ DESTINATION Licence)
+  return()
+endif()
+
+set(data_folder ${CMAKE_INSTALL_DATADIR}/lorvo)
+set(program_folder ${CMAKE_INSTALL_LIBEXECDIR}/lorvo)
+install(TARGETS Lorvo RUNTIME DESTINATION ${program_folder})
+install(FILES ${LORVO_DELIVERED} DESTINATION ${data_folder})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/Šablony DESTINATION ${data_folder})
+
+# The launcher finds both from where it lies, so that an unpacked archive runs anywhere.
+file(RELATIVE_PATH LORVO_PROGRAM_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${program_folder})
+file(RELATIVE_PATH LORVO_DATA_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${data_folder})
+configure_file(packaging/linux/lorvo.in ${PROJECT_BINARY_DIR}/packaging/lorvo @ONLY)
+install(PROGRAMS ${PROJECT_BINARY_DIR}/packaging/lorvo DESTINATION ${CMAKE_INSTALL_BINDIR})
+
+install(FILES packaging/linux/cz.hollowpeak.lorvo.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/linux/cz.hollowpeak.lorvo.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+install(FILES src/forms/icons/lorvo.svg DESTINATION ${icons}/scalable/apps)
+foreach(side 16 24 32 48 64 128 256 512)
+  install(FILES ${PROJECT_BINARY_DIR}/src/forms/icons/${side}/lorvo.png DESTINATION ${icons}/${side}x${side}/apps)
+endforeach()
+
+# Manual and changes are compressed without a time in them: the same source gives the same bytes.
+set(compressed ${PROJECT_BINARY_DIR}/packaging)
+configure_file(packaging/linux/changelog.in ${compressed}/changelog @ONLY)
+foreach(text ${PROJECT_SOURCE_DIR}/packaging/linux/lorvo.1 ${compressed}/changelog)
+  get_filename_component(name ${text} NAME)
+  add_custom_command(OUTPUT ${compressed}/${name}.gz
+    COMMAND gzip --best --no-name --stdout ${text} > ${compressed}/${name}.gz
+    DEPENDS ${text} VERBATIM)
+endforeach()
+add_custom_target(compressed_texts ALL DEPENDS ${compressed}/lorvo.1.gz ${compressed}/changelog.gz)
+install(FILES ${compressed}/lorvo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${compressed}/changelog.gz packaging/linux/copyright README.md CHANGELOG.md
+  DESTINATION ${CMAKE_INSTALL_DOCDIR})

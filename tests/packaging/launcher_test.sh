@@ -1,0 +1,81 @@
+#!/bin/sh
+# The launcher on a stand-in for the program: what it makes, what it brings up to date, what it
+# leaves alone. Usage: launcher_test.sh LAUNCHER.in WORK_FOLDER
+set -eu
+work=$2
+rm -rf "$work"
+mkdir -p "$work/usr/bin" "$work/usr/libexec/lorvo" "$work/usr/share/lorvo/Šablony" "$work/home"
+sed -e 's|@LORVO_PROGRAM_FROM_BIN@|../libexec/lorvo|' -e 's|@LORVO_DATA_FROM_BIN@|../share/lorvo|' \
+  "$1" > "$work/usr/bin/lorvo"
+chmod +x "$work/usr/bin/lorvo"
+share=$work/usr/share/lorvo
+export HOME="$work/home"
+unset DISPLAY WAYLAND_DISPLAY
+faults=0
+
+deliver() { # deliver VERSION: what a package of that version holds
+  printf '#!/bin/sh\necho "started %s in $(dirname "$0")"\n' "$1" > "$work/usr/libexec/lorvo/Lorvo"
+  chmod +x "$work/usr/libexec/lorvo/Lorvo"
+  echo "breeds of $1" > "$share/data.mdb"
+  for name in "Diplomy.html" "Seznam psů.html"; do echo "$name of $1" > "$share/Šablony/$name"; done
+  mkdir -p "$share/napoveda"
+  echo "help of $1" > "$share/napoveda/index.html"
+  echo "help of $1" > "$share/Lorvo.chm"
+}
+
+expect() { # expect WHAT WANTED GOT
+  [ "$2" = "$3" ] && return
+  echo "FAILED: $1"
+  echo "  wanted: $2"
+  echo "  got:    $3"
+  faults=$((faults + 1))
+}
+
+start() { "$work/usr/bin/lorvo" "$@" 2>&1 || true; }
+
+folder=$HOME/Lorvo
+deliver 1
+expect "first start" "started 1 in $folder" "$(start)"
+expect "delivered data" "breeds of 1" "$(cat "$folder/data.mdb")"
+expect "delivered template" "Seznam psů.html of 1" "$(cat "$folder/Šablony/Seznam psů.html")"
+expect "delivered help" "help of 1" "$(cat "$folder/napoveda/index.html")"
+
+echo "dogs" > "$folder/data.mdb"
+echo "places" > "$folder/Lorvo.settings"
+echo "my diploma" > "$folder/Šablony/Diplomy.html"
+echo "printed" > "$folder/Šablony/Výstup.html"
+expect "second start" "started 1 in $folder" "$(start)"
+expect "data after a start" "dogs" "$(cat "$folder/data.mdb")"
+expect "changed template after a start" "my diploma" "$(cat "$folder/Šablony/Diplomy.html")"
+
+deliver 2
+expect "start after an update" "started 2 in $folder" "$(start)"
+expect "data after an update" "dogs" "$(cat "$folder/data.mdb")"
+expect "settings after an update" "places" "$(cat "$folder/Lorvo.settings")"
+expect "changed template after an update" "my diploma" "$(cat "$folder/Šablony/Diplomy.html")"
+expect "new template to look at" "Diplomy.html of 2" "$(cat "$folder/Šablony/Dodané/Diplomy.html")"
+expect "untouched template after an update" "Seznam psů.html of 2" "$(cat "$folder/Šablony/Seznam psů.html")"
+expect "output after an update" "printed" "$(cat "$folder/Šablony/Výstup.html")"
+expect "help after an update" "help of 2" "$(cat "$folder/napoveda/index.html")"
+expect "nothing half written" "" "$(find "$folder" -name '*.nový')"
+
+rm "$folder/Šablony/Seznam psů.html"
+start > /dev/null
+expect "a template that was lost comes back" "Seznam psů.html of 2" "$(cat "$folder/Šablony/Seznam psů.html")"
+
+other="$work/na stick"
+expect "a folder of its own" "started 2 in $other" "$(start "$other")"
+expect "version" "started 2 in $work/usr/bin/../libexec/lorvo" "$(start --version)"
+
+: > "$work/occupied"
+expect "a folder that can't be made" \
+  "Lorvo nelze spustit: složku $work/occupied/Lorvo nelze vytvořit. Zkontrolujte práva a volné místo na disku." \
+  "$(start "$work/occupied/Lorvo")"
+rm "$folder/Lorvo.chm"
+mkdir "$folder/Lorvo.chm.nový" # stands for a file that can't be written
+expect "a file that can't be written" \
+  "Lorvo nelze spustit: soubor $folder/Lorvo.chm nelze zapsat. Zkontrolujte práva ke složce a volné místo na disku." \
+  "$(start)"
+
+[ $faults -eq 0 ] && echo "The launcher holds."
+exit $faults

@@ -1,0 +1,10 @@
+#include "support/source_file.h"
+
+namespace lorvo::test {
+
+QString SourceFile(const QString& pathInProject) {
+    return qEnvironmentVariable("LORVO_SOURCE_DIR", QStringLiteral(LORVO_SOURCE_DIR)) + u'/' +
+           pathInProject;
+}
+
+} // namespace lorvo::test
