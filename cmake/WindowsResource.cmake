@@ -1,0 +1,19 @@
+# Icon and version record of the program for Windows, from the same drawing as everywhere.
+find_program(ICOTOOL NAMES icotool REQUIRED DOC "maker of .ico files (Debian package icoutils)")
+set(LORVO_ICO ${PROJECT_BINARY_DIR}/packaging/lorvo.ico)
+set(pictures "")
+foreach(side 16 20 24 32 40 48 64 128 256)
+  list(APPEND pictures ${PROJECT_BINARY_DIR}/src/forms/icons/${side}/lorvo.png)
+endforeach()
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packaging)
+add_custom_command(OUTPUT ${LORVO_ICO}
+  COMMAND ${ICOTOOL} --create --output ${LORVO_ICO} ${pictures}
+  DEPENDS ${PROJECT_SOURCE_DIR}/src/forms/icons/lorvo.svg lorvo_forms
+  COMMENT "Drawing the program's icon" VERBATIM)
+add_custom_target(program_icon DEPENDS ${LORVO_ICO})
+
+set(resource ${PROJECT_BINARY_DIR}/packaging/lorvo.rc)
+configure_file(packaging/windows/lorvo.rc.in ${resource} @ONLY)
+set_source_files_properties(${resource} PROPERTIES OBJECT_DEPENDS ${LORVO_ICO})
+target_sources(Lorvo PRIVATE ${resource})
+add_dependencies(Lorvo program_icon)
