@@ -6,6 +6,8 @@ include(GNUInstallDirs)
 set(LORVO_DELIVERED
   ${PROJECT_BINARY_DIR}/data/data.mdb
   ${PROJECT_BINARY_DIR}/docs/help/Lorvo.chm)
+add_custom_target(delivered ALL)
+add_dependencies(delivered delivered_data user_help)
 set(LORVO_LICENCES ${PROJECT_SOURCE_DIR}/LICENSES)
 
 if(WIN32)
@@ -22,6 +24,8 @@ set(program_folder ${CMAKE_INSTALL_LIBEXECDIR}/lorvo)
 install(TARGETS Lorvo RUNTIME DESTINATION ${program_folder})
 install(FILES ${LORVO_DELIVERED} DESTINATION ${data_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/Šablony DESTINATION ${data_folder})
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${data_folder}/Licence RENAME Lorvo.txt)
+install(FILES ${LORVO_LICENCES}/sqlitecpp.txt DESTINATION ${data_folder}/Licence)
 
 # The launcher finds both from where it lies, so that an unpacked archive runs anywhere.
 file(RELATIVE_PATH LORVO_PROGRAM_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${program_folder})
@@ -49,4 +53,4 @@ endforeach()
 add_custom_target(compressed_texts ALL DEPENDS ${compressed}/lorvo.1.gz ${compressed}/changelog.gz)
 install(FILES ${compressed}/lorvo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${compressed}/changelog.gz packaging/linux/copyright README.md CHANGELOG.md
-  DESTINATION ${CMAKE_INSTALL_DOCDIR})
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lorvo)

@@ -7,8 +7,6 @@
 #include <QFile>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <map>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace lorvo {
 namespace {
@@ -102,43 +100,6 @@ TEST_F(BadFileTest, RefusesADamagedHeaderOrSchema) {
                                                    QByteArray(damage.length, '\x7f')));
         ExpectRefused("");
     }
-}
-
-/// Runs `body` as a user without rights, since the administrator may write anything.
-bool SucceedsWithoutRights(const std::function<bool()>& body) {
-    const pid_t child = fork();
-    if (child == 0) {
-        const bool dropped = geteuid() != 0 || setuid(65534) == 0;
-        _exit(dropped && body() ? 0 : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
-TEST_F(BadFileTest, RefusesAFileOrAFolderThatCannotBeWritten) {
-    TempDatabase::CopyTo(folder.path());
-    const auto isRefusedFor = [&](const char* reason) {
-        return SucceedsWithoutRights([&] {
-            Connection connection;
-            return FailureOf([&] { connection.Open(Path()); }).find(reason) != std::string::npos;
-        });
-    };
-    constexpr auto kAllRead =
-        QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther;
-    constexpr auto kAllEnter =
-        QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
-    constexpr auto kAllWrite =
-        QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
-    const std::map<QString, QByteArray> before = Contents();
-    QFile::setPermissions(folder.path(), kAllRead | kAllEnter | kAllWrite);
-    QFile::setPermissions(Path(), kAllRead);
-    EXPECT_TRUE(isRefusedFor("jen pro čtení"));
-    QFile::setPermissions(Path(), kAllRead | kAllWrite);
-    QFile::setPermissions(folder.path(), kAllRead | kAllEnter);
-    EXPECT_TRUE(isRefusedFor("do složky"));
-    QFile::setPermissions(folder.path(), kAllRead | kAllEnter | kAllWrite);
-    EXPECT_EQ(Contents(), before);
 }
 
 TEST_F(BadFileTest, DamageInsideTheFileSurfacesWhenItIsRead) {

@@ -2,10 +2,10 @@
 
 #include "store/store_test.h"
 
+#include <QCoreApplication>
+#include <QProcess>
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <thread>
 
 namespace lorvo {
 namespace {
@@ -13,90 +13,31 @@ namespace {
 /// A child that edits a database until it is killed, and reports each edit that has returned.
 class Editor {
   public:
-    using Body = void (*)(const QString& path, int reports);
-
-    Editor(const QString& path, Body body) {
-        int ends[2];
-        if (pipe(ends) != 0)
-            throw std::runtime_error("no pipe");
-        child_ = fork();
-        if (child_ == 0) {
-            close(ends[0]);
-            body(path, ends[1]);
-            _exit(0);
-        }
-        close(ends[1]);
-        reports_ = ends[0];
+    Editor(const QString& path, const char* way) {
+        child_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        child_.start(QCoreApplication::applicationDirPath() + u"/edit_until_killed"_qs,
+                     {QString::fromLatin1(way), path}, QIODevice::ReadOnly);
+        if (!child_.waitForStarted())
+            throw std::runtime_error("edit_until_killed does not start");
     }
 
     /// Kills the child a while after its report number `count`; how many reports it made in all.
-    int KillAfter(int count, useconds_t pause) {
-        int heard = 0;
-        char report = 0;
-        while (heard < count && read(reports_, &report, 1) == 1)
-            ++heard;
-        usleep(pause);
-        kill(child_, SIGKILL);
-        waitpid(child_, nullptr, 0);
-        while (read(reports_, &report, 1) == 1)
-            ++heard;
-        close(reports_);
-        return heard;
+    qsizetype KillAfter(qsizetype count, std::chrono::microseconds pause) {
+        QByteArray heard;
+        while (heard.size() < count && child_.waitForReadyRead())
+            heard += child_.readAll();
+        std::this_thread::sleep_for(pause);
+        child_.kill();
+        child_.waitForFinished();
+        return (heard + child_.readAll()).size();
     }
 
   private:
-    pid_t child_ = 0;
-    int reports_ = 0;
+    QProcess child_;
 };
 
-void Report(int reports) {
-    const char byte = '.';
-    if (write(reports, &byte, 1) != 1)
-        _exit(1);
-}
-
-void AddDog(RecordSet& dogs, int number) {
-    dogs.Open("SELECT * FROM Psi WHERE ID = 0");
-    dogs.AddNew();
-    dogs.Set("Cislo", number);
-    dogs.Set("Poznamka", QString(200, u'x'));
-    dogs.Update();
-    dogs.Close();
-}
-
-void EditSingly(const QString& path, int reports) {
-    DataModule module;
-    module.Conn1.Open(path);
-    for (int number = 1;; ++number) {
-        AddDog(module.rsPsi, number);
-        Report(reports);
-    }
-}
-
-/// Starts and ends the program's run over and over, so that kills fall into both.
-void EditInShortRuns(const QString& path, int reports) {
-    for (int number = 1;; ++number) {
-        DataModule module;
-        module.Conn1.Open(path);
-        AddDog(module.rsPsi, number);
-        Report(reports);
-    }
-}
-
-void EditInLongRuns(const QString& path, int reports) {
-    DataModule module;
-    module.Conn1.Open(path);
-    for (int number = 1;;) {
-        EditRun run(module.Conn1);
-        for (int i = 0; i < 100; ++i)
-            AddDog(module.rsPsi, number++);
-        run.Finish();
-        Report(reports);
-    }
-}
-
 /// Every finished edit is there, none is there in half, and the file is whole.
-void ExpectEditsKept(const QString& path, int finished) {
+void ExpectEditsKept(const QString& path, qsizetype finished) {
     DataModule module;
     module.Conn1.Open(path);
     module.rsPsi.Open("SELECT * FROM Psi");
@@ -112,8 +53,7 @@ void ExpectEditsKept(const QString& path, int finished) {
 }
 
 struct KillCase {
-    const char* name;
-    Editor::Body body;
+    const char* way;
     int editsPerReport;
     int rounds;
 };
@@ -124,17 +64,17 @@ TEST_P(KillTest, KeepsEveryFinishedEdit) {
     for (int round = 0; round < GetParam().rounds; ++round) {
         const QTemporaryDir folder(TempDatabase::FolderTemplate());
         const QString path = TempDatabase::CopyTo(folder.path());
-        const auto pause = static_cast<useconds_t>(round * 97 % 1000);
-        const int reports = Editor(path, GetParam().body).KillAfter(round % 12, pause);
+        const std::chrono::microseconds pause(round * 97 % 1000);
+        const qsizetype reports = Editor(path, GetParam().way).KillAfter(round % 12, pause);
         ExpectEditsKept(path, reports * GetParam().editsPerReport);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Edits, KillTest,
-                         ::testing::Values(KillCase{"Singly", EditSingly, 1, 40},
-                                           KillCase{"InShortRuns", EditInShortRuns, 1, 25},
-                                           KillCase{"InLongRuns", EditInLongRuns, 100, 20}),
-                         [](const auto& chosen) { return std::string(chosen.param.name); });
+                         ::testing::Values(KillCase{"Singly", 1, 40},
+                                           KillCase{"InShortRuns", 1, 25},
+                                           KillCase{"InLongRuns", 100, 20}),
+                         [](const auto& chosen) { return std::string(chosen.param.way); });
 
 } // namespace
 } // namespace lorvo

@@ -1,0 +1,158 @@
+; The installer for Windows, for the one user who runs it, into a folder where he may write: the
+; program keeps its data beside itself. Quiet with /S, into another folder with /D=C:\Folder.
+; What the clerk works on is never touched: not the database, not a changed template, not what was
+; printed. The uninstaller leaves it too and says where it is.
+;   makensis -INPUTCHARSET UTF8 -DVERSION=1.1.0 -DSTAGE=folder -DOUT=setup.exe lorvo.nsi
+Unicode true
+Target amd64-unicode
+!include "MUI2.nsh"
+!include "LogicLib.nsh"
+
+!define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Lorvo"
+
+Name "Lorvo ${VERSION}"
+OutFile "${OUT}"
+InstallDir "$LOCALAPPDATA\Lorvo"
+InstallDirRegKey HKCU "${UNINSTALL}" "InstallLocation"
+RequestExecutionLevel user
+SetCompressor /SOLID lzma
+ManifestDPIAware true
+BrandingText "Lorvo ${VERSION}"
+
+VIProductVersion "${VERSION}.0"
+VIFileVersion "${VERSION}.0"
+VIAddVersionKey /LANG=1029 "ProductName" "Lorvo"
+VIAddVersionKey /LANG=1029 "ProductVersion" "${VERSION}"
+VIAddVersionKey /LANG=1029 "FileVersion" "${VERSION}"
+VIAddVersionKey /LANG=1029 "FileDescription" "Instalace programu Lorvo"
+VIAddVersionKey /LANG=1029 "CompanyName" "Hollow Peak"
+VIAddVersionKey /LANG=1029 "LegalCopyright" "© 2026 Hollow Peak"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_WELCOMEPAGE_TEXT "Nainstaluje se Lorvo, kancelář výstavy psů. Práva správce nejsou třeba.$\r$\n$\r$\nJe-li už Lorvo ve zvolené složce, nahradí se jen program a nápověda. Vaše data, nastavení a šablony, které jste upravili, zůstanou, jak jsou.$\r$\n$\r$\nPřed pokračováním Lorvo zavřete."
+!define MUI_DIRECTORYPAGE_TEXT_TOP "Do této složky Lorvo ukládá i data výstavy (soubor data.mdb). Nevolte síťovou složku ani složku, kterou synchronizuje cloudová služba."
+!define MUI_FINISHPAGE_RUN "$INSTDIR\Lorvo.exe"
+!define MUI_FINISHPAGE_RUN_TEXT "Spustit Lorvo"
+
+!insertmacro MUI_PAGE_WELCOME
+!insertmacro MUI_PAGE_LICENSE "${STAGE}/Licence/Lorvo.txt"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "Czech"
+
+; A program that runs holds its file: nothing may be replaced under it.
+!macro RefuseWhileRunning
+  ${If} ${FileExists} "$INSTDIR\Lorvo.exe"
+    ClearErrors
+    FileOpen $0 "$INSTDIR\Lorvo.exe" a
+    ${If} ${Errors}
+      MessageBox MB_OK|MB_ICONEXCLAMATION "Lorvo je spuštěné. Zavřete je a zkuste to znovu." /SD IDOK
+      SetErrorLevel 3
+      Abort
+    ${EndIf}
+    FileClose $0
+  ${EndIf}
+!macroend
+
+; $R0 and $R1 name two files; $R2 becomes 1 when they hold the same bytes, else 0.
+Function SameFile
+  StrCpy $R2 0
+  ClearErrors
+  FileOpen $0 $R0 r
+  FileOpen $1 $R1 r
+  ${IfNot} ${Errors}
+    ${Do}
+      FileReadByte $0 $2
+      FileReadByte $1 $3
+      ${If} $2 != $3
+        ${Break}
+      ${EndIf}
+      ${If} $2 == "" ; both are at their end
+        StrCpy $R2 1
+        ${Break}
+      ${EndIf}
+    ${Loop}
+  ${EndIf}
+  FileClose $0
+  FileClose $1
+FunctionEnd
+
+; A template that differs from the one delivered before is the clerk's work and stays; the new one
+; lies in the folder Dodané beside it.
+!macro Template NAME
+  ${If} ${FileExists} "$INSTDIR\Šablony\${NAME}"
+    StrCpy $R0 "$INSTDIR\Šablony\${NAME}"
+    StrCpy $R1 "$INSTDIR\Šablony\Dodané\${NAME}"
+    Call SameFile
+  ${Else}
+    StrCpy $R2 1
+  ${EndIf}
+  SetOutPath "$INSTDIR\Šablony\Dodané"
+  File "${STAGE}/Šablony/${NAME}"
+  ${If} $R2 == 1
+    CopyFiles /SILENT "$INSTDIR\Šablony\Dodané\${NAME}" "$INSTDIR\Šablony\${NAME}"
+  ${EndIf}
+!macroend
+
+Section "Lorvo"
+  !insertmacro RefuseWhileRunning
+  SetOutPath "$INSTDIR"
+  File "${STAGE}/*.exe"
+  File "${STAGE}/*.dll"
+  File "${STAGE}/qt.conf"
+  File "${STAGE}/Lorvo.chm"
+  File /r "${STAGE}/platforms"
+  File /r "${STAGE}/styles"
+  File /r "${STAGE}/translations"
+  File /r "${STAGE}/Licence"
+  ${IfNot} ${FileExists} "$INSTDIR\data.mdb"
+    File "${STAGE}/data.mdb"
+  ${EndIf}
+  !insertmacro Template "Diplomy.html"
+  !insertmacro Template "Platby.html"
+  !insertmacro Template "Posudkové listy.html"
+  !insertmacro Template "Pozvánky.html"
+  !insertmacro Template "Seznam psů.html"
+  !insertmacro Template "Seznam vystavovatelů.html"
+
+  SetOutPath "$INSTDIR"
+  WriteUninstaller "$INSTDIR\Odinstalovat.exe"
+  CreateShortCut "$SMPROGRAMS\Lorvo.lnk" "$INSTDIR\Lorvo.exe"
+  CreateShortCut "$DESKTOP\Lorvo.lnk" "$INSTDIR\Lorvo.exe"
+  WriteRegStr HKCU "${UNINSTALL}" "DisplayName" "Lorvo – kancelář výstavy psů"
+  WriteRegStr HKCU "${UNINSTALL}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${UNINSTALL}" "DisplayIcon" "$INSTDIR\Lorvo.exe"
+  WriteRegStr HKCU "${UNINSTALL}" "Publisher" "Hollow Peak"
+  WriteRegStr HKCU "${UNINSTALL}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${UNINSTALL}" "UninstallString" '"$INSTDIR\Odinstalovat.exe"'
+  WriteRegStr HKCU "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\Odinstalovat.exe" /S'
+  WriteRegDWORD HKCU "${UNINSTALL}" "NoModify" 1
+  WriteRegDWORD HKCU "${UNINSTALL}" "NoRepair" 1
+SectionEnd
+
+; Only what was installed, by name; the folder itself goes when nothing of the clerk's is in it.
+Section "Uninstall"
+  !insertmacro RefuseWhileRunning
+  Delete "$INSTDIR\Lorvo.exe"
+  Delete "$INSTDIR\*.dll"
+  Delete "$INSTDIR\qt.conf"
+  Delete "$INSTDIR\Lorvo.chm"
+  RMDir /r "$INSTDIR\platforms"
+  RMDir /r "$INSTDIR\styles"
+  RMDir /r "$INSTDIR\translations"
+  RMDir /r "$INSTDIR\Licence"
+  RMDir /r "$INSTDIR\Šablony\Dodané"
+  Delete "$INSTDIR\Odinstalovat.exe"
+  Delete "$SMPROGRAMS\Lorvo.lnk"
+  Delete "$DESKTOP\Lorvo.lnk"
+  DeleteRegKey HKCU "${UNINSTALL}"
+  RMDir "$INSTDIR"
+  ${If} ${FileExists} "$INSTDIR\data.mdb"
+    MessageBox MB_OK|MB_ICONINFORMATION "Program Lorvo byl odinstalován.$\r$\n$\r$\nVaše data zůstala ve složce$\r$\n$INSTDIR$\r$\n$\r$\nUž-li je nepotřebujete, složku smažte." /SD IDOK
+  ${EndIf}
+SectionEnd
