@@ -18,7 +18,7 @@ namespace {
 
 class OpensNothing : public OpenService {
   public:
-    void OpenFile(const QString& path) override { QFile::remove(path); }
+    bool OpenFile(const QString&) override { return true; }
     void OpenAddress(const QString&) override {}
 };
 
@@ -42,7 +42,8 @@ void InstallPlatform(const QString& programFolder) {
     platform.iniFiles = MakeIniFiles();
     platform.locale = MakeLocaleInfo(QLocale(QLocale::Czech, QLocale::CzechRepublic));
     platform.clock = MakeClock();
-    platform.wordProcessors = std::make_unique<DocxWordProcessors>(*platform.opener, programFolder);
+    platform.wordProcessors =
+        std::make_unique<DocxWordProcessors>(*platform.opener, *platform.clock, programFolder);
     FillConstantTables(Module());
     FillPaymentModes(Module());
     Module().MainCurrency = QStringLiteral("Kč");

@@ -13,6 +13,7 @@
 #include "pair_table.h"
 #include "platform/platform.h"
 #include "platform/values/cp1250.h"
+#include "platform/whole_file.h"
 #include "store/psi.h"
 
 #include <QCoreApplication>
@@ -93,9 +94,9 @@ void BareNumbering(benchmark::State& state, const char* size) {
 void Catalogue(benchmark::State& state, const char* size) {
     UseShow(size);
     for (auto _ : state) {
-        const auto word = ThePlatform().wordProcessors->Create();
+        const auto word = ThePlatform().wordProcessors->Create(QStringLiteral("Katalog"));
         TypeCatalogue(*word, false);
-        word->Show();
+        QFile::remove(word->Show().path);
     }
 }
 
@@ -108,7 +109,7 @@ void BareCatalogue(benchmark::State& state, const char* size) {
         "Psi LEFT JOIN Majitele ON Majitele.ID = MajitelID ORDER BY PlemenoID, PohlaviPes, Trida, "
         "czech_key(Psi.Jmeno)");
     for (auto _ : state) {
-        const auto word = ThePlatform().wordProcessors->Create();
+        const auto word = ThePlatform().wordProcessors->Create(QStringLiteral("Katalog"));
         while (sqlite3_step(rows) == SQLITE_ROW) {
             for (int column = 0; column < 8; ++column) {
                 word->TypeText(QString::fromUtf8(
@@ -119,7 +120,7 @@ void BareCatalogue(benchmark::State& state, const char* size) {
         }
         sqlite3_reset(rows);
         word->HomeKeyStory();
-        word->Show();
+        QFile::remove(word->Show().path);
     }
 }
 
@@ -148,7 +149,7 @@ void Confirmations(benchmark::State& state, const char* size) {
     for (auto _ : state) {
         QByteArray output;
         AppendConfirmations(output, pattern, lines, progress);
-        WriteReportOutput(OutputFile(size), output);
+        ReplaceFile(OutputFile(size), output);
     }
 }
 
@@ -174,7 +175,7 @@ void BareConfirmations(benchmark::State& state, const char* size) {
                     reinterpret_cast<const char*>(sqlite3_column_text(rows, column))));
         }
         sqlite3_reset(rows);
-        WriteReportOutput(OutputFile(size), output);
+        ReplaceFile(OutputFile(size), output);
     }
 }
 

@@ -31,7 +31,8 @@ void InstallPlatform(lorvo::Platform& platform) {
     platform.iniFiles = lorvo::MakeIniFiles();
     platform.locale = lorvo::MakeLocaleInfo();
     platform.clock = lorvo::MakeClock();
-    platform.wordProcessors = std::make_unique<lorvo::DocxWordProcessors>(*platform.opener);
+    platform.wordProcessors = std::make_unique<lorvo::DocxWordProcessors>(
+        *platform.opener, *platform.clock, platform.programFolder + QStringLiteral("/Tisky"));
 }
 
 /// Calendars and the menus of text boxes speak Czech as the rest of the program does.

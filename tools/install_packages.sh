@@ -16,6 +16,7 @@ packages=(
 )
 if [ "${1:-run}" = test ]; then
   packages+=(clang-format-14 libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
+  packages+=(fonts-liberation fonts-urw-base35) # with DejaVu the three sets that papers are laid out with
 fi
 if [ "${1:-run}" = windows ]; then
   packages+=(

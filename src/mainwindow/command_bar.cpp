@@ -115,7 +115,8 @@ void MainCommandBar::NodeClicked() {
 }
 
 void OpenHelp() {
-    ThePlatform().opener->OpenFile(ThePlatform().programFolder + QStringLiteral("/Lorvo.chm"));
+    (void)ThePlatform().opener->OpenFile(ThePlatform().programFolder +
+                                         QStringLiteral("/Lorvo.chm"));
 }
 
 } // namespace lorvo

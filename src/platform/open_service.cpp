@@ -1,3 +1,4 @@
+#include "platform/launch_watch.h"
 #include "platform/real_services.h"
 
 #include <QDesktopServices>
@@ -9,8 +10,9 @@ namespace {
 
 class DesktopOpenService final : public OpenService {
   public:
-    void OpenFile(const QString& path) override {
-        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    bool OpenFile(const QString& path) override {
+        const LaunchWatch watch;
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(path)) && !watch.HasFailed();
     }
     void OpenAddress(const QString& address) override { QDesktopServices::openUrl(QUrl(address)); }
 };

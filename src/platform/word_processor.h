@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <memory>
+#include <vector>
 
 namespace lorvo {
 
@@ -16,6 +17,12 @@ constexpr double CentimetersToPoints(double centimetres) {
 enum class PageOrientation { Portrait = 0, Landscape = 1 };
 enum class ParagraphAlignment { Left = 0, Center = 1, Right = 2 };
 enum class FontSwitch { Off, On, Toggle };
+
+/// What has become of a document.
+struct ShownDocument {
+    QString path;       ///< of its file
+    bool opened = true; ///< false when the desktop has nothing that opens it
+};
 
 class WordProcessor {
   public:
@@ -58,6 +65,16 @@ class WordProcessor {
     virtual void SetSelectionText(const QString& text) = 0;
     virtual void InsertPageBreak() = 0;
 
+    // Layout. None of it is text or format of a report; it keeps together on paper what belongs
+    // together, with whatever fonts the paper is printed.
+    /// Paragraphs typed from now on stay in the column and on the page of the next one.
+    virtual void SetKeepWithNext(bool on) = 0;
+    /// Each page typed up to a page break is a sheet of its own and must come out as one page.
+    virtual void KeepSheetsWhole() = 0;
+    /// Lines will have this width and these tab stops in the end, where a report sets its columns
+    /// after typing. Without it they have the page's between its margins.
+    virtual void ExpectLines(double width, const std::vector<double>& tabStops) = 0;
+
     // The insertion point.
     virtual void HomeKeyStory() = 0;
     virtual void EndKeyStory() = 0;
@@ -68,15 +85,17 @@ class WordProcessor {
     // What the clerk sees at the end.
     virtual void SetPrintView() = 0;
     virtual void SetZoomWholePage() = 0;
-    /// Shows the document and lets go of it. Raises PlatformError when it can't be handed over.
-    virtual void Show() = 0;
+    /// Puts the document into its file, hands that to the desktop and lets go of it. Raises
+    /// PlatformError when the file can't be written.
+    [[nodiscard]] virtual ShownDocument Show() = 0;
 };
 
 /// Starts word processors: each call gives a hidden instance with one new empty document.
 class WordProcessors {
   public:
     virtual ~WordProcessors() = default;
-    virtual std::unique_ptr<WordProcessor> Create() = 0;
+    /// `title` names the document's file and stands in its properties.
+    virtual std::unique_ptr<WordProcessor> Create(const QString& title) = 0;
 };
 
 } // namespace lorvo

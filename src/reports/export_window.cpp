@@ -4,6 +4,8 @@
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
+#include "platform/whole_file.h"
+#include "reports/document_message.h"
 
 #include <QDir>
 #include <QLabel>
@@ -121,10 +123,14 @@ void ExportWindow::Run(bool asTemplate) {
 }
 
 void ExportWindow::RunDocument() {
-    const WaitCursor wait(*ThePlatform().ui);
-    const auto word = ThePlatform().wordProcessors->Create();
-    TypeDocument(*word);
-    word->Show();
+    ShownDocument document;
+    {
+        const WaitCursor wait(*ThePlatform().ui);
+        const auto word = ThePlatform().wordProcessors->Create(traits_.paper);
+        TypeDocument(*word);
+        document = word->Show();
+    }
+    TellWhenNotOpened(document, windowTitle());
 }
 
 void ExportWindow::ShowFailure(const QString& reason) {
@@ -178,8 +184,9 @@ bool ExportWindow::CheckTemplate(const ReportTemplate& pattern) const {
 void ExportWindow::WriteAndOpen(const QByteArray& output) const {
     const QString path = ProgramFile(traits_.outputFile);
     ThePlatform().ui->ProcessEvents();
-    WriteReportOutput(path, output);
-    ThePlatform().opener->OpenFile(path);
+    ReplaceFile(path, output);
+    // A page that nothing opens is no failure: it lies where the clerk knows it.
+    (void)ThePlatform().opener->OpenFile(path);
 }
 
 bool ExportWindow::QueryUnload() {

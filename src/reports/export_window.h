@@ -21,6 +21,7 @@ struct ExportTraits {
     QString title;        ///< of the progress figure, and the caption after a run
     QString startCaption; ///< of cmdOK before the first run
     QString closeCaption; ///< of cmdCancel
+    QString paper;        ///< what its document is called
 
     // Files below the program's folder, for reports with a template.
     QString templateFile{};

@@ -15,6 +15,7 @@ ExportTraits DiplomaTraits() {
         .title = QStringLiteral("Export katalogu"),
         .startCaption = QStringLiteral("Tisk"),
         .closeCaption = QStringLiteral("Storno"),
+        .paper = QStringLiteral("Diplomy"),
         .templateFile = QStringLiteral("Šablony/Diplomy.html"),
         .outputFile = QStringLiteral("Šablony/Výstup.html"),
         .closesAfterTemplate = true,

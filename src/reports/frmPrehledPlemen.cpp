@@ -5,6 +5,7 @@
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
+#include "reports/document_message.h"
 
 #include <QVBoxLayout>
 
@@ -36,7 +37,7 @@ frmPrehledPlemen::frmPrehledPlemen(QWidget* parent)
 
 void frmPrehledPlemen::Print() {
     try {
-        PutOut();
+        TellWhenNotOpened(PutOut(), windowTitle());
     } catch (const Error& error) {
         ThePlatform().messages->Show(QString::fromUtf8(error.what()), MessageIcon::Stop,
                                      MessageButtons::Ok, windowTitle());
@@ -45,11 +46,11 @@ void frmPrehledPlemen::Print() {
     accept();
 }
 
-void frmPrehledPlemen::PutOut() const {
+ShownDocument frmPrehledPlemen::PutOut() const {
     const WaitCursor wait(*ThePlatform().ui);
-    const auto word = ThePlatform().wordProcessors->Create();
+    const auto word = ThePlatform().wordProcessors->Create(QStringLiteral("Přehled plemen"));
     TypeBreedOverview(*word, txtTitle->text());
-    word->Show();
+    return word->Show();
 }
 
 } // namespace lorvo

@@ -2,6 +2,7 @@
 // The window that puts the breed overview out.
 
 #include "forms/form.h"
+#include "platform/word_processor.h"
 
 class QLineEdit;
 class QPushButton;
@@ -16,7 +17,7 @@ class frmPrehledPlemen : public Form {
   private:
     /// Puts the overview out and closes; a message where that fails.
     void Print();
-    void PutOut() const;
+    ShownDocument PutOut() const;
 
     QLineEdit* txtTitle;
     QPushButton* cmdOK;

@@ -16,6 +16,7 @@ ExportTraits CatalogueTraits() {
         .title = QStringLiteral("Tisk katalogu"),
         .startCaption = QStringLiteral("Tisk"),
         .closeCaption = QStringLiteral("Storno"),
+        .paper = QStringLiteral("Katalog"),
     };
 }
 

@@ -15,6 +15,7 @@ ExportTraits PaymentTraits() {
         .title = QStringLiteral("Export plateb"),
         .startCaption = QStringLiteral("Tisk"),
         .closeCaption = QStringLiteral("Storno"),
+        .paper = QStringLiteral("Platby"),
         .templateFile = QStringLiteral("Šablony/Platby.html"),
         .outputFile = QStringLiteral("Šablony/Výstup.html"),
     };

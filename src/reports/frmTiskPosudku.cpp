@@ -14,6 +14,7 @@ ExportTraits SheetTraits() {
         .title = QStringLiteral("Export posudků"),
         .startCaption = QStringLiteral("Start"),
         .closeCaption = QStringLiteral("Zavřít"),
+        .paper = QStringLiteral("Posudkové listy"),
         .templateFile = QStringLiteral("Šablony/Posudkové listy.html"),
         .outputFile = QStringLiteral("Šablony/Výstup.html"),
         .closesAfterTemplate = true,

@@ -14,6 +14,7 @@ ExportTraits ConfirmationTraits() {
         .title = QStringLiteral("Export pozvánek"),
         .startCaption = QStringLiteral("Start"),
         .closeCaption = QStringLiteral("Zavřít"),
+        .paper = QStringLiteral("Pozvánky"),
         .templateFile = QStringLiteral("Šablony/Pozvánky.html"),
         .outputFile = QStringLiteral("HTMLVýstup.html"),
         .closesAfterTemplate = true,

@@ -14,6 +14,7 @@ ExportTraits ExhibitorTraits() {
         .title = QStringLiteral("Export seznamu vystavovatelů"),
         .startCaption = QStringLiteral("Start"),
         .closeCaption = QStringLiteral("Zavřít"),
+        .paper = QStringLiteral("Seznam vystavovatelů"),
         .templateFile = QStringLiteral("Šablony/Seznam vystavovatelů.html"),
         .outputFile = QStringLiteral("Šablony/Výstup.html"),
         .closesAfterTemplate = true,

@@ -17,6 +17,7 @@ ExportTraits DogListTraits() {
         .title = QStringLiteral("Export seznamu psů"),
         .startCaption = QStringLiteral("Start"),
         .closeCaption = QStringLiteral("Zavřít"),
+        .paper = QStringLiteral("Seznam psů"),
         .templateFile = QStringLiteral("Šablony/Seznam psů.html"),
         .outputFile = QStringLiteral("Šablony/Výstup.html"),
         .closesAfterTemplate = true,

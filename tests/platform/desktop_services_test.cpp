@@ -32,7 +32,7 @@ class UrlCatcher : public QObject {
 TEST(OpenService, FilesAndAddressesGoToTheDesktop) {
     UrlCatcher catcher;
     const auto opener = MakeOpenService();
-    opener->OpenFile(u"/tmp/Šablony/Výstup #1.html"_qs);
+    EXPECT_TRUE(opener->OpenFile(u"/tmp/Šablony/Výstup #1.html"_qs));
     opener->OpenAddress(u"mailto:a@b.cz"_qs);
     EXPECT_EQ(catcher.caught,
               (QStringList{u"/tmp/Šablony/Výstup #1.html"_qs, u"mailto:a@b.cz"_qs}));

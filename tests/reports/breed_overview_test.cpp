@@ -39,6 +39,17 @@ TEST_F(BreedOverview, CountsBreedsInUseAndTheirDogs) {
         << Text().toStdString();
 }
 
+TEST_F(BreedOverview, ADocumentThatNothingOpensIsNamedAndTheWindowCloses) {
+    platform.filesOpen = false;
+    platform.ExpectMessage(
+        u"Dokument je uložen v souboru „%1/Tisky/Přehled plemen.docx“, ale na tomto počítači jej "
+        u"nemá co otevřít. Otevřete jej na kterémkoli počítači s textovým procesorem (Microsoft "
+        u"Word, LibreOffice Writer)."_qs.arg(platform.ProgramFolder()),
+        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Přehled plemen"_qs);
+    Click(window, "cmdOK");
+    EXPECT_FALSE(window.isVisible());
+}
+
 TEST_F(BreedOverview, TheTotalsAreTheSumsOfTheGroups) {
     show.Execute("UPDATE Plemena SET Pouzivat = -1; UPDATE Plemena SET FCI = 0 WHERE ID = 12");
     Click(window, "cmdOK");

@@ -20,6 +20,7 @@ ExportTraits SampleTraits() {
         .title = QStringLiteral("Export vzorků"),
         .startCaption = QStringLiteral("Tisk"),
         .closeCaption = QStringLiteral("Storno"),
+        .paper = QStringLiteral("Vzorek"),
         .templateFile = QStringLiteral("Vzorek.html"),
         .outputFile = QStringLiteral("Výstup.html"),
     };
@@ -242,6 +243,31 @@ TEST_F(ExportWindowFrame, AFailedRunEndsWithAMessageAndTheWindowAsItWas) {
     window.onRow = nullptr;
     window.ClickStart();
     EXPECT_EQ(platform.shownDocuments, 1);
+}
+
+TEST_F(ExportWindowFrame, ADocumentThatNothingOpensIsNamedInAMessage) {
+    frmSample window;
+    window.show();
+    platform.filesOpen = false;
+    platform.ExpectMessage(
+        u"Dokument je uložen v souboru „%1/Tisky/Vzorek.docx“, ale na tomto počítači jej nemá co "
+        u"otevřít. Otevřete jej na kterémkoli počítači s textovým procesorem (Microsoft Word, "
+        u"LibreOffice Writer)."_qs.arg(platform.ProgramFolder()),
+        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, {},
+        [&] { EXPECT_EQ(platform.waitCursorDepth, 0) << "the run is over"; });
+    window.ClickStart();
+    EXPECT_EQ(window.windowTitle(), u"Export vzorků");
+    EXPECT_TRUE(window.cmdCancel->isEnabled());
+}
+
+TEST_F(ExportWindowFrame, APageThatNothingOpensIsNoMatter) {
+    WriteTemplate(kTemplate);
+    frmSample window;
+    window.show();
+    platform.filesOpen = false;
+    window.chkHTML->setChecked(true);
+    window.ClickStart();
+    EXPECT_EQ(Output(), "<t><b><b><b><b><b><z>");
 }
 
 TEST_F(ExportWindowFrame, ATemplateRunPutsTheSectionsTogetherAndOpensTheOutput) {

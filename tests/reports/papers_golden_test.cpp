@@ -28,6 +28,7 @@ struct Paper {
     const char16_t* caption;
     const char16_t* startCaption;
     const char16_t* closeCaption;
+    const char16_t* document; ///< its title
 };
 
 void PrintTo(const Paper& paper, std::ostream* out) {
@@ -42,17 +43,17 @@ constexpr const char16_t* kOutput = u"Šablony/Výstup.html";
 
 const Paper kPapers[] = {
     {"entry_confirmations", Make<frmTiskPozvanek>, true, true, u"Pozvánky.html", u"HTMLVýstup.html",
-     u"Export pozvánek", u"Start", u"Zavřít"},
+     u"Export pozvánek", u"Start", u"Zavřít", u"Pozvánky"},
     {"judging_sheets", Make<frmTiskPosudku>, true, false, u"Posudkové listy.html", kOutput,
-     u"Export posudků", u"Start", u"Zavřít"},
+     u"Export posudků", u"Start", u"Zavřít", u"Posudkové listy"},
     {"diplomas", Make<fmDiplom>, true, true, u"Diplomy.html", kOutput, u"Tisk diplomů", u"Tisk",
-     u"Storno"},
+     u"Storno", u"Diplomy"},
     {"dog_list", Make<frmTiskSeznamuPsu>, true, true, u"Seznam psů.html", kOutput,
-     u"Export seznamu psů", u"Start", u"Zavřít"},
+     u"Export seznamu psů", u"Start", u"Zavřít", u"Seznam psů"},
     {"exhibitor_list", Make<frmTiskSeznamVystavovatelu>, true, false, u"Seznam vystavovatelů.html",
-     kOutput, u"Export seznamu vystavovatelů", u"Start", u"Zavřít"},
+     kOutput, u"Export seznamu vystavovatelů", u"Start", u"Zavřít", u"Seznam vystavovatelů"},
     {"payments", Make<frmTiskPlateb>, false, false, u"Platby.html", kOutput, u"Platby", u"Tisk",
-     u"Storno"},
+     u"Storno", u"Platby"},
 };
 
 class EachPaper : public PaperFixture, public testing::WithParamInterface<Paper> {
@@ -72,7 +73,7 @@ TEST_P(EachPaper, AsADocument) {
     const auto window = GetParam().make();
     Start(*window, false);
     ExpectGolden(Golden(".txt"), Operations().toUtf8() + '\n');
-    EXPECT_EQ(platform.shownDocuments, 1);
+    EXPECT_EQ(platform.documentTitles, QStringList{QString::fromUtf16(GetParam().document)});
     EXPECT_EQ(window->isVisible(), !GetParam().closesAfterDocument);
 }
 
@@ -117,9 +118,10 @@ TEST_P(EachPaper, AMissingTemplateFolderIsAMessageThatNamesTheFile) {
     const auto window = GetParam().make();
     const QString path =
         platform.ProgramFolder() + u"/Šablony/"_qs + QString::fromUtf16(GetParam().templateFile);
-    platform.ExpectMessage(u"Šablonu nelze otevřít „%1“: No such file or directory"_qs.arg(path),
-                           MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
-                           QString::fromUtf16(GetParam().caption));
+    platform.ExpectMessage(
+        u"Šablonu nelze otevřít „%1“: soubor nebo jeho složka neexistuje"_qs.arg(path),
+        MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
+        QString::fromUtf16(GetParam().caption));
     Start(*window, true);
     EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(platform.openedFiles.isEmpty());
@@ -156,7 +158,7 @@ TEST_P(EachPaper, AnOutputThatCannotBeWrittenIsAMessage) {
     const QString path = platform.ProgramFolder() + u'/' + QString::fromUtf16(GetParam().output);
     ASSERT_TRUE(QDir().mkdir(path));
     const auto window = GetParam().make();
-    platform.ExpectMessage(u"Soubor nelze zapsat „%1“: Is a directory"_qs.arg(path));
+    platform.ExpectMessage(u"Soubor nelze zapsat „%1“: tento název má složka"_qs.arg(path));
     Start(*window, true);
     EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(platform.openedFiles.isEmpty());

@@ -1,6 +1,8 @@
-// The documents as they come out on paper, all laid out in one go.
+// The documents as they come out on paper, with three sets of fonts, on a small show and on one
+// whose fields are full.
 
 #include "office/papers/breed_overview.h"
+#include "office/papers/catalogue.h"
 #include "office/papers/diplomas.h"
 #include "office/papers/dog_lists.h"
 #include "office/papers/entry_confirmations.h"
@@ -10,8 +12,10 @@
 #include "platform/docx/docx_word_processor.h"
 #include "reports/paper_fixture.h"
 #include "support/office_program.h"
+#include "support/schema_order.h"
 
-#include <QFile>
+#include <QDir>
+#include <map>
 
 namespace lorvo::test {
 
@@ -22,60 +26,130 @@ class UnstoppedRun final : public RunProgress {
     bool Advance(int, int) override { return true; }
 };
 
+/// A text of that many letters in words, some of which are wide.
+QString Full(int letters, const QString& words) {
+    return words.repeated(letters / static_cast<int>(words.size()) + 1).first(letters);
+}
+
+/// Pages of each document by its title.
+using Layout = std::map<QString, QStringList>;
+
 class PapersRendering : public PaperFixture {
   protected:
-    /// Puts a document into the program's folder under a name.
-    void Type(const QString& name, const std::function<void(WordProcessor&)>& type) {
-        DocxWordProcessors processors(*ThePlatform().opener, platform.ProgramFolder());
-        const auto word = processors.Create();
-        type(*word);
-        word->Show();
-        const QString path = platform.ProgramFolder() + u'/' + name + u".docx"_qs;
-        ASSERT_TRUE(QFile::copy(platform.openedFiles.last(), path));
-        documents << path;
-    }
-    QString Pdf(const QString& name) const {
-        return platform.ProgramFolder() + u'/' + name + u".pdf"_qs;
-    }
-    /// The pages of a paper, but for the empty one behind the last page break.
-    QStringList Pages(const QString& name) const {
-        QStringList pages = PdfPages(Pdf(name));
-        while (!pages.isEmpty() && pages.last().trimmed().isEmpty())
-            pages.removeLast();
-        return pages;
+    /// Every dog with a kennel, a breed and an owner whose fields are full.
+    void FillFields() {
+        const QString dog = Full(50, u"Alexandrova Mája Žofie "_qs);
+        const QString kennel = Full(150, u"z Moravského Krumlova WÜRTTEMBERG "_qs);
+        const QString street = Full(255, u"Náměstí Svobody v Dolním Městě "_qs);
+        const QString breed = Full(255, u"Německý Ohař Drátosrstý "_qs);
+        const auto set = [this](const char* statement, const QStringList& values) {
+            QString sql = QString::fromUtf8(statement);
+            for (const QString& value : values)
+                sql.replace(sql.indexOf(u'?'), 1, u'\'' + value + u'\'');
+            show.Execute(sql.toStdString());
+        };
+        set("UPDATE Psi SET Jmeno = ?, ChovnaStanice = ?, PK = ?", {dog, kennel, kennel.left(50)});
+        set("UPDATE Plemena SET Nazev = ?", {breed});
+        set("UPDATE Majitele SET Jmeno = ?, Prijmeni = ?, Ulice = ?, Mesto = ?",
+            {Full(50, u"Evženie Dvořáková "_qs), Full(50, u"Nováková Malá "_qs), street,
+             Full(100, u"Ústí nad Labem "_qs)});
     }
 
-    QStringList documents;
-    UnstoppedRun run;
+    void TypeAll() {
+        QStringList lines;
+        for (const ConfirmationLine& line : kConfirmationLines)
+            lines << QString::fromUtf16(line.text);
+        const QString title = u"Krajská výstava psů společenských plemen Zlín 14. května 2005"_qs;
+        Type(u"Katalog"_qs, [](auto& word) { TypeCatalogue(word, true); });
+        Type(u"Pozvánky"_qs, [&](auto& word) { TypeConfirmations(word, lines, run_); });
+        Type(u"Posudkové listy"_qs, [&](auto& word) { TypeJudgingSheets(word, title, run_); });
+        Type(u"Diplomy"_qs, [&](auto& word) { TypeDiplomas(word, run_); });
+        Type(u"Seznam psů"_qs, [&](auto& word) { TypeDogList(word, DogGrouping::ByBreed, run_); });
+        Type(u"Seznam vystavovatelů"_qs, [](auto& word) { TypeExhibitors(word); });
+        Type(u"Platby"_qs, [&](auto& word) { TypePayments(word, run_); });
+        Type(u"Přehled plemen"_qs, [&](auto& word) { TypeBreedOverview(word, title); });
+    }
+
+    Layout LaidOutWith(FontSet fonts) {
+        const QString folder = platform.ProgramFolder() + u'/' + NameOf(fonts);
+        QDir().mkpath(folder);
+        MakePdfs(documents_.values(), folder, platform.ProgramFolder(), fonts);
+        Layout layout;
+        for (const QString& title : documents_.keys())
+            layout[title] = PdfPages(folder + u'/' +
+                                     QFileInfo(documents_[title]).completeBaseName() + u".pdf"_qs);
+        return layout;
+    }
+
+    /// Each page has the same words whatever the fonts.
+    void ExpectAlike(const Layout& layout, const Layout& other, FontSet fonts) {
+        for (const auto& [title, pages] : layout) {
+            const QStringList& otherPages = other.at(title);
+            ASSERT_EQ(pages.size(), otherPages.size())
+                << title.toStdString() << " with " << NameOf(fonts).toStdString();
+            for (qsizetype i = 0; i < pages.size(); ++i)
+                EXPECT_EQ(Words(pages[i]), Words(otherPages[i]))
+                    << title.toStdString() << " page " << i + 1 << " with "
+                    << NameOf(fonts).toStdString();
+        }
+    }
+
+    void ExpectSheets(const Layout& layout) {
+        EXPECT_EQ(layout.at(u"Pozvánky"_qs).size(), 5 + 1) << "with the page behind the last break";
+        EXPECT_EQ(layout.at(u"Diplomy"_qs).size(), 7 + 1);
+        const QStringList sheets = layout.at(u"Posudkové listy"_qs);
+        ASSERT_EQ(sheets.size(), 7 + 1);
+        for (const QString& sheet : sheets.first(7))
+            EXPECT_TRUE(sheet.contains(u"POSUDEK:"_qs) && sheet.contains(u"podpis rozhodčího"_qs));
+    }
+
+  private:
+    void Type(const QString& title, const std::function<void(WordProcessor&)>& type) {
+        DocxWordProcessors processors(*ThePlatform().opener, *ThePlatform().clock,
+                                      platform.ProgramFolder());
+        const auto word = processors.Create(title);
+        type(*word);
+        documents_[title] = word->Show().path;
+        ExpectSchemaOrder(documents_[title]);
+    }
+
+    /// In the order of the alphabet: what stands side by side is read in this order or that.
+    static std::string Words(const QString& page) {
+        QStringList words = page.simplified().split(u' ');
+        words.sort();
+        return words.join(u' ').toStdString();
+    }
+
+    QMap<QString, QString> documents_; ///< paths by title
+    UnstoppedRun run_;
 };
 
 } // namespace
 
-TEST_F(PapersRendering, EverySheetIsOnePageAndEveryListReadsInItsColumns) {
+TEST_F(PapersRendering, EveryPaperHasTheSamePagesWithThreeSetsOfFonts) {
     ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
-    QStringList lines;
-    for (const ConfirmationLine& line : kConfirmationLines)
-        lines << QString::fromUtf16(line.text);
-    Type(u"confirmations"_qs, [&](auto& word) { TypeConfirmations(word, lines, run); });
-    Type(u"sheets"_qs, [&](auto& word) { TypeJudgingSheets(word, u"Krajská výstava"_qs, run); });
-    Type(u"diplomas"_qs, [&](auto& word) { TypeDiplomas(word, run); });
-    Type(u"dogs"_qs, [&](auto& word) { TypeDogList(word, DogGrouping::ByBreed, run); });
-    Type(u"exhibitors"_qs, [](auto& word) { TypeExhibitors(word); });
-    Type(u"payments"_qs, [&](auto& word) { TypePayments(word, run); });
-    Type(u"overview"_qs, [](auto& word) { TypeBreedOverview(word, u"Krajská výstava"_qs); });
-    MakePdfs(documents, platform.ProgramFolder(), platform.ProgramFolder());
+    show.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'Kruh 1');"
+                 "UPDATE Plemena SET ID_Kruhu = 1");
+    TypeAll();
+    const Layout layout = LaidOutWith(FontSet::Liberation);
+    ExpectSheets(layout);
+    for (const QString& list : {u"Katalog"_qs, u"Seznam psů"_qs, u"Seznam vystavovatelů"_qs,
+                                u"Platby"_qs, u"Přehled plemen"_qs})
+        EXPECT_EQ(layout.at(list).size(), 1) << list.toStdString();
+    EXPECT_TRUE(layout.at(u"Seznam vystavovatelů"_qs)
+                    .first()
+                    .contains(u"Eva Krátká 1 Ústí nad Labem 012 34"_qs));
+    EXPECT_TRUE(layout.at(u"Platby"_qs).first().contains(u"složenkou"_qs));
+    for (const FontSet fonts : {FontSet::Urw, FontSet::DejaVu})
+        ExpectAlike(layout, LaidOutWith(fonts), fonts);
+}
 
-    EXPECT_EQ(Pages(u"confirmations"_qs).size(), 5);
-    const QStringList sheets = Pages(u"sheets"_qs);
-    EXPECT_EQ(sheets.size(), 7);
-    for (const QString& sheet : sheets)
-        EXPECT_TRUE(sheet.contains(u"POSUDEK:"_qs) && sheet.contains(u"podpis rozhodčího"_qs));
-    EXPECT_EQ(Pages(u"diplomas"_qs).size(), 7);
-    EXPECT_TRUE(PdfInfo(Pdf(u"dogs"_qs)).contains(u"841."_qs));
-    for (const QString& list : {u"dogs"_qs, u"exhibitors"_qs, u"payments"_qs, u"overview"_qs})
-        EXPECT_EQ(Pages(list).size(), 1) << list.toStdString();
-    EXPECT_TRUE(Pages(u"exhibitors"_qs).first().contains(u"Eva Krátká 1 Ústí nad Labem 012 34"_qs));
-    EXPECT_TRUE(Pages(u"payments"_qs).first().contains(u"složenkou"_qs));
+TEST_F(PapersRendering, FullFieldsStayOnTheirSheetWithEverySetOfFonts) {
+    ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
+    FillFields();
+    TypeAll();
+    for (const FontSet fonts : kFontSets)
+        ExpectSheets(LaidOutWith(fonts));
 }
 
 } // namespace lorvo::test

@@ -1,5 +1,6 @@
 #include "support/office_program.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -11,12 +12,54 @@ namespace {
 
 constexpr int kTimeout = 120000;
 
-QString OutputOf(const QString& program, const QStringList& arguments) {
+QString
+OutputOf(const QString& program, const QStringList& arguments,
+         const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
     QProcess process;
+    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished(kTimeout)) << program.toStdString();
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
     return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+QStringList PagesOf(const QStringList& arguments) {
+    QStringList pages =
+        OutputOf(QStringLiteral("pdftotext"), arguments + QStringList{QStringLiteral("-")})
+            .split(u'\f');
+    pages.removeLast(); // the text behind the last page's end
+    return pages;
+}
+
+struct FontSource {
+    QString name;
+    QString folder;
+};
+
+FontSource SourceOf(FontSet fonts) {
+    switch (fonts) {
+    case FontSet::Liberation:
+        return {QStringLiteral("Liberation"), QStringLiteral("truetype/liberation")};
+    case FontSet::Urw:
+        return {QStringLiteral("URW"), QStringLiteral("opentype/urw-base35")};
+    case FontSet::DejaVu:
+        break;
+    }
+    return {QStringLiteral("DejaVu"), QStringLiteral("truetype/dejavu")};
+}
+
+/// A configuration that knows the fonts of one folder, and its path.
+QString FontConfiguration(const QString& folder, FontSet fonts) {
+    const FontSource source = SourceOf(fonts);
+    const QString fontFolder = QStringLiteral("/usr/share/fonts/") + source.folder;
+    EXPECT_TRUE(QFileInfo::exists(fontFolder)) << "no fonts in " << fontFolder.toStdString();
+    QFile file(QStringLiteral("%1/%2.conf").arg(folder, source.name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QStringLiteral("<?xml version=\"1.0\"?><fontconfig><dir>%1</dir>"
+                              "<cachedir>%2/%3</cachedir></fontconfig>\n")
+                   .arg(fontFolder, folder, source.name)
+                   .toUtf8());
+    return file.fileName();
 }
 
 } // namespace
@@ -25,19 +68,27 @@ bool HasOfficeProgram() {
     return !QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty();
 }
 
-QString PdfOf(const QString& document, const QString& profileFolder) {
+QString NameOf(FontSet fonts) {
+    return SourceOf(fonts).name;
+}
+
+QString PdfOf(const QString& document, const QString& profileFolder, FontSet fonts) {
     const QFileInfo info(document);
-    MakePdfs({document}, info.path(), profileFolder);
+    MakePdfs({document}, info.path(), profileFolder, fonts);
     return info.path() + u'/' + info.completeBaseName() + QStringLiteral(".pdf");
 }
 
-void MakePdfs(const QStringList& documents, const QString& folder, const QString& profileFolder) {
+void MakePdfs(const QStringList& documents, const QString& folder, const QString& profileFolder,
+              FontSet fonts) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("FONTCONFIG_FILE"), FontConfiguration(profileFolder, fonts));
     OutputOf(
         QStringLiteral("soffice"),
         QStringList{QStringLiteral("-env:UserInstallation=file://%1/profile").arg(profileFolder),
                     QStringLiteral("--headless"), QStringLiteral("--convert-to"),
                     QStringLiteral("pdf"), QStringLiteral("--outdir"), folder} +
-            documents);
+            documents,
+        environment);
 }
 
 QString PdfInfo(const QString& pdf) {
@@ -48,12 +99,24 @@ QString PdfFonts(const QString& pdf) {
     return OutputOf(QStringLiteral("pdffonts"), {pdf});
 }
 
+QStringList PdfColumns(const QString& pdf, int width, int columns) {
+    QList<QStringList> texts;
+    for (int column = 0; column < columns; ++column)
+        texts << PagesOf({QStringLiteral("-layout"), QStringLiteral("-r"), QStringLiteral("72"),
+                          QStringLiteral("-x"), QString::number(column * width),
+                          QStringLiteral("-y"), QStringLiteral("0"), QStringLiteral("-W"),
+                          QString::number(width), QStringLiteral("-H"), QStringLiteral("5000"),
+                          pdf});
+    QStringList inOrder;
+    for (qsizetype page = 0; page < texts.first().size(); ++page) {
+        for (const QStringList& column : texts)
+            inOrder << column[page];
+    }
+    return inOrder;
+}
+
 QStringList PdfPages(const QString& pdf) {
-    QStringList pages =
-        OutputOf(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")})
-            .split(u'\f');
-    pages.removeLast(); // the text behind the last page's end
-    return pages;
+    return PagesOf({QStringLiteral("-layout"), pdf});
 }
 
 } // namespace lorvo::test

@@ -122,7 +122,10 @@ struct RecordingPlatform::Doubles {
     class Opener final : public OpenService {
       public:
         explicit Opener(RecordingPlatform& owner) : owner_(owner) {}
-        void OpenFile(const QString& path) override { owner_.openedFiles << path; }
+        bool OpenFile(const QString& path) override {
+            owner_.openedFiles << path;
+            return owner_.filesOpen;
+        }
         void OpenAddress(const QString& address) override { owner_.openedAddresses << address; }
 
       private:
@@ -203,7 +206,11 @@ RecordingPlatform::RecordingPlatform() : outer_(std::move(ThePlatform())) {
     platform.locale = std::make_unique<Doubles::Locale>(*this);
     platform.clock = std::make_unique<Doubles::FixedClock>(*this);
     platform.wordProcessors =
-        std::make_unique<RecordingWordProcessors>(wordOperations, shownDocuments);
+        std::make_unique<RecordingWordProcessors>(wordOperations, [this](const QString& title) {
+            ++shownDocuments;
+            documentTitles << title;
+            return ShownDocument{ProgramFolder() + u"/Tisky/"_qs + title + u".docx"_qs, filesOpen};
+        });
     platform.ui = std::make_unique<Doubles::Ui>(*this);
 }
 

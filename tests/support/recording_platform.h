@@ -63,6 +63,9 @@ class RecordingPlatform {
     /// line break, a quote and a backslash are written as \t, \r, \n, \" and \\.
     QStringList wordOperations;
     int shownDocuments = 0;
+    QStringList documentTitles; ///< of those shown
+    /// Whether the desktop has programs that open files and documents.
+    bool filesOpen = true;
 
   private:
     struct Doubles;

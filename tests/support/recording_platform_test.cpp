@@ -96,7 +96,7 @@ TEST(RecordingPlatform, StandsInForTheSmallServices) {
     EXPECT_EQ(services.locale->Item(kLocaleCurrencySymbol), u"Kč"_qs);
     services.settings->Write(u"Software\\Hollow Peak\\Lorvo\\Sys"_qs, u"ShowGrid"_qs, u"1"_qs);
     EXPECT_EQ(platform.settings.at(u"Sys\\ShowGrid"_qs), u"1"_qs);
-    services.opener->OpenFile(u"/x.html"_qs);
+    EXPECT_TRUE(services.opener->OpenFile(u"/x.html"_qs));
     EXPECT_EQ(platform.openedFiles, QStringList(u"/x.html"_qs));
     int runs = 0;
     platform.onProcessEvents = [&] {
@@ -110,18 +110,19 @@ TEST(RecordingPlatform, StandsInForTheSmallServices) {
 
 TEST(RecordingPlatform, WritesDownTheOperationsOfTheWordProcessor) {
     RecordingPlatform platform;
-    const auto word = ThePlatform().wordProcessors->Create();
+    const auto word = ThePlatform().wordProcessors->Create(u"Katalog"_qs);
     word->SetFontSize(12);
     word->AddTabStop(CentimetersToPoints(1));
     word->SetBold(FontSwitch::Toggle);
     word->TypeText(u"Rex \t\"z Dvora\"\r\n"_qs);
     word->TypeParagraph();
-    word->Show();
+    EXPECT_TRUE(word->Show().opened);
     EXPECT_EQ(platform.wordOperations,
               (QStringList{u"SetFontSize 12"_qs, u"AddTabStop 28.35"_qs, u"SetBold Toggle"_qs,
                            u"TypeText \"Rex \\t\\\"z Dvora\\\"\\r\\n\""_qs, u"TypeParagraph"_qs,
                            u"Show"_qs}));
     EXPECT_EQ(platform.shownDocuments, 1);
+    EXPECT_EQ(platform.documentTitles, QStringList(u"Katalog"_qs));
 }
 
 TEST(RecordingPlatform, TheOuterPlatformComesBack) {

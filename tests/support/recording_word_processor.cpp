@@ -42,8 +42,9 @@ QString AlignmentText(ParagraphAlignment alignment) {
 
 class RecordingWordProcessor final : public WordProcessor {
   public:
-    RecordingWordProcessor(QStringList& operations, int& shownDocuments)
-        : operations_(operations), shownDocuments_(shownDocuments) {}
+    RecordingWordProcessor(QStringList& operations, QString title,
+                           RecordingWordProcessors::Show show)
+        : operations_(operations), title_(std::move(title)), show_(std::move(show)) {}
 
     void SetOrientation(PageOrientation orientation) override {
         const bool portrait = orientation == PageOrientation::Portrait;
@@ -92,15 +93,19 @@ class RecordingWordProcessor final : public WordProcessor {
     }
     void InsertPageBreak() override { Note(u"InsertPageBreak"_qs); }
 
+    void SetKeepWithNext(bool) override {}
+    void KeepSheetsWhole() override {}
+    void ExpectLines(double, const std::vector<double>&) override {}
+
     void HomeKeyStory() override { Note(u"HomeKeyStory"_qs); }
     void EndKeyStory() override { Note(u"EndKeyStory"_qs); }
     void WholeStory() override { Note(u"WholeStory"_qs); }
 
     void SetPrintView() override { Note(u"SetPrintView"_qs); }
     void SetZoomWholePage() override { Note(u"SetZoomWholePage"_qs); }
-    void Show() override {
+    ShownDocument Show() override {
         Note(u"Show"_qs);
-        ++shownDocuments_;
+        return show_(title_);
     }
 
   private:
@@ -109,13 +114,14 @@ class RecordingWordProcessor final : public WordProcessor {
     }
 
     QStringList& operations_;
-    int& shownDocuments_;
+    const QString title_;
+    RecordingWordProcessors::Show show_;
 };
 
 } // namespace
 
-std::unique_ptr<WordProcessor> RecordingWordProcessors::Create() {
-    return std::make_unique<RecordingWordProcessor>(operations_, shownDocuments_);
+std::unique_ptr<WordProcessor> RecordingWordProcessors::Create(const QString& title) {
+    return std::make_unique<RecordingWordProcessor>(operations_, title, show_);
 }
 
 } // namespace lorvo::test

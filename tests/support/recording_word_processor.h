@@ -4,19 +4,22 @@
 #include "platform/word_processor.h"
 
 #include <QStringList>
+#include <functional>
 
 namespace lorvo::test {
 
-/// Both lists outlive the word processors made.
+/// Layout is no content and is left out of the operations. The operations outlive the word
+/// processors made; `show` is asked what becomes of a document with this title.
 class RecordingWordProcessors final : public WordProcessors {
   public:
-    RecordingWordProcessors(QStringList& operations, int& shownDocuments)
-        : operations_(operations), shownDocuments_(shownDocuments) {}
-    std::unique_ptr<WordProcessor> Create() override;
+    using Show = std::function<ShownDocument(const QString& title)>;
+    RecordingWordProcessors(QStringList& operations, Show show)
+        : operations_(operations), show_(std::move(show)) {}
+    std::unique_ptr<WordProcessor> Create(const QString& title) override;
 
   private:
     QStringList& operations_;
-    int& shownDocuments_;
+    Show show_;
 };
 
 } // namespace lorvo::test

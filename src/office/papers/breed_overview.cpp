@@ -54,6 +54,7 @@ std::array<GroupCounts, kGroups> CountGroups() {
 
 void TypeTitle(WordProcessor& word, const QString& title) {
     word.SetFontName(QStringLiteral("Arial"));
+    word.SetKeepWithNext(true);
     word.SetFontSize(14);
     word.SetBold(FontSwitch::On);
     word.SetAlignment(ParagraphAlignment::Center);
@@ -78,8 +79,10 @@ QString CountText(const char16_t* caption, const Count& count) {
 }
 
 void TypeGroup(WordProcessor& word, int group, const GroupCounts& counts) {
+    word.SetKeepWithNext(true);
     TypeLine(word, GroupHeading(group));
     TypeLine(word, CountText(u"\tPočet plemen:", counts.breeds));
+    word.SetKeepWithNext(false);
     TypeLine(word, CountText(u"\tPočet psů:", counts.dogs), 2);
 }
 

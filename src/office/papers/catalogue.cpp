@@ -75,8 +75,13 @@ class CatalogueTypist {
     bool lastMale_ = false;
 };
 
+constexpr double kColumnWidth = CentimetersToPoints(11.72);
+constexpr double kFirstTabStop = CentimetersToPoints(1.0);
+constexpr double kSecondTabStop = CentimetersToPoints(6.0);
+
 void CatalogueTypist::Type() {
     word_.SetOrientation(PageOrientation::Landscape);
+    word_.ExpectLines(kColumnWidth, {kFirstTabStop, kSecondTabStop});
     for (const Kruhy& ring : rows_.rings)
         TypeRing(ring);
     SetUpPage();
@@ -84,6 +89,7 @@ void CatalogueTypist::Type() {
 
 void CatalogueTypist::TypeRing(const Kruhy& ring) {
     SetHeadingFont(12, true);
+    word_.SetKeepWithNext(true);
     word_.TypeText(ring.Nazev + u' ');
     TypeParagraphs(word_, 2);
     for (const Plemena& breed : Under(rows_.breeds, ring.ID))
@@ -93,15 +99,18 @@ void CatalogueTypist::TypeRing(const Kruhy& ring) {
 void CatalogueTypist::TypeBreed(const Plemena& breed) {
     lastClass_ = kNoClass;
     SetHeadingFont(14, false);
+    word_.SetKeepWithNext(true);
     word_.TypeText(BreedNameOf(breed) + u' ');
     TypeParagraphs(word_, 2);
     for (const Psi& dog : Under(rows_.dogs, breed.ID))
         TypeDog(dog);
+    word_.SetKeepWithNext(false);
     TypeParagraphs(word_, 1);
 }
 
 void CatalogueTypist::TypeDog(const Psi& dog) {
     SetHeadingFont(10, false);
+    word_.SetKeepWithNext(true);
     if (dog.Trida != lastClass_ || dog.PohlaviPes != lastMale_)
         TypeClassHeading(dog);
     TypeNameAndBirth(dog);
@@ -139,6 +148,7 @@ void CatalogueTypist::TypeParentsAndPeople(const Psi& dog) {
     TypeParagraphs(word_, 1);
     word_.TypeText(QStringLiteral("  o. :\t") + dog.Otec + QStringLiteral("\tm. : ") + dog.Matka);
     TypeParagraphs(word_, 1);
+    word_.SetKeepWithNext(false);
     word_.TypeText(QStringLiteral("  ch. : \t") + dog.Chovatel + QStringLiteral("\tmaj. : "));
     if (const QString& owner = Under(rows_.owners, dog.MajitelID); !owner.isEmpty())
         word_.TypeText(owner);
@@ -148,9 +158,9 @@ void CatalogueTypist::TypeParentsAndPeople(const Psi& dog) {
 void CatalogueTypist::SetUpPage() {
     word_.HomeKeyStory();
     word_.WholeStory();
-    word_.AddTextColumn(CentimetersToPoints(11.72), CentimetersToPoints(1.25));
-    word_.AddTabStop(CentimetersToPoints(1.0));
-    word_.AddTabStop(CentimetersToPoints(6.0));
+    word_.AddTextColumn(kColumnWidth, CentimetersToPoints(1.25));
+    word_.AddTabStop(kFirstTabStop);
+    word_.AddTabStop(kSecondTabStop);
     word_.SetZoomWholePage();
     word_.SetOrientation(PageOrientation::Landscape);
     word_.SetLeftMargin(CentimetersToPoints(1.5));

@@ -62,6 +62,7 @@ void TypeDiplomas(WordProcessor& word, RunProgress& progress) {
     const DogPapers papers(DogsByName);
     const QString spacing = LineBreak().repeated(kLinesOfHead);
     word.SetOrientation(PageOrientation::Portrait);
+    word.KeepSheetsWhole();
     WalkRows(papers.All(), progress,
              [&](const DogPaper& paper) { TypeDiploma(word, paper, spacing); });
     word.SetPrintView();

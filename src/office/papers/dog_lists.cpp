@@ -130,7 +130,9 @@ void DogListTypist::Type(const DogRuns& runs) {
 
 void DogListTypist::TypeHeading(const QString& heading) {
     word_.SetBold(FontSwitch::On);
+    word_.SetKeepWithNext(true);
     TypeLine(word_, heading);
+    word_.SetKeepWithNext(false);
     word_.SetBold(FontSwitch::Off);
 }
 

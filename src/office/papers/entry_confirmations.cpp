@@ -157,6 +157,7 @@ void TypeConfirmations(WordProcessor& word, const QStringList& textLines, RunPro
     const DogPapers papers(FirstFiveDogsByNumber);
     ConfirmationTypist typist(word, textLines);
     word.SetOrientation(PageOrientation::Portrait);
+    word.KeepSheetsWhole();
     word.SetFontName(QStringLiteral("Tahoma"));
     WalkRows(papers.All(), progress, [&](const DogPaper& paper) { typist.TypeSheet(paper); });
     word.HomeKeyStory();

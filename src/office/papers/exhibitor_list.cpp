@@ -12,6 +12,9 @@ namespace lorvo {
 
 namespace {
 
+/// Leaves the numbers behind their tab stop the room for those of four or five dogs.
+constexpr double kSideMargin = CentimetersToPoints(1.0);
+
 struct Exhibitor {
     Majitele owner;
     QString numbers; ///< of the dogs, with commas between them
@@ -55,6 +58,7 @@ std::vector<RowField<Exhibitor>> ExhibitorFields() {
 
 void TypeHeading(WordProcessor& word) {
     word.SetFontName(QStringLiteral("Arial"));
+    word.SetKeepWithNext(true);
     word.SetBold(FontSwitch::On);
     word.SetItalic(true);
     word.SetUnderline(true);
@@ -67,6 +71,7 @@ void TypeHeading(WordProcessor& word) {
     word.TypeText(QStringLiteral("Vystavovatel\tKatalog.č."));
     word.SetBold(FontSwitch::Off);
     TypeParagraphs(word, 2);
+    word.SetKeepWithNext(false);
 }
 
 void TypeExhibitor(WordProcessor& word, const Exhibitor& exhibitor) {
@@ -92,6 +97,8 @@ void AppendExhibitors(QByteArray& output, const QByteArray& pattern, RunProgress
 
 void TypeExhibitors(WordProcessor& word) {
     word.SetOrientation(PageOrientation::Landscape);
+    word.SetLeftMargin(kSideMargin);
+    word.SetRightMargin(kSideMargin);
     TypeHeading(word);
     for (const Exhibitor& exhibitor : Exhibitors())
         TypeExhibitor(word, exhibitor);

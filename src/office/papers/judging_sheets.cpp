@@ -173,6 +173,7 @@ void TypeJudgingSheets(WordProcessor& word, const QString& title, RunProgress& p
     const std::vector<DogPaper> papers = dogs.All();
     SheetTypist typist(word, title);
     typist.SetUpPage();
+    word.KeepSheetsWhole();
     bool goesOn = true;
     for (std::size_t i = 0; goesOn && i < papers.size(); ++i) {
         goesOn = progress.Advance(static_cast<int>(i + 1), static_cast<int>(papers.size()));

@@ -68,10 +68,12 @@ void SetUpPage(WordProcessor& word) {
 
 void TypeHeading(WordProcessor& word) {
     word.SetBold(FontSwitch::On);
+    word.SetKeepWithNext(true);
     for (const PaymentColumn& column : kColumns)
         word.TypeText(QString::fromUtf16(column.heading) + u'\t');
     word.SetBold(FontSwitch::Off);
     word.TypeParagraph();
+    word.SetKeepWithNext(false);
 }
 
 void TypePayment(WordProcessor& word, const PaymentRow& payment) {

@@ -1,10 +1,12 @@
 #include "office/papers/template_engine.h"
 
+#include "platform/file_failure.h"
 #include "platform/values/errors.h"
 
 #include <QFile>
 #include <algorithm>
 #include <array>
+#include <cerrno>
 
 namespace lorvo {
 
@@ -20,12 +22,6 @@ std::span<const char* const> MarkersOf(TemplateKind kind) {
     if (kind == TemplateKind::GroupedRows)
         return kGroupMarkers;
     return kRowMarkers;
-}
-
-[[noreturn]] void RaiseFileFailure(const char* what, const QFile& file) {
-    throw PlatformError(QStringLiteral("%1 „%2“: %3")
-                            .arg(QString::fromUtf8(what), file.fileName(), file.errorString())
-                            .toStdString());
 }
 
 bool IsWordCharacter(char character) {
@@ -51,7 +47,7 @@ bool IsOneWord(const QByteArray& literal) {
 ReportTemplate ReportTemplate::Read(const QString& path, TemplateKind kind) {
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite))
-        RaiseFileFailure("Šablonu nelze otevřít", file);
+        FailOnFile(QStringLiteral("Šablonu nelze otevřít"), path, errno);
     return ReportTemplate(file.readAll(), kind);
 }
 
@@ -132,12 +128,6 @@ QByteArray RowPattern::ReplaceInTurn(std::span<const std::optional<QByteArray>> 
     return copy;
 }
 
-QByteArray RowPattern::Fill(std::span<const std::optional<QByteArray>> values) const {
-    QByteArray copy;
-    AppendTo(copy, values);
-    return copy;
-}
-
 void RowPattern::AppendTo(QByteArray& output,
                           std::span<const std::optional<QByteArray>> values) const {
     Q_ASSERT(values.size() == placeholders_.size());
@@ -151,13 +141,6 @@ void RowPattern::AppendTo(QByteArray& output,
         if (piece.placeholder >= 0)
             output += *values[static_cast<std::size_t>(piece.placeholder)];
     }
-}
-
-void WriteReportOutput(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
-        file.write(bytes) != bytes.size() || !file.flush())
-        RaiseFileFailure("Soubor nelze zapsat", file);
 }
 
 } // namespace lorvo

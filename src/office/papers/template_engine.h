@@ -53,9 +53,8 @@ class RowPattern {
     /// `placeholders` in the order of replacement, underscores included ("_katcislo_").
     RowPattern(QByteArray pattern, std::vector<QByteArray> placeholders);
 
-    /// One copy. A value for each placeholder; one without a value stays in the text.
-    QByteArray Fill(std::span<const std::optional<QByteArray>> values) const;
-    /// Appends the copy to `output`.
+    /// Appends one copy to `output`. A value for each placeholder; one without a value stays in the
+    /// text.
     void AppendTo(QByteArray& output, std::span<const std::optional<QByteArray>> values) const;
 
   private:
@@ -73,8 +72,5 @@ class RowPattern {
     std::vector<Piece> pieces_;
     bool valuesMayJoinPlaceholders_ = false;
 };
-
-/// Empties the file and writes the bytes. PlatformError with its name when it can't be written.
-void WriteReportOutput(const QString& path, const QByteArray& bytes);
 
 } // namespace lorvo

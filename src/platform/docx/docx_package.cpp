@@ -5,7 +5,8 @@
 
 #include <QBuffer>
 #include <functional>
-#include <list>
+#include <memory>
+#include <utility>
 #include <zip.h>
 
 namespace lorvo::docx {
@@ -45,8 +46,11 @@ std::string Joined(std::string_view a, std::string_view b, std::string_view c = 
 }
 
 void WriteContentType(XmlWriter& xml, std::string_view part, std::string_view type) {
-    xml.Start("Override").Attribute("PartName", std::string_view(Joined("/word/", part, ".xml")));
-    xml.Attribute("ContentType", std::string_view(Joined(kOfficeType, type, "+xml"))).End();
+    xml.Start("Override").Attribute("PartName", part).Attribute("ContentType", type).End();
+}
+
+void WriteTextContentType(XmlWriter& xml, std::string_view part, std::string_view type) {
+    WriteContentType(xml, Joined("/word/", part, ".xml"), Joined(kOfficeType, type, "+xml"));
 }
 
 void WriteContentTypes(XmlWriter& xml) {
@@ -56,9 +60,11 @@ void WriteContentTypes(XmlWriter& xml) {
     xml.Attribute("ContentType", "application/vnd.openxmlformats-package.relationships+xml").End();
     xml.Start("Default").Attribute("Extension", "xml");
     xml.Attribute("ContentType", "application/xml").End();
-    WriteContentType(xml, "document", "document.main");
+    WriteTextContentType(xml, "document", "document.main");
     for (const Part& part : kParts)
-        WriteContentType(xml, part.name, part.type);
+        WriteTextContentType(xml, part.name, part.type);
+    WriteContentType(xml, "/docProps/core.xml",
+                     "application/vnd.openxmlformats-package.core-properties+xml");
     xml.End();
 }
 
@@ -69,13 +75,17 @@ void StartRelations(XmlWriter& xml) {
 
 void WriteRelation(XmlWriter& xml, int number, std::string_view type, const std::string& target) {
     xml.Start("Relationship").Attribute("Id", std::string_view("rId" + std::to_string(number)));
-    xml.Attribute("Type", std::string_view(Joined(kOfficeRelation, type)));
+    xml.Attribute("Type", type);
     xml.Attribute("Target", std::string_view(target)).End();
 }
 
 void WritePackageRelations(XmlWriter& xml) {
     StartRelations(xml);
-    WriteRelation(xml, 1, "officeDocument", "word/document.xml");
+    WriteRelation(xml, 1, Joined(kOfficeRelation, "officeDocument"), "word/document.xml");
+    WriteRelation(
+        xml, 2,
+        "http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties",
+        "docProps/core.xml");
     xml.End();
 }
 
@@ -83,7 +93,19 @@ void WriteDocumentRelations(XmlWriter& xml) {
     StartRelations(xml);
     int number = 0;
     for (const Part& part : kParts)
-        WriteRelation(xml, ++number, part.type, Joined(part.name, ".xml"));
+        WriteRelation(xml, ++number, Joined(kOfficeRelation, part.type), Joined(part.name, ".xml"));
+    xml.End();
+}
+
+/// No times: the same data gives the same bytes.
+void WriteProperties(XmlWriter& xml, const QString& title) {
+    xml.Start("cp:coreProperties");
+    xml.Attribute("xmlns:cp",
+                  "http://schemas.openxmlformats.org/package/2006/metadata/core-properties");
+    xml.Attribute("xmlns:dc", "http://purl.org/dc/elements/1.1/");
+    xml.Start("dc:title").Text(title).End();
+    xml.Start("dc:creator").Text(u"Lorvo").End();
+    xml.Start("dc:language").Text(u"cs-CZ").End();
     xml.End();
 }
 
@@ -102,7 +124,7 @@ void WriteSettings(XmlWriter& xml, const ViewSettings& view) {
     if (view.wholePage)
         xml.Attribute("w:val", "fullPage");
     xml.Attribute("w:percent", 100).End();
-    xml.Empty("w:defaultTabStop", "w:val", TwipsFromCentimeters(1.25));
+    xml.Empty("w:defaultTabStop", "w:val", kDefaultTabStop);
     WriteCompatibility(xml);
     xml.Empty("w:themeFontLang", "w:val", "cs-CZ");
     xml.Empty("w:decimalSymbol", "w:val", ",");
@@ -110,72 +132,80 @@ void WriteSettings(XmlWriter& xml, const ViewSettings& view) {
     xml.End();
 }
 
-/// A new zip file. What is added to it is read when it is closed.
-class ZipFile {
+[[noreturn]] void FailToPack() {
+    throw PlatformError("Dokument nelze sbalit: nedostatek paměti.");
+}
+
+/// A new zip file in memory. Texts added to it are read when it is closed, and live until then.
+class ZipBytes {
   public:
-    explicit ZipFile(const QString& path) : path_(path) {
-        int error = 0;
-        zip_ = zip_open(path.toUtf8().constData(), ZIP_CREATE | ZIP_EXCL, &error);
+    ZipBytes() : bytes_(zip_source_buffer_create(nullptr, 0, 0, nullptr)) {
+        Require(bytes_ != nullptr);
+        zip_.reset(zip_open_from_source(bytes_.get(), ZIP_TRUNCATE, nullptr));
         Require(zip_ != nullptr);
-    }
-    ~ZipFile() {
-        if (zip_)
-            zip_discard(zip_);
-    }
-    ZipFile(const ZipFile&) = delete;
-    ZipFile& operator=(const ZipFile&) = delete;
-
-    void AddText(const char* name, QByteArray text) {
-        const QByteArray& kept = texts_.emplace_back(std::move(text));
-        const auto size = static_cast<zip_uint64_t>(kept.size());
-        Add(name, zip_source_buffer(zip_, kept.constData(), size, 0));
-    }
-    void AddFile(const char* name, const QString& path) {
-        Add(name, zip_source_file(zip_, path.toUtf8().constData(), 0, -1));
-    }
-    void Close() {
-        Require(zip_close(zip_) == 0);
-        zip_ = nullptr;
+        zip_source_keep(bytes_.get()); // the archive takes it over, but its bytes are read later
     }
 
-  private:
-    void Add(const char* name, zip_source_t* source) {
+    void Add(const char* name, const QByteArray& text) {
+        const auto size = static_cast<zip_uint64_t>(text.size());
+        zip_source_t* source = zip_source_buffer(zip_.get(), text.constData(), size, 0);
         Require(source != nullptr);
-        const zip_int64_t index = zip_file_add(zip_, name, source, ZIP_FL_ENC_UTF_8);
+        const zip_int64_t index = zip_file_add(zip_.get(), name, source, ZIP_FL_ENC_UTF_8);
         if (index < 0)
             zip_source_free(source);
         Require(index >= 0);
         const auto entry = static_cast<zip_uint64_t>(index);
-        Require(zip_set_file_compression(zip_, entry, ZIP_CM_DEFLATE, kDeflateLevel) == 0);
-        Require(zip_file_set_dostime(zip_, entry, 0, kEntryDate, 0) == 0);
-    }
-    void Require(bool done) const {
-        if (!done)
-            throw PlatformError(
-                QStringLiteral("Dokument „%1“ nelze vytvořit. Zkontrolujte volné místo na disku a "
-                               "práva ke složce.")
-                    .arg(path_)
-                    .toStdString());
+        Require(zip_set_file_compression(zip_.get(), entry, ZIP_CM_DEFLATE, kDeflateLevel) == 0);
+        Require(zip_file_set_dostime(zip_.get(), entry, 0, kEntryDate, 0) == 0);
     }
 
-    QString path_;
-    std::list<QByteArray> texts_;
-    zip_t* zip_ = nullptr;
+    QByteArray Close() {
+        Require(zip_close(zip_.get()) == 0);
+        zip_.release();
+        zip_stat_t stat;
+        zip_source_t* source = bytes_.get();
+        Require(zip_source_stat(source, &stat) == 0 && zip_source_open(source) == 0);
+        QByteArray bytes(static_cast<qsizetype>(stat.size), Qt::Uninitialized);
+        const zip_int64_t read = zip_source_read(source, bytes.data(), stat.size);
+        zip_source_close(source);
+        Require(read == static_cast<zip_int64_t>(stat.size));
+        return bytes;
+    }
+
+  private:
+    static void Require(bool done) {
+        if (!done)
+            FailToPack();
+    }
+
+    struct FreeSource {
+        void operator()(zip_source_t* source) const { zip_source_free(source); }
+    };
+    struct Discard {
+        void operator()(zip_t* zip) const { zip_discard(zip); }
+    };
+    std::unique_ptr<zip_source_t, FreeSource> bytes_;
+    std::unique_ptr<zip_t, Discard> zip_;
 };
 
 } // namespace
 
-void PackDocument(const QString& path, const QString& body, const Styles& styles,
-                  const ViewSettings& view) {
-    ZipFile zip(path);
-    zip.AddText("[Content_Types].xml", Xml(WriteContentTypes));
-    zip.AddText("_rels/.rels", Xml(WritePackageRelations));
-    zip.AddFile("word/document.xml", body);
-    zip.AddText("word/_rels/document.xml.rels", Xml(WriteDocumentRelations));
-    zip.AddText("word/styles.xml", Xml([&](XmlWriter& xml) { styles.WriteStyles(xml); }));
-    zip.AddText("word/settings.xml", Xml([&](XmlWriter& xml) { WriteSettings(xml, view); }));
-    zip.AddText("word/fontTable.xml", Xml([&](XmlWriter& xml) { styles.WriteFontTable(xml); }));
-    zip.Close();
+QByteArray PackDocument(const QString& title, const QByteArray& body, const Styles& styles,
+                        const ViewSettings& view) {
+    const std::pair<const char*, QByteArray> parts[] = {
+        {"[Content_Types].xml", Xml(WriteContentTypes)},
+        {"_rels/.rels", Xml(WritePackageRelations)},
+        {"docProps/core.xml", Xml([&](XmlWriter& xml) { WriteProperties(xml, title); })},
+        {"word/document.xml", body},
+        {"word/_rels/document.xml.rels", Xml(WriteDocumentRelations)},
+        {"word/styles.xml", Xml([&](XmlWriter& xml) { styles.WriteStyles(xml); })},
+        {"word/settings.xml", Xml([&](XmlWriter& xml) { WriteSettings(xml, view); })},
+        {"word/fontTable.xml", Xml([&](XmlWriter& xml) { styles.WriteFontTable(xml); })},
+    };
+    ZipBytes zip;
+    for (const auto& [name, text] : parts)
+        zip.Add(name, text);
+    return zip.Close();
 }
 
 } // namespace lorvo::docx

@@ -3,6 +3,7 @@
 
 #include "platform/docx/docx_styles.h"
 
+#include <QByteArray>
 #include <QString>
 #include <string_view>
 
@@ -18,10 +19,10 @@ struct ViewSettings {
     bool wholePage = false;
 };
 
-/// Packs the file `body`, which is the part with the text, and all other parts into a new file
-/// `path`. The same input gives the same bytes: entries have a fixed order and a fixed time.
-/// Raises PlatformError that names the file.
-void PackDocument(const QString& path, const QString& body, const Styles& styles,
-                  const ViewSettings& view);
+/// Packs the part with the text, which is `body`, and all other parts into the bytes of a file. The
+/// same input gives the same bytes: entries have a fixed order and a fixed time. Raises
+/// PlatformError when memory runs out.
+QByteArray PackDocument(const QString& title, const QByteArray& body, const Styles& styles,
+                        const ViewSettings& view);
 
 } // namespace lorvo::docx

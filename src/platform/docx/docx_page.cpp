@@ -27,7 +27,7 @@ void Page::SetSize(Twips width, Twips height) {
 
 void Page::AddTextColumn(Twips width, Twips spacing) {
     if (columns_.empty())
-        columns_.push_back({width_ - left - right - gutter, 0});
+        columns_.push_back({TextWidth(), 0});
     columns_.front().width = std::max(columns_.front().width - width - spacing, kNarrowestColumn);
     columns_.back().spacingAfter = spacing;
     columns_.push_back({width, 0});

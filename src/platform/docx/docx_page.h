@@ -26,6 +26,10 @@ class Page {
     Twips header = TwipsFromCentimeters(1.25);
     Twips footer = TwipsFromCentimeters(1.25);
 
+    /// Room for text between the margins.
+    Twips TextWidth() const { return width_ - left - right - gutter; }
+    Twips TextHeight() const { return height_ - top - bottom; }
+
     /// The section's properties, the last child of the document's body.
     void Write(XmlWriter& xml) const;
 

@@ -27,12 +27,20 @@ void WriteIndents(XmlWriter& xml, const ParagraphFormat& format) {
     xml.End();
 }
 
+void WriteSpacing(XmlWriter& xml, Twips lineHeight) {
+    xml.Start("w:spacing").Attribute("w:before", 0).Attribute("w:after", 0);
+    xml.Attribute("w:line", lineHeight).Attribute("w:lineRule", "exact").End();
+}
+
+/// No paragraph is torn between two columns or pages.
 void WriteParagraphFormat(XmlWriter& xml, const ParagraphFormat& format) {
-    if (format == ParagraphFormat())
-        return;
     xml.Start("w:pPr");
+    if (format.keepWithNext)
+        xml.Empty("w:keepNext");
+    xml.Empty("w:keepLines");
     if (!format.tabStops.empty())
         WriteTabs(xml, format.tabStops);
+    WriteSpacing(xml, format.lineHeight);
     if (format.leftIndent != 0 || format.firstLineIndent != 0)
         WriteIndents(xml, format);
     if (format.alignment != ParagraphAlignment::Left)
@@ -60,6 +68,8 @@ void WriteRunProperties(XmlWriter& xml, const RunFormat& run) {
     WriteFont(xml, run.fontName);
     WriteSwitch(xml, run.bold, "w:b", "w:bCs");
     WriteSwitch(xml, run.italic, "w:i", "w:iCs");
+    if (run.widthPercent != 100)
+        xml.Empty("w:w", "w:val", run.widthPercent);
     xml.Empty("w:sz", "w:val", run.halfPoints);
     xml.Empty("w:szCs", "w:val", run.halfPoints);
     if (run.underline)
@@ -82,6 +92,30 @@ void StartStyle(XmlWriter& xml, std::string_view type, int number, const std::st
     xml.Empty("w:name", "w:val", isDefault ? name : QStringLiteral("%1 %2").arg(name).arg(number));
 }
 
+/// What a word processor needs to know of a font that the machine lacks.
+struct FontKin {
+    const char16_t* name;
+    std::string_view family;
+    const char16_t* standIn; ///< of the same or like widths
+};
+constexpr FontKin kFonts[] = {
+    {u"Arial", "swiss", u"Liberation Sans"},
+    {u"Tahoma", "swiss", u"DejaVu Sans Condensed"},
+    {u"Times New Roman", "roman", u"Liberation Serif"},
+};
+
+void WriteFontEntry(XmlWriter& xml, const QString& name) {
+    const auto kin = std::find_if(std::begin(kFonts), std::end(kFonts),
+                                  [&](const FontKin& font) { return name == font.name; });
+    xml.Start("w:font").Attribute("w:name", QStringView(name));
+    if (kin != std::end(kFonts))
+        xml.Empty("w:altName", "w:val", QStringView(kin->standIn));
+    xml.Empty("w:charset", "w:val", "EE");
+    xml.Empty("w:family", "w:val", kin != std::end(kFonts) ? kin->family : "auto");
+    xml.Empty("w:pitch", "w:val", "variable");
+    xml.End();
+}
+
 void WriteDefaultCharacterStyle(XmlWriter& xml) {
     StartStyle(xml, "character", 0, "DefaultParagraphFont",
                QStringLiteral("Default Paragraph Font"), true);
@@ -92,7 +126,9 @@ void WriteDefaultCharacterStyle(XmlWriter& xml) {
 
 } // namespace
 
-Styles::Styles() : paragraphs_(1) {}
+Styles::Styles() : paragraphs_(1) {
+    paragraphs_.front().format.lineHeight = LineHeight(RunFormat().halfPoints);
+}
 
 int Styles::ParagraphStyle(const ParagraphFormat& format, const RunFormat& mark) {
     const auto fits = [&, run = mark.Plain()](const Paragraph& style) {
@@ -163,12 +199,8 @@ void Styles::WriteFontTable(XmlWriter& xml) const {
     for (const RunFormat& style : characters_)
         names.insert(style.fontName);
     xml.Start("w:fonts").Attribute("xmlns:w", kMainNamespace);
-    for (const QString& name : names) {
-        xml.Start("w:font").Attribute("w:name", QStringView(name));
-        xml.Empty("w:charset", "w:val", "EE");
-        xml.Empty("w:pitch", "w:val", "variable");
-        xml.End();
-    }
+    for (const QString& name : names)
+        WriteFontEntry(xml, name);
     xml.End();
 }
 

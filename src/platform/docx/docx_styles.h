@@ -20,10 +20,11 @@ struct RunFormat {
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    int widthPercent = 100; ///< of the letters; below 100 for a text that has to fit its room
 
     bool operator==(const RunFormat&) const = default;
-    /// The same font in its normal weight.
-    RunFormat Plain() const { return {fontName, halfPoints, false, false, false}; }
+    /// The same font in its normal weight and width.
+    RunFormat Plain() const { return {fontName, halfPoints, false, false, false, 100}; }
 };
 
 struct ParagraphFormat {
@@ -31,9 +32,17 @@ struct ParagraphFormat {
     Twips leftIndent = 0;
     Twips firstLineIndent = 0; ///< below 0 for a hanging line
     std::set<Twips> tabStops;
+    bool keepWithNext = false;
+    Twips lineHeight = 0; ///< of every line, whatever font stands in it
 
     bool operator==(const ParagraphFormat&) const = default;
 };
+
+/// Height of a line for letters of that size. An exact one makes a page hold the same with any
+/// font, whose own line heights differ by a third.
+constexpr Twips LineHeight(int halfPoints) {
+    return (halfPoints * 10 * 115 + 99) / 100;
+}
 
 /// The styles that a document has needed so far. A number once given stays the format's own.
 class Styles {

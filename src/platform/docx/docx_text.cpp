@@ -67,19 +67,30 @@ void WritePageBreak(XmlWriter& xml) {
 
 } // namespace
 
-void ParagraphText::Append(QStringView text, const RunFormat& format) {
-    const qsizetype before = text_.size();
-    AppendAllowed(text_, text);
-    if (text_.size() == before)
+void Paragraph::Append(QStringView appended, const RunFormat& runFormat) {
+    const qsizetype before = text.size();
+    AppendAllowed(text, appended);
+    if (text.size() == before)
         return;
-    if (runs_.empty() || runs_.back().format != format)
-        runs_.push_back({format, 0});
-    runs_.back().end = text_.size();
+    if (runs.empty() || runs.back().format != runFormat)
+        runs.push_back({runFormat, 0});
+    runs.back().end = text.size();
 }
 
-void ParagraphText::WriteParagraph(XmlWriter& xml, Styles& styles, const ParagraphFormat& format,
-                                   const RunFormat& mark, ParagraphEnd end) {
-    const int style = styles.ParagraphStyle(format, mark);
+void Paragraph::Clear() {
+    text.resize(0);
+    runs.clear();
+}
+
+int Paragraph::LargestHalfPoints() const {
+    int largest = runs.empty() ? mark.halfPoints : 0;
+    for (const Run& run : runs)
+        largest = std::max(largest, run.format.halfPoints);
+    return largest;
+}
+
+void WriteParagraph(XmlWriter& xml, Styles& styles, const Paragraph& paragraph) {
+    const int style = styles.ParagraphStyle(paragraph.format, paragraph.mark);
     xml.Start("w:p");
     if (style != 0) {
         xml.Start("w:pPr");
@@ -87,16 +98,14 @@ void ParagraphText::WriteParagraph(XmlWriter& xml, Styles& styles, const Paragra
         xml.End();
     }
     qsizetype begin = 0;
-    for (const Run& run : runs_) {
-        WriteRun(xml, QStringView(text_).sliced(begin, run.end - begin),
+    for (const Run& run : paragraph.runs) {
+        WriteRun(xml, QStringView(paragraph.text).sliced(begin, run.end - begin),
                  styles.CharacterStyle(run.format, style));
         begin = run.end;
     }
-    if (end == ParagraphEnd::PageBreak)
+    if (paragraph.end == ParagraphEnd::PageBreak)
         WritePageBreak(xml);
     xml.End();
-    text_.resize(0);
-    runs_.clear();
 }
 
 } // namespace lorvo::docx

@@ -1,14 +1,14 @@
 #include "platform/docx/docx_word_processor.h"
 
+#include "platform/docx/document_body.h"
+#include "platform/docx/docx_fit.h"
 #include "platform/docx/docx_package.h"
 #include "platform/docx/docx_page.h"
-#include "platform/docx/docx_text.h"
-#include "platform/docx/xml_writer.h"
 #include "platform/values/errors.h"
+#include "platform/whole_file.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <optional>
+#include <utility>
 
 namespace lorvo {
 
@@ -34,7 +34,8 @@ QStringView TakeLine(QStringView& text, bool& ended) {
 
 class Composer final : public WordProcessor {
   public:
-    Composer(OpenService& opener, const QString& temporaryFolder);
+    Composer(OpenService& opener, const Clock& clock, QString folder, QString title)
+        : opener_(opener), clock_(clock), folder_(std::move(folder)), title_(std::move(title)) {}
 
     void SetOrientation(PageOrientation orientation) override { page_.SetOrientation(orientation); }
     void SetPageSize(double width, double height) override {
@@ -56,6 +57,8 @@ class Composer final : public WordProcessor {
     }
     void SetFontSize(double points) override {
         ChangeFont([&](RunFormat& font) { font.halfPoints = qRound(points * 2); });
+        if (place_ == Place::Whole)
+            SetAllLineHeights();
     }
     void SetBold(FontSwitch value) override {
         Switch(&RunFormat::bold,
@@ -89,13 +92,19 @@ class Composer final : public WordProcessor {
     void SetSelectionText(const QString& text) override;
     void InsertPageBreak() override;
 
+    void SetKeepWithNext(bool on) override {
+        ChangeParagraph([&](ParagraphFormat& format) { format.keepWithNext = on; });
+    }
+    void KeepSheetsWhole() override { sheetsStayWhole_ = true; }
+    void ExpectLines(double width, const std::vector<double>& tabStops) override;
+
     void HomeKeyStory() override { MoveTo(Place::Start); }
     void EndKeyStory() override { MoveTo(Place::End); }
     void WholeStory() override { MoveTo(Place::Whole); }
 
     void SetPrintView() override { view_.printView = true; }
     void SetZoomWholePage() override { view_.wholePage = true; }
-    void Show() override;
+    ShownDocument Show() override;
 
   private:
     /// Where the insertion point is, or that all is selected.
@@ -109,32 +118,29 @@ class Composer final : public WordProcessor {
     void TypeSelection();
     void TypeLines(QStringView text);
     void EndParagraph(ParagraphEnd end);
+    void WriteSheet();
+    void SetAllLineHeights();
+    LineRoom Lines() const { return lines_.value_or(LineRoom{page_.TextWidth(), {}}); }
+    QString FileStem() const;
 
     OpenService& opener_;
-    QTemporaryDir folder_;
-    QFile bodyFile_;
-    std::optional<XmlWriter> body_;
+    const Clock& clock_;
+    const QString folder_;
+    const QString title_;
+    DocumentBody body_;
 
     Place place_ = Place::End;
     QString selection_; ///< typed text that is still selected at the end
     RunFormat font_;
     ParagraphFormat format_;
-    ParagraphText paragraph_;
+    Paragraph paragraph_;
+    bool sheetsStayWhole_ = false;
+    std::vector<Paragraph> sheet_;
+    std::optional<LineRoom> lines_; ///< those of the end, where they are not the page's
     Styles styles_;
     Page page_;
     ViewSettings view_;
 };
-
-Composer::Composer(OpenService& opener, const QString& temporaryFolder)
-    : opener_(opener), folder_(QDir(temporaryFolder).filePath(QStringLiteral("Lorvo-XXXXXX"))),
-      bodyFile_(folder_.filePath(QStringLiteral("document.xml"))) {
-    if (!folder_.isValid() || !bodyFile_.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        Fail(QStringLiteral("Ve složce „%1“ nelze založit dokument. Zkontrolujte volné místo na "
-                            "disku a práva ke složce.")
-                 .arg(QDir::toNativeSeparators(temporaryFolder)));
-    body_.emplace(bodyFile_);
-    body_->Start("w:document").Attribute("xmlns:w", kMainNamespace).Start("w:body");
-}
 
 void Composer::TypeText(const QString& text) {
     RequireEnd();
@@ -159,21 +165,34 @@ void Composer::InsertPageBreak() {
     EndParagraph(ParagraphEnd::PageBreak);
 }
 
-void Composer::Show() {
+void Composer::ExpectLines(double width, const std::vector<double>& tabStops) {
+    lines_.emplace(LineRoom{TwipsFromPoints(width), {}});
+    for (const double position : tabStops)
+        lines_->tabStops.insert(TwipsFromPoints(position));
+}
+
+ShownDocument Composer::Show() {
     TypeSelection();
     EndParagraph(ParagraphEnd::Mark);
-    page_.Write(*body_);
-    body_->End().End().Finish();
-    bodyFile_.close();
-    const QString path = folder_.filePath(QStringLiteral("Dokument.docx"));
-    PackDocument(path, bodyFile_.fileName(), styles_, view_);
-    bodyFile_.remove();
-    folder_.setAutoRemove(false);
-    opener_.OpenFile(path);
+    WriteSheet();
+    page_.Write(body_.Xml());
+    QString path;
+    body_.Finish([&](const QByteArray& body) {
+        path = WriteNewFile(folder_, FileStem(), QStringLiteral("docx"),
+                            PackDocument(title_, body, styles_, view_));
+    });
+    return {path, opener_.OpenFile(path)};
+}
+
+/// "Katalog 2027-05-14 08.31": names in a folder sort by paper and time.
+QString Composer::FileStem() const {
+    const QString now = QString::fromStdString(clock_.Now().ToIso());
+    return title_ + u' ' + now.first(10) + u' ' + now.mid(11, 5).replace(u':', u'.');
 }
 
 void Composer::MoveTo(Place place) {
     TypeSelection();
+    WriteSheet();
     place_ = place;
 }
 
@@ -185,7 +204,8 @@ void Composer::RequireEnd() const {
 template<typename Change> void Composer::ChangeFont(Change change) {
     if (place_ == Place::Whole) {
         styles_.ChangeAllFonts(change);
-        paragraph_.ChangeFonts(change);
+        for (Run& run : paragraph_.runs)
+            change(run.format);
     } else {
         RequireEnd();
     }
@@ -203,7 +223,8 @@ template<typename Change> void Composer::ChangeParagraph(Change change) {
 void Composer::Switch(bool RunFormat::*property, bool on) {
     if (place_ == Place::Whole) {
         styles_.SwitchAll(property, on);
-        paragraph_.ChangeFonts([&](RunFormat& font) { font.*property = on; });
+        for (Run& run : paragraph_.runs)
+            run.format.*property = on;
     } else {
         RequireEnd();
     }
@@ -224,17 +245,42 @@ void Composer::TypeLines(QStringView text) {
 }
 
 void Composer::EndParagraph(ParagraphEnd end) {
-    paragraph_.WriteParagraph(*body_, styles_, format_, font_, end);
+    paragraph_.format = format_;
+    paragraph_.format.lineHeight = LineHeight(paragraph_.LargestHalfPoints());
+    paragraph_.mark = font_;
+    paragraph_.end = end;
+    if (sheetsStayWhole_) {
+        sheet_.push_back(std::exchange(paragraph_, {}));
+        if (end == ParagraphEnd::PageBreak)
+            WriteSheet();
+        return;
+    }
+    FitParagraph(paragraph_, Lines());
+    WriteParagraph(body_.Xml(), styles_, paragraph_);
+    paragraph_.Clear();
+}
+
+void Composer::WriteSheet() {
+    FitSheet(sheet_, Lines(), page_.TextHeight());
+    for (const Paragraph& paragraph : sheet_)
+        WriteParagraph(body_.Xml(), styles_, paragraph);
+    sheet_.clear();
+}
+
+/// Letters of one size in the whole text stand in lines of one height.
+void Composer::SetAllLineHeights() {
+    styles_.ChangeAllParagraphs(
+        [this](ParagraphFormat& format) { format.lineHeight = LineHeight(font_.halfPoints); });
 }
 
 } // namespace
 } // namespace docx
 
-DocxWordProcessors::DocxWordProcessors(OpenService& opener, QString temporaryFolder)
-    : opener_(opener), temporaryFolder_(std::move(temporaryFolder)) {}
+DocxWordProcessors::DocxWordProcessors(OpenService& opener, const Clock& clock, QString folder)
+    : opener_(opener), clock_(clock), folder_(std::move(folder)) {}
 
-std::unique_ptr<WordProcessor> DocxWordProcessors::Create() {
-    return std::make_unique<docx::Composer>(opener_, temporaryFolder_);
+std::unique_ptr<WordProcessor> DocxWordProcessors::Create(const QString& title) {
+    return std::make_unique<docx::Composer>(opener_, clock_, folder_, title);
 }
 
 } // namespace lorvo

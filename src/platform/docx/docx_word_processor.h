@@ -2,10 +2,9 @@
 // The real word processors: each composes an Office Open XML document while it is typed, and hands
 // the file to the desktop's word processor at the end.
 
+#include "platform/clock.h"
 #include "platform/open_service.h"
 #include "platform/word_processor.h"
-
-#include <QDir>
 
 namespace lorvo {
 
@@ -14,17 +13,16 @@ namespace lorvo {
 /// elsewhere raises PlatformError.
 class DocxWordProcessors : public WordProcessors {
   public:
-    /// Documents go into fresh folders below `temporaryFolder`, where the desktop's program finds
-    /// them after Lorvo has ended, too; clearing them away is the system's matter. The opener
-    /// outlives the word processors.
-    explicit DocxWordProcessors(OpenService& opener, QString temporaryFolder = QDir::tempPath());
+    /// Documents go into `folder`, which is made when it is missing, named by title and time, never
+    /// over an older one. Opener and clock outlive the word processors.
+    DocxWordProcessors(OpenService& opener, const Clock& clock, QString folder);
 
-    /// Raises PlatformError when the folder can't be made.
-    std::unique_ptr<WordProcessor> Create() override;
+    std::unique_ptr<WordProcessor> Create(const QString& title) override;
 
   private:
     OpenService& opener_;
-    QString temporaryFolder_;
+    const Clock& clock_;
+    QString folder_;
 };
 
 } // namespace lorvo

@@ -17,4 +17,7 @@ inline Twips TwipsFromCentimeters(double centimetres) {
     return TwipsFromPoints(CentimetersToPoints(centimetres));
 }
 
+/// Distance of the tab stops behind those that a paragraph has of its own.
+inline const Twips kDefaultTabStop = TwipsFromCentimeters(1.25);
+
 } // namespace lorvo::docx

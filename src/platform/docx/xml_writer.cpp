@@ -1,8 +1,9 @@
 #include "platform/docx/xml_writer.h"
 
-#include "platform/values/errors.h"
+#include "platform/file_failure.h"
 
 #include <QFileDevice>
+#include <cerrno>
 #include <charconv>
 
 namespace lorvo::docx {
@@ -129,12 +130,9 @@ void XmlWriter::FlushWhenFull() {
 void XmlWriter::Flush() {
     const auto size = static_cast<qint64>(buffer_.size());
     if (device_.write(buffer_.data(), size) != size) {
+        const int cause = errno;
         const auto* file = qobject_cast<QFileDevice*>(&device_);
-        throw PlatformError(
-            QStringLiteral("Dokument nelze zapsat do souboru „%1“. Zkontrolujte volné místo na "
-                           "disku a práva ke složce.")
-                .arg(file ? file->fileName() : QString())
-                .toStdString());
+        FailToWriteFile(file ? file->fileName() : QString(), cause);
     }
     buffer_.clear();
 }

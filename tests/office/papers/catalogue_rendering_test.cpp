@@ -36,19 +36,27 @@ void FillShow(TempDatabase& show) {
 
 } // namespace
 
-TEST(CatalogueRendering, ReadsInTwoColumnsOnALandscapePage) {
-    ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
-    RecordingPlatform platform;
-    FillConstantTables(Module());
-    TempDatabase show;
-    FillShow(show);
-    DocxWordProcessors processors(*ThePlatform().opener, platform.ProgramFolder());
-    const auto word = processors.Create();
-    TypeCatalogue(*word, true);
-    word->Show();
-    ASSERT_EQ(platform.openedFiles.size(), 1);
+class CatalogueRendering : public testing::Test {
+  protected:
+    CatalogueRendering() {
+        FillConstantTables(Module());
+        FillShow(show_);
+    }
+    QString Pdf(FontSet fonts) {
+        DocxWordProcessors processors(*ThePlatform().opener, *ThePlatform().clock,
+                                      platform_.ProgramFolder());
+        const auto word = processors.Create(QStringLiteral("Katalog"));
+        TypeCatalogue(*word, true);
+        return PdfOf(word->Show().path, platform_.ProgramFolder(), fonts);
+    }
 
-    const QString pdf = PdfOf(platform.openedFiles.first(), platform.ProgramFolder());
+    RecordingPlatform platform_;
+    TempDatabase show_;
+};
+
+TEST_F(CatalogueRendering, ReadsInTwoColumnsOnALandscapePage) {
+    ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
+    const QString pdf = Pdf(FontSet::Liberation);
     EXPECT_TRUE(
         PdfInfo(pdf).contains(QRegularExpression(QStringLiteral("Page size: +841\\.\\d+ x 595"))));
     const QString first = PdfPages(pdf).first();
@@ -60,6 +68,31 @@ TEST(CatalogueRendering, ReadsInTwoColumnsOnALandscapePage) {
           u"nar. : 14.5.2003", u"CAC, Vítěz třídy", u"maj. : Žižková Eliška"})
         EXPECT_TRUE(first.contains(QString::fromUtf16(text).trimmed()))
             << QString::fromUtf16(text).toStdString();
+}
+
+TEST_F(CatalogueRendering, NoEntryIsTornAndNoHeadingStandsAloneWithAnyFonts) {
+    ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
+    constexpr int kHalfPage = 397; // the first column ends at 375 points, the second begins at 410
+    const auto begins = QRegularExpression(QStringLiteral("^(Kruh|Boxer|Čuvač|Pug| *Pes -| *Fena -|"
+                                                          "\\d+ Dog)"));
+    QStringList beginnings;
+    for (const FontSet fonts : kFontSets) {
+        QStringList firstLines;
+        for (const QString& column : PdfColumns(Pdf(fonts), kHalfPage, 2)) {
+            const QStringList lines = column.split(u'\n', Qt::SkipEmptyParts);
+            if (lines.isEmpty())
+                continue;
+            const QString first = lines.first().trimmed();
+            EXPECT_TRUE(first.contains(begins)) << first.toStdString();
+            EXPECT_TRUE(lines.last().contains(QStringLiteral("ch. :")))
+                << lines.last().toStdString();
+            firstLines << first;
+        }
+        EXPECT_GT(firstLines.size(), 4) << NameOf(fonts).toStdString();
+        if (beginnings.isEmpty())
+            beginnings = firstLines;
+        EXPECT_EQ(firstLines, beginnings) << NameOf(fonts).toStdString();
+    }
 }
 
 } // namespace lorvo::test

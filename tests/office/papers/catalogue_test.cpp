@@ -36,7 +36,7 @@ class Catalogue : public testing::Test {
     /// The operations that type the catalogue.
     QStringList Operations(bool withAwards = false) {
         platform.wordOperations.clear();
-        TypeCatalogue(*ThePlatform().wordProcessors->Create(), withAwards);
+        TypeCatalogue(*ThePlatform().wordProcessors->Create(u"Katalog"_qs), withAwards);
         return platform.wordOperations;
     }
     /// The typed text: "¶" at the end of each paragraph, one a line.

@@ -1,6 +1,6 @@
 // A document seen through the eyes of an office program that knows nothing of its writer.
 
-#include "platform/docx/document_parts.h"
+#include "support/document_parts.h"
 #include "support/office_program.h"
 
 #include <QRegularExpression>

@@ -1,47 +1,15 @@
 // What the parts of a document promise to any word processor, and what becomes of its files.
 
-#include "platform/docx/document_parts.h"
 #include "platform/values/errors.h"
+#include "support/document_parts.h"
+#include "support/schema_order.h"
 
-#include <QDirIterator>
+#include <QDir>
 #include <gtest/gtest.h>
-#include <map>
 
 namespace lorvo::test {
 
 namespace {
-
-/// The children that these elements may have, in the order that the schema asks for.
-const std::map<QString, QStringList> kChildOrder = {
-    {QStringLiteral("w:pPr"), QString::fromLatin1("w:pStyle w:tabs w:ind w:jc").split(u' ')},
-    {QStringLiteral("w:rPr"),
-     QString::fromLatin1("w:rStyle w:rFonts w:b w:bCs w:i w:iCs w:sz w:szCs w:u w:lang")
-         .split(u' ')},
-    {QStringLiteral("w:sectPr"), QString::fromLatin1("w:type w:pgSz w:pgMar w:cols").split(u' ')},
-    {QStringLiteral("w:style"),
-     QString::fromLatin1("w:name w:uiPriority w:semiHidden w:qFormat w:pPr w:rPr").split(u' ')},
-    {QStringLiteral("w:settings"),
-     QString::fromLatin1("w:view w:zoom w:defaultTabStop w:compat w:themeFontLang "
-                         "w:decimalSymbol w:listSeparator")
-         .split(u' ')},
-    {QStringLiteral("w:font"), QString::fromLatin1("w:charset w:pitch").split(u' ')},
-};
-
-const QStringList kParts = QString::fromLatin1("word/document.xml word/styles.xml "
-                                               "word/settings.xml word/fontTable.xml")
-                               .split(u' ');
-
-void ExpectOrderedChildren(const QDomElement& element, const QStringList& order) {
-    qsizetype last = -1;
-    for (QDomElement child = element.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement()) {
-        const qsizetype position = order.indexOf(child.tagName());
-        EXPECT_GT(position, last) << child.tagName().toStdString() << " in "
-                                  << element.tagName().toStdString();
-        last = position;
-    }
-    EXPECT_GE(last, 0) << "empty " << element.tagName().toStdString();
-}
 
 /// A document in which every operation has left its trace.
 void TypeEverything(WordProcessor& word) {
@@ -58,6 +26,8 @@ void TypeEverything(WordProcessor& word) {
     word.AddTabStop(50);
     word.TypeText(QStringLiteral("Katalog\tpsů\n"));
     word.SetBold(FontSwitch::Off);
+    word.SetKeepWithNext(true);
+    word.TypeText(QStringLiteral("šířka").repeated(50)); // narrowed to fit
     word.InsertPageBreak();
     word.HomeKeyStory();
     word.WholeStory();
@@ -76,14 +46,7 @@ class DocxStructure : public testing::Test {
 } // namespace
 
 TEST_F(DocxStructure, ChildrenStandInTheOrderOfTheSchemaOnceAndNeverEmpty) {
-    const QString path = desk.Document(TypeEverything);
-    for (const QString& part : kParts) {
-        const QDomElement root = PartOf(path, part);
-        for (const auto& [name, order] : kChildOrder) {
-            for (const QDomElement& element : Elements(root, name))
-                ExpectOrderedChildren(element, order);
-        }
-    }
+    ExpectSchemaOrder(desk.Document(TypeEverything));
 }
 
 TEST_F(DocxStructure, TabStopsRiseAndNoneIsNamedTwice) {
@@ -172,6 +135,35 @@ TEST_F(DocxStructure, APageSetByHandIsWrittenInTwentiethsOfAPoint) {
     EXPECT_TRUE(Elements(body, QStringLiteral("w:cols")).isEmpty());
 }
 
+TEST_F(DocxStructure, FontsAreDeclaredWithTheirKinSoThatALikeOneStandsIn) {
+    const QDomElement fonts =
+        PartOf(desk.Document(TypeEverything), QStringLiteral("word/fontTable.xml"));
+    const QDomElement tahoma = fonts.firstChildElement();
+    const QString val = QStringLiteral("val");
+    EXPECT_EQ(tahoma.attribute(QStringLiteral("w:name")), u"Tahoma");
+    EXPECT_EQ(Setting(tahoma, QStringLiteral("w:altName"), val), u"DejaVu Sans Condensed");
+    EXPECT_EQ(Setting(tahoma, QStringLiteral("w:family"), val), u"swiss");
+    EXPECT_EQ(Setting(tahoma, QStringLiteral("w:pitch"), val), u"variable");
+}
+
+TEST_F(DocxStructure, EveryLineHasAnExactHeightAboveItsLettersSize) {
+    const QDomElement styles =
+        PartOf(desk.Document(TypeEverything), QStringLiteral("word/styles.xml"));
+    int found = 0;
+    for (const QDomElement& style : Elements(styles, QStringLiteral("w:style"))) {
+        if (style.attribute(QStringLiteral("w:type")) != u"paragraph")
+            continue;
+        ++found;
+        EXPECT_EQ(Setting(style, QStringLiteral("w:spacing"), QStringLiteral("lineRule")),
+                  u"exact");
+        EXPECT_GE(Setting(style, QStringLiteral("w:spacing"), QStringLiteral("line")).toInt(),
+                  Setting(style, QStringLiteral("w:sz"), QStringLiteral("val")).toInt() * 10 *
+                      1.15);
+        EXPECT_FALSE(Elements(style, QStringLiteral("w:keepLines")).isEmpty());
+    }
+    EXPECT_GT(found, 1);
+}
+
 TEST_F(DocxStructure, TheSameDocumentIsTheSameBytes) {
     const auto bytes = [](const QString& path) {
         QFile file(path);
@@ -185,29 +177,43 @@ TEST_F(DocxStructure, TheSameDocumentIsTheSameBytes) {
     EXPECT_EQ(EntriesOf(first).first(), u"[Content_Types].xml");
 }
 
-TEST_F(DocxStructure, AShownDocumentLiesAloneInItsFolderAndAnUnshownOneLeavesNothing) {
-    const QString path = desk.Document(TypeEverything);
-    EXPECT_EQ(QDir(QFileInfo(path).path()).entryList(QDir::Files),
-              QStringList({QFileInfo(path).fileName()}));
-    desk.processors.Create()->TypeText(QStringLiteral("given up"));
-    EXPECT_EQ(QDir(desk.folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+TEST_F(DocxStructure, TheTitleStandsInTheProperties) {
+    const QDomElement properties =
+        PartOf(desk.Document(TypeEverything), QStringLiteral("docProps/core.xml"));
+    EXPECT_EQ(properties.firstChildElement(QStringLiteral("dc:title")).text(), u"Katalog");
 }
 
-TEST_F(DocxStructure, AMissingTemporaryFolderIsNamed) {
-    DocxWordProcessors processors(desk.opener, desk.folder.filePath(QStringLiteral("chybí")));
+TEST_F(DocxStructure, DocumentsAreNamedByPaperAndTimeAndNeverLieOverAnOlderOne) {
+    EXPECT_FALSE(QFile::exists(desk.Papers()));
+    for (int i = 0; i < 3; ++i)
+        desk.Document(TypeEverything);
+    desk.processors.Create(QStringLiteral("Katalog"))->TypeText(QStringLiteral("given up"));
+    EXPECT_EQ(QDir(desk.Papers()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+              QStringList({QStringLiteral("Katalog 2027-05-14 08.31 (2).docx"),
+                           QStringLiteral("Katalog 2027-05-14 08.31 (3).docx"),
+                           QStringLiteral("Katalog 2027-05-14 08.31.docx")}));
+    EXPECT_EQ(desk.opener.files.first(),
+              desk.Papers() + QStringLiteral("/Katalog 2027-05-14 08.31.docx"));
+}
+
+TEST_F(DocxStructure, ADocumentThatNothingOpensTellsWhereItLies) {
+    desk.opener.opens = false;
+    const ShownDocument shown = desk.processors.Create(QStringLiteral("Katalog"))->Show();
+    EXPECT_FALSE(shown.opened);
+    EXPECT_TRUE(QFile::exists(shown.path)) << shown.path.toStdString();
+}
+
+TEST_F(DocxStructure, AFolderThatCannotBeMadeIsNamedAndNothingIsOpened) {
+    QFile inTheWay(desk.Papers());
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    const auto word = desk.processors.Create(QStringLiteral("Katalog"));
+    word->TypeText(QStringLiteral("a"));
     try {
-        processors.Create();
+        (void)word->Show();
         FAIL() << "nothing was raised";
     } catch (const PlatformError& error) {
-        EXPECT_TRUE(QString::fromUtf8(error.what()).contains(u"chybí")) << error.what();
+        EXPECT_TRUE(QString::fromUtf8(error.what()).contains(desk.Papers())) << error.what();
     }
-}
-
-TEST_F(DocxStructure, AFolderThatVanishesBeforeTheEndIsAFailureAndOpensNothing) {
-    const auto word = desk.processors.Create();
-    word->TypeText(QStringLiteral("a"));
-    QDir(desk.folder.path()).removeRecursively();
-    EXPECT_THROW(word->Show(), PlatformError);
     EXPECT_TRUE(desk.opener.files.isEmpty());
 }
 

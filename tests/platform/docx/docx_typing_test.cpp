@@ -1,7 +1,7 @@
 // What is typed, and the formats it is typed in.
 
-#include "platform/docx/document_parts.h"
 #include "platform/values/errors.h"
+#include "support/document_parts.h"
 
 #include <gtest/gtest.h>
 
@@ -132,7 +132,8 @@ TEST_F(DocxTyping, ParagraphFormatsApplyToTheParagraphAtTheInsertionPointAndThos
         word.SetAlignment(ParagraphAlignment::Right);
         word.SetFirstLineIndent(CentimetersToPoints(-1.0));
     });
-    EXPECT_FALSE(Has(ParagraphStyle(path, 0), "w:pPr"));
+    const QDomElement first = ParagraphStyle(path, 0);
+    EXPECT_FALSE(Has(first, "w:tabs") || Has(first, "w:ind") || Has(first, "w:jc"));
     const QDomElement second = ParagraphStyle(path, 1);
     EXPECT_EQ(Setting(second, QStringLiteral("w:jc"), QStringLiteral("val")), u"center");
     EXPECT_EQ(Setting(second, QStringLiteral("w:ind"), QStringLiteral("left")), u"3969");
@@ -188,6 +189,17 @@ TEST_F(DocxTyping, FormatsOfTheWholeTextReachEveryParagraph) {
     EXPECT_TRUE(Has(StyleNamed(path, RunStyles(path, 1).first()), "w:i"));
 }
 
+TEST_F(DocxTyping, HeadingsStayWithWhatFollowsThem) {
+    const QString path = desk.Document([](WordProcessor& word) {
+        word.SetKeepWithNext(true);
+        word.TypeText(QStringLiteral("heading\n"));
+        word.SetKeepWithNext(false);
+        word.TypeText(QStringLiteral("text"));
+    });
+    EXPECT_TRUE(Has(ParagraphStyle(path, 0), "w:keepNext"));
+    EXPECT_FALSE(Has(ParagraphStyle(path, 1), "w:keepNext"));
+}
+
 TEST_F(DocxTyping, SelectedTextIsReplacedUntilTheInsertionPointMoves) {
     const QString path = desk.Document([](WordProcessor& word) {
         word.TypeText(QStringLiteral("a"));
@@ -213,7 +225,7 @@ TEST_F(DocxTyping, APageBreakEndsItsParagraph) {
 }
 
 TEST_F(DocxTyping, RefusesToTypeAwayFromTheEnd) {
-    const auto word = desk.processors.Create();
+    const auto word = desk.processors.Create(QStringLiteral("Katalog"));
     word->TypeText(QStringLiteral("a"));
     word->HomeKeyStory();
     EXPECT_THROW(word->TypeText(QStringLiteral("b")), PlatformError);
@@ -223,8 +235,7 @@ TEST_F(DocxTyping, RefusesToTypeAwayFromTheEnd) {
     EXPECT_THROW(word->TypeParagraph(), PlatformError);
     word->EndKeyStory();
     word->TypeText(QStringLiteral("c"));
-    word->Show();
-    EXPECT_EQ(ParagraphsOf(desk.opener.files.last()), QStringList({QStringLiteral("ac")}));
+    EXPECT_EQ(ParagraphsOf(word->Show().path), QStringList({QStringLiteral("ac")}));
 }
 
 } // namespace lorvo::test

@@ -13,16 +13,31 @@ namespace lorvo::test {
 /// Remembers what it was asked to open.
 class OpenedFiles : public OpenService {
   public:
-    void OpenFile(const QString& path) override { files.append(path); }
+    bool OpenFile(const QString& path) override {
+        files.append(path);
+        return opens;
+    }
     void OpenAddress(const QString&) override {}
     QStringList files;
+    bool opens = true;
+};
+
+/// Half past eight on a show's morning.
+struct StoppedClock : Clock {
+    DateValue Now() const override {
+        return DateValue::FromCalendar(2027, 5, 14).WithSecondOfDay(8 * 3600 + 31 * 60 + 5);
+    }
 };
 
 /// Documents in a temporary folder of their own.
 struct DocumentDesk {
     QTemporaryDir folder;
     OpenedFiles opener;
-    DocxWordProcessors processors{opener, folder.path()};
+    StoppedClock clock;
+    DocxWordProcessors processors{opener, clock, Papers()};
+
+    /// Where the documents come to lie; not there before the first one.
+    QString Papers() const { return folder.filePath(QStringLiteral("Tisky")); }
 
     /// Types a document, shows it and returns its path.
     QString Document(const std::function<void(WordProcessor&)>& type);

@@ -1,4 +1,4 @@
-#include "platform/docx/document_parts.h"
+#include "support/document_parts.h"
 
 #include <gtest/gtest.h>
 #include <zip.h>
@@ -36,10 +36,9 @@ QString TextOf(const QDomElement& paragraph) {
 } // namespace
 
 QString DocumentDesk::Document(const std::function<void(WordProcessor&)>& type) {
-    const auto word = processors.Create();
+    const auto word = processors.Create(QStringLiteral("Katalog"));
     type(*word);
-    word->Show();
-    return opener.files.last();
+    return word->Show().path;
 }
 
 QStringList EntriesOf(const QString& path) {

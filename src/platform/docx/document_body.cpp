@@ -1,0 +1,40 @@
+#include "platform/docx/document_body.h"
+
+#include "platform/docx/docx_package.h"
+#include "platform/file_failure.h"
+
+#include <QDir>
+#include <cerrno>
+
+namespace lorvo::docx {
+
+namespace {
+
+QString FileName() {
+    return QDir::temp().filePath(QStringLiteral("Lorvo-XXXXXX.xml"));
+}
+
+} // namespace
+
+DocumentBody::DocumentBody() : file_(FileName()), xml_(Opened(file_)) {
+    xml_.Start("w:document").Attribute("xmlns:w", kMainNamespace).Start("w:body");
+}
+
+QTemporaryFile& DocumentBody::Opened(QTemporaryFile& file) {
+    if (!file.open())
+        FailToWriteFile(FileName(), errno);
+    return file;
+}
+
+void DocumentBody::Finish(const std::function<void(const QByteArray&)>& use) {
+    xml_.End().End().Finish();
+    if (!file_.flush())
+        FailToWriteFile(FileName(), errno);
+    const qint64 size = file_.size();
+    const uchar* bytes = file_.map(0, size);
+    if (!bytes)
+        FailToWriteFile(FileName(), errno);
+    use(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes), size));
+}
+
+} // namespace lorvo::docx

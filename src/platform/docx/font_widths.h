@@ -1,0 +1,19 @@
+#pragma once
+// How wide letters are, without the fonts: a document is printed on machines that have others than
+// the one it was made on.
+
+#include "platform/docx/docx_styles.h"
+
+namespace lorvo::docx {
+
+/// The fonts that stand in for the one that a document names differ in width by up to a third.
+enum class FontWidths {
+    Narrowest, ///< those of the named font itself
+    Widest     ///< those of the widest font that stands in for it
+};
+
+/// Advance width of a letter in that format, in twentieths of a point, its width percentage
+/// counted in. Letters beyond the Latin ones are taken for as wide as they are high.
+double LetterWidth(QChar letter, const RunFormat& format, FontWidths widths);
+
+} // namespace lorvo::docx
