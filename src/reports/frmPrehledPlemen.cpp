@@ -36,13 +36,15 @@ frmPrehledPlemen::frmPrehledPlemen(QWidget* parent)
 }
 
 void frmPrehledPlemen::Print() {
+    ShownDocument document;
     try {
-        TellWhenNotOpened(PutOut(), windowTitle());
+        document = PutOut();
     } catch (const Error& error) {
         ThePlatform().messages->Show(QString::fromUtf8(error.what()), MessageIcon::Stop,
                                      MessageButtons::Ok, windowTitle());
         return;
     }
+    TellWhenNotOpened(document, windowTitle());
     accept();
 }
 
