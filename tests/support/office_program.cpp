@@ -34,18 +34,30 @@ QStringList PagesOf(const QStringList& arguments) {
 struct FontSource {
     QString name;
     QString folder;
+    QString sans;
+    QString serif;
 };
 
 FontSource SourceOf(FontSet fonts) {
     switch (fonts) {
     case FontSet::Liberation:
-        return {QStringLiteral("Liberation"), QStringLiteral("truetype/liberation")};
+        return {QStringLiteral("Liberation"), QStringLiteral("truetype/liberation"),
+                QStringLiteral("Liberation Sans"), QStringLiteral("Liberation Serif")};
     case FontSet::Urw:
-        return {QStringLiteral("URW"), QStringLiteral("opentype/urw-base35")};
+        return {QStringLiteral("URW"), QStringLiteral("opentype/urw-base35"),
+                QStringLiteral("Nimbus Sans"), QStringLiteral("Nimbus Roman")};
     case FontSet::DejaVu:
         break;
     }
-    return {QStringLiteral("DejaVu"), QStringLiteral("truetype/dejavu")};
+    return {QStringLiteral("DejaVu"), QStringLiteral("truetype/dejavu"),
+            QStringLiteral("DejaVu Sans"), QStringLiteral("DejaVu Serif")};
+}
+
+/// What a system says of a font that it lacks.
+QString StandIn(const QString& family, const QString& other) {
+    return QStringLiteral("<alias binding=\"same\"><family>%1</family>"
+                          "<prefer><family>%2</family></prefer></alias>")
+        .arg(family, other);
 }
 
 /// A configuration that knows the fonts of one folder, and its path.
@@ -55,10 +67,14 @@ QString FontConfiguration(const QString& folder, FontSet fonts) {
     EXPECT_TRUE(QFileInfo::exists(fontFolder)) << "no fonts in " << fontFolder.toStdString();
     QFile file(QStringLiteral("%1/%2.conf").arg(folder, source.name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QStringLiteral("<?xml version=\"1.0\"?><fontconfig><dir>%1</dir>"
-                              "<cachedir>%2/%3</cachedir></fontconfig>\n")
-                   .arg(fontFolder, folder, source.name)
-                   .toUtf8());
+    QString text = QStringLiteral("<?xml version=\"1.0\"?><fontconfig><dir>%1</dir>"
+                                  "<cachedir>%2/%3</cachedir>")
+                       .arg(fontFolder, folder, source.name);
+    for (const char* family : {"Arial", "Tahoma", "sans-serif"})
+        text += StandIn(QString::fromUtf8(family), source.sans);
+    for (const char* family : {"Times New Roman", "serif"})
+        text += StandIn(QString::fromUtf8(family), source.serif);
+    file.write((text + QStringLiteral("</fontconfig>\n")).toUtf8());
     return file.fileName();
 }
 

@@ -82,7 +82,8 @@ void ExpectOrder(const QDomElement& parent, const QString& order) {
             << child.tagName().toStdString() << " in " << parent.tagName().toStdString();
         last = place;
     }
-    EXPECT_GE(last, 0) << "empty " << parent.tagName().toStdString();
+    EXPECT_TRUE(last >= 0 || parent.tagName() == u"w:p")
+        << "empty " << parent.tagName().toStdString();
 }
 
 void ExpectTree(const QDomElement& element) {
