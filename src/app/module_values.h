@@ -36,8 +36,6 @@ struct ModuleValues {
     bool IsAddingDog = false;
     int CurrentBreedID = 0;
     int CurrentCompetitionID = 0;
-    int EditedBreedID = 0;
-    int EditedCurrency = 0;
     bool SpecialBreed = false; ///< the breed under work is kSpecialBreedID
 
     // Options.

@@ -107,6 +107,10 @@ void ReportList::InsertColumn(int column, const QString& heading) {
     model_->InsertHeading(column, heading);
 }
 
+void ReportList::RemoveColumn(int column) {
+    model_->RemoveHeading(column);
+}
+
 int ReportList::ColumnCount() const {
     return model_->columnCount();
 }

@@ -62,6 +62,7 @@ class ReportList : public QTreeView {
     // Columns, from 0.
     void SetHeading(int column, const QString& text);
     void InsertColumn(int column, const QString& heading);
+    void RemoveColumn(int column); ///< with its cells
     int ColumnCount() const;
     void SetColumnWidths(std::initializer_list<int> widths);
     /// Numbers and amounts stand at the right, heading and cells.

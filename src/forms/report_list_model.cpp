@@ -167,6 +167,21 @@ void ReportListModel::InsertHeading(int column, const QString& text) {
     endInsertColumns();
 }
 
+void ReportListModel::RemoveHeading(int column) {
+    beginRemoveColumns({}, column, column);
+    headings_.removeAt(column);
+    rightAligned_.erase(rightAligned_.begin() + column);
+    const auto place = static_cast<size_t>(column);
+    for (ReportRow& row : rows_)
+        if (row.cells.size() > place)
+            row.cells.erase(row.cells.begin() + column);
+    if (sortColumn_ == column)
+        sortColumn_ = -1;
+    else if (sortColumn_ > column)
+        --sortColumn_;
+    endRemoveColumns();
+}
+
 void ReportListModel::AlignRight(int column) {
     rightAligned_.at(static_cast<size_t>(column)) = true;
 }

@@ -47,6 +47,7 @@ class ReportListModel : public QAbstractTableModel {
 
     void SetHeading(int column, const QString& text);
     void InsertHeading(int column, const QString& text);
+    void RemoveHeading(int column);
     void AlignRight(int column);
     HeaderPicture PictureOf(int column) const;
 

@@ -1,7 +1,6 @@
 #include "payments/currency_list.h"
 
 #include "app/common_routines.h"
-#include "app/module_values.h"
 #include "forms/command_collection.h"
 #include "forms/report_list.h"
 #include "payments/frmEditCurrency.h"
@@ -78,17 +77,17 @@ int CurrencyList::SelectedID() const {
 }
 
 void CurrencyList::Edit(int currencyID) {
-    Module().EditedCurrency = currencyID;
-    frmEditCurrency editor([this](bool main) { RefillAfterEditor(main); }, window());
+    frmEditCurrency editor(
+        currencyID, [this](bool main) { RefillAfterEditor(main); }, window());
     OpenModal(editor);
 }
 
 void CurrencyList::EditSelected() {
-    if (SelectedID() == 0)
+    const int edited = SelectedID();
+    if (edited == 0)
         return;
-    Edit(SelectedID());
-    const int row = lvwCurrencies->FindRow(u"C"_s + QString::number(Module().EditedCurrency));
-    if (row >= 0)
+    Edit(edited);
+    if (const int row = lvwCurrencies->FindRow(u"C"_s + QString::number(edited)); row >= 0)
         lvwCurrencies->SelectRow(row);
 }
 

@@ -24,8 +24,8 @@ QString CurrencyRateCaption() {
     return u"Kurs (x "_s + Module().MainCurrency + u"/ 1 jednotka)"_s;
 }
 
-frmEditCurrency::frmEditCurrency(std::function<void(bool)> onStored, QWidget* parent)
-    : Form("frmEditCurrency", u"Editace měny"_s, Border::Fixed, parent),
+frmEditCurrency::frmEditCurrency(int menaID, std::function<void(bool)> onStored, QWidget* parent)
+    : Form("frmEditCurrency", u"Editace měny"_s, Border::Fixed, parent), menaID_(menaID),
       onStored_(std::move(onStored)) {
     BuildControls();
     for (QLineEdit* box : txtEditCurr)
@@ -35,7 +35,9 @@ frmEditCurrency::frmEditCurrency(std::function<void(bool)> onStored, QWidget* pa
 }
 
 void frmEditCurrency::BuildControls() {
-    const QString captions[] = {u"Název"_s, u"Zkratka"_s, CurrencyRateCaption()};
+    // A caption takes an ampersand as the mark of an access key; the currency's is a letter.
+    const QString rate = CurrencyRateCaption().replace(u'&', u"&&"_s);
+    const QString captions[] = {u"Název"_s, u"Zkratka"_s, rate};
     auto* form = new QFormLayout;
     for (int i = 0; i < 3; ++i) {
         txtEditCurr[i] = Named(new QLineEdit(this), ElementName("txtEditCurr", i));
@@ -58,7 +60,7 @@ void frmEditCurrency::BuildControls() {
 }
 
 void frmEditCurrency::Load() {
-    if (Module().EditedCurrency != 0)
+    if (menaID_ != 0)
         LoadCurrency();
     else
         PrepareNewCurrency();
@@ -69,7 +71,7 @@ void frmEditCurrency::Load() {
 
 void frmEditCurrency::LoadCurrency() {
     setWindowTitle(u"Upravit měnu"_s);
-    const auto currency = CurrencyByID(Module().EditedCurrency);
+    const auto currency = CurrencyByID(menaID_);
     if (!currency)
         return;
     txtEditCurr[kName]->setText(currency->Nazev);
@@ -98,7 +100,7 @@ void frmEditCurrency::EnableOK() {
 
 void frmEditCurrency::Store() {
     Meny currency;
-    currency.ID = Module().EditedCurrency;
+    currency.ID = menaID_;
     currency.Nazev = txtEditCurr[kName]->text().trimmed();
     currency.Zkratka = txtEditCurr[kAbbreviation]->text().trimmed();
     currency.Hlavni = chkMainCurr->isChecked();

@@ -15,13 +15,13 @@ namespace lorvo {
 /// "Kurs (x Kč/ 1 jednotka)" with the main currency in it.
 QString CurrencyRateCaption();
 
-/// Edits the currency `Module().EditedCurrency`; 0 adds a new one.
+/// Edits one currency, or adds a new one.
 class frmEditCurrency : public Form {
     Q_OBJECT
   public:
-    /// `onStored` is told, before other currencies lose their main mark, whether this one is
-    /// marked.
-    frmEditCurrency(std::function<void(bool main)> onStored, QWidget* parent);
+    /// `menaID` 0 adds. `onStored` is told, before other currencies lose their main mark, whether
+    /// this one is marked.
+    frmEditCurrency(int menaID, std::function<void(bool main)> onStored, QWidget* parent);
 
   protected:
     void Load() override;
@@ -34,6 +34,7 @@ class frmEditCurrency : public Form {
     void EnableOK();
     void Store();
 
+    int menaID_;
     std::function<void(bool)> onStored_;
     std::array<QLineEdit*, 3> txtEditCurr{};
     QCheckBox* chkMainCurr = nullptr;

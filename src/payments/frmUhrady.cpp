@@ -24,6 +24,10 @@ constexpr int kDogColumn = 1;
 /// Where the amount in the main currency stands as long as there is no column of dogs.
 constexpr int kMainCurrencyColumn = 2;
 
+const QString kWidthsKey = u"ColWidths\\frmUhrady\\lvwUhrady"_s;
+const QString kDogColumnWidth = u"ColWidth pesx"_s;
+constexpr int kWidestColumn = 10'000;
+
 /// The dog of an owner that a payment is for: the only one, or the one that the clerk picks. 0 for
 /// none.
 int PickDog(int ownerID) {
@@ -48,7 +52,7 @@ frmUhrady::frmUhrady(QWidget* parent)
       lvwUhrady(new ReportList(
           "lvwUhrady",
           {u"Částka"_s, u"Datum"_s, u"Částka v Kč"_s, u"Způsob úhrady"_s, u"Číslo účtu"_s}, this)) {
-    lvwUhrady->SetColumnWidths({110, 150, 120, 110, 150});
+    lvwUhrady->SetColumnWidths({150, 150, 130, 120, 150});
     lvwUhrady->AlignRight({kMainCurrencyColumn});
     lvwUhrady->SetIcons({ProgramIcon(u"payment"_s)});
     Connect(lvwUhrady, &ReportList::DeletePressed, this, &frmUhrady::DeleteSelected);
@@ -70,7 +74,7 @@ void frmUhrady::LayOut() {
     column->addWidget(price);
     column->addLayout(ButtonRow({cmdPlatba, cmdDelete, cmdClose}));
     setMinimumSize(420, 240);
-    resize(790, 380);
+    resize(850, 380);
     lvwUhrady->setFocus();
 }
 
@@ -84,6 +88,7 @@ void frmUhrady::Load() {
 
 bool frmUhrady::QueryUnload() {
     SetMainCurrencyHeading(u"Kč"_s);
+    RemoveDogColumn();
     return true;
 }
 
@@ -123,6 +128,21 @@ void frmUhrady::InsertDogColumn() {
         return;
     lvwUhrady->InsertColumn(kDogColumn, u"Pes"_s);
     hasDogColumn_ = true;
+    bool stored = false;
+    const int width = ReadRegValue(kWidthsKey, kDogColumnWidth).toInt(&stored);
+    if (stored && width >= 0 && width <= kWidestColumn)
+        lvwUhrady->setColumnWidth(kDogColumn, width);
+}
+
+// The stored widths and places go by the number of the column. Both kinds of statement share them,
+// so that the column of dogs, which one of them lacks, is gone before they are stored; its own
+// width is kept apart.
+void frmUhrady::RemoveDogColumn() {
+    if (!hasDogColumn_)
+        return;
+    WriteRegValue(kWidthsKey, kDogColumnWidth, QString::number(lvwUhrady->columnWidth(kDogColumn)));
+    lvwUhrady->RemoveColumn(kDogColumn);
+    hasDogColumn_ = false;
 }
 
 void frmUhrady::AddPaymentsOf(const Psi& dog, const CurrencyAbbreviations& currencies,

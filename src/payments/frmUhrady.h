@@ -33,6 +33,7 @@ class frmUhrady : public Form {
     void FillForDog();
     void FillForOwner();
     void InsertDogColumn();
+    void RemoveDogColumn();
     void AddPaymentsOf(const Psi& dog, const CurrencyAbbreviations& currencies,
                        std::vector<ReportRow>& rows) const;
     ReportRow RowOf(const Uhrady& payment, const Psi& dog,

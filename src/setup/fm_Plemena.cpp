@@ -153,14 +153,13 @@ void fm_Plemena::RenameSelected() {
 }
 
 void fm_Plemena::OpenNaming(int ID) {
-    Module().EditedBreedID = ID;
-    frmNovePlemeno window(
-        [this](const QString& title) {
-            if (BreedNode* node = tvwPlemena->SelectedNode())
-                tvwPlemena->Model().SetCell(*node, kBreedName, title);
-        },
-        this);
+    frmNovePlemeno window(ID, this);
     OpenModal(window);
+    if (!window.Result())
+        return;
+    Module().BreedsDirty = true;
+    if (BreedNode* node = tvwPlemena->Model().Find(ID))
+        tvwPlemena->Model().SetCell(*node, kBreedName, *window.Result());
 }
 
 void fm_Plemena::DeleteSelected() {

@@ -71,7 +71,7 @@ fm_Settings::fm_Settings(QWidget* parent)
     pages->addTab(currencies_ = new CurrencyList(pages), u" Měny "_s);
     pages->addTab(MakeLookPage(), u" Vzhled "_s);
 
-    auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
+    cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     auto* column = new QVBoxLayout(this);
     column->addWidget(pages);
@@ -213,6 +213,13 @@ void fm_Settings::EnableNumberButtons() {
     cmdGenerateNumbers->setEnabled(!numbered);
 }
 
+void fm_Settings::SetNumbered(bool numbered) {
+    // A button that is greyed hands the keyboard to the next one, which clears the database.
+    cmdOK->setFocus();
+    cmdGenerateNumbers->setEnabled(!numbered);
+    cmdRemoveNumbers->setEnabled(numbered);
+}
+
 void fm_Settings::LoadLooks() {
     TickIfPreferred(*chkGrids, "ShowGrid");
     TickIfPreferred(*chkShowClasses, "ShowClasses");
@@ -240,8 +247,7 @@ void fm_Settings::GenerateNumbers() {
         return;
     const WaitCursor waiting(*ThePlatform().ui);
     GenerateCatalogueNumbers(TheMainWindow().Nodes());
-    cmdGenerateNumbers->setEnabled(false);
-    cmdRemoveNumbers->setEnabled(true);
+    SetNumbered(true);
 }
 
 void fm_Settings::RemoveNumbers() {
@@ -251,8 +257,7 @@ void fm_Settings::RemoveNumbers() {
     if (CountDogs() == 0)
         return;
     RemoveDogNumbers();
-    cmdGenerateNumbers->setEnabled(true);
-    cmdRemoveNumbers->setEnabled(false);
+    SetNumbered(false);
     TheMainWindow().LoadData();
 }
 

@@ -34,6 +34,8 @@ class fm_Settings : public Form {
     void Store();
     void GenerateNumbers();
     void RemoveNumbers();
+    /// Which of the two buttons can be pressed next; the keyboard goes to OK.
+    void SetNumbered(bool numbered);
     bool Confirm(const QString& question) const;
 
     QDateEdit* dtMeeting;
@@ -43,6 +45,7 @@ class fm_Settings : public Form {
     QPushButton* cmdRemoveNumbers;
     QPushButton* cmdClearDatabase;
     QPushButton* Command1;
+    QPushButton* cmdOK;
     CurrencyList* currencies_;
     QCheckBox* chkGrids;
     QCheckBox* chkRememberItem;

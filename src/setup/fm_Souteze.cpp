@@ -1,7 +1,6 @@
 #include "setup/fm_Souteze.h"
 
 #include "app/common_routines.h"
-#include "app/module_values.h"
 #include "dogs/frmPsiVSoutezi.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
@@ -108,8 +107,7 @@ void fm_Souteze::Rename(int position, const QString& text, bool* cancel) {
 }
 
 void fm_Souteze::AddCompetition() {
-    Module().CurrentCompetitionID = 0;
-    frmSoutez editor(this);
+    frmSoutez editor(0, this);
     OpenModal(editor);
     Fill();
 }
@@ -119,8 +117,7 @@ void fm_Souteze::EditSelected() {
     if (selected < 0)
         return;
     const QString text = lvwSouteze->CellText(selected, 0);
-    Module().CurrentCompetitionID = CompetitionAt(selected);
-    frmSoutez editor(this);
+    frmSoutez editor(CompetitionAt(selected), this);
     OpenModal(editor);
     FillAndReselect(text);
 }

@@ -1,6 +1,5 @@
 #include "setup/frmNovePlemeno.h"
 
-#include "app/module_values.h"
 #include "forms/controls.h"
 #include "platform/failure_guard.h"
 #include "store/plemena.h"
@@ -11,10 +10,9 @@ namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
-frmNovePlemeno::frmNovePlemeno(std::function<void(const QString&)> onStored, QWidget* parent)
+frmNovePlemeno::frmNovePlemeno(int plemenoID, QWidget* parent)
     : Form("frmNovePlemeno", u"Přejmenovat plemeno"_s, Border::Fixed, parent),
-      onStored_(std::move(onStored)),
-      txtPlemenoName(Named(new QLineEdit(this), u"txtPlemenoName"_s)),
+      plemenoID_(plemenoID), txtPlemenoName(Named(new QLineEdit(this), u"txtPlemenoName"_s)),
       txtPlemenoNameOrig(Named(new QLineEdit(this), u"txtPlemenoNameOrig"_s)) {
     auto* form = new QFormLayout;
     form->addRow(CaptionFor(txtPlemenoName, u"Český název"_s, this), txtPlemenoName);
@@ -31,7 +29,7 @@ frmNovePlemeno::frmNovePlemeno(std::function<void(const QString&)> onStored, QWi
 }
 
 void frmNovePlemeno::Load() {
-    if (const auto breed = BreedByID(Module().EditedBreedID)) {
+    if (const auto breed = BreedByID(plemenoID_)) {
         txtPlemenoName->setText(breed->Nazev);
         txtPlemenoNameOrig->setText(breed->NazevOrig);
     }
@@ -39,8 +37,8 @@ void frmNovePlemeno::Load() {
 }
 
 void frmNovePlemeno::Store() {
-    SetBreedNames(Module().EditedBreedID, txtPlemenoName->text(), txtPlemenoNameOrig->text());
-    onStored_(txtPlemenoName->text() + u" ("_s + txtPlemenoNameOrig->text().trimmed() + u')');
+    SetBreedNames(plemenoID_, txtPlemenoName->text(), txtPlemenoNameOrig->text());
+    title_ = txtPlemenoName->text() + u" ("_s + txtPlemenoNameOrig->text().trimmed() + u')';
     accept();
 }
 

@@ -3,18 +3,19 @@
 
 #include "forms/form.h"
 
-#include <functional>
+#include <optional>
 
 class QLineEdit;
 
 namespace lorvo {
 
-/// Edits the breed `Module().EditedBreedID`.
 class frmNovePlemeno : public Form {
     Q_OBJECT
   public:
-    /// `onStored` is told the breed's new title.
-    frmNovePlemeno(std::function<void(const QString&)> onStored, QWidget* parent);
+    frmNovePlemeno(int plemenoID, QWidget* parent);
+
+    /// The breed's new title when it has been stored.
+    const std::optional<QString>& Result() const { return title_; }
 
   protected:
     void Load() override;
@@ -22,7 +23,8 @@ class frmNovePlemeno : public Form {
   private:
     void Store();
 
-    std::function<void(const QString&)> onStored_;
+    int plemenoID_;
+    std::optional<QString> title_;
     QLineEdit* txtPlemenoName;
     QLineEdit* txtPlemenoNameOrig;
 };

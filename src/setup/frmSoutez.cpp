@@ -1,7 +1,6 @@
 #include "setup/frmSoutez.h"
 
 #include "app/common_routines.h"
-#include "app/module_values.h"
 #include "forms/controls.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -32,7 +31,8 @@ std::optional<Currency> PriceFromText(const QString& text) {
 
 } // namespace
 
-frmSoutez::frmSoutez(QWidget* parent) : Form("frmSoutez", {}, Border::Fixed, parent) {
+frmSoutez::frmSoutez(int soutezID, QWidget* parent)
+    : Form("frmSoutez", {}, Border::Fixed, parent), soutezID_(soutezID) {
     BuildControls();
     SetNumberStyle(*txtNazev[kPrice]);
     for (QLineEdit* box : txtNazev)
@@ -70,7 +70,7 @@ void frmSoutez::BuildControls() {
 
 void frmSoutez::Load() {
     txtNazev[kPrice]->setText(u"0"_s);
-    if (Module().CurrentCompetitionID == 0) {
+    if (soutezID_ == 0) {
         setWindowTitle(u"Přidat soutěž"_s);
         lblErr->hide();
     } else {
@@ -82,14 +82,14 @@ void frmSoutez::Load() {
 }
 
 void frmSoutez::LoadCompetition() {
-    if (const auto competition = CompetitionByID(Module().CurrentCompetitionID)) {
+    if (const auto competition = CompetitionByID(soutezID_)) {
         txtNazev[kName]->setText(competition->Nazev);
         txtNazev[kParameter1]->setText(competition->NazevPar1);
         txtNazev[kParameter2]->setText(competition->NazevPar2);
         txtNazev[kPrice]->setText(PlainAmount(competition->Cena.value_or(Currency())));
         chkPairs->setChecked(competition->Parova);
     }
-    const bool entered = CountDogsInCompetition(Module().CurrentCompetitionID) > 0;
+    const bool entered = CountDogsInCompetition(soutezID_) > 0;
     lblErr->setVisible(entered);
     chkPairs->setEnabled(!entered);
 }
@@ -98,30 +98,35 @@ void frmSoutez::EnableOK() {
     cmdOK->setEnabled(!txtNazev[kName]->text().isEmpty());
 }
 
+Souteze frmSoutez::Competition() const {
+    Souteze competition;
+    competition.ID = soutezID_;
+    competition.Nazev = txtNazev[kName]->text();
+    competition.Cena = PriceFromText(txtNazev[kPrice]->text());
+    competition.Parova = chkPairs->isChecked();
+    competition.NazevPar1 = txtNazev[kParameter1]->text();
+    competition.NazevPar2 = txtNazev[kParameter2]->text();
+    return competition;
+}
+
 void frmSoutez::Store() {
     MessageBoxes& messages = *ThePlatform().messages;
-    Souteze competition;
-    competition.ID = Module().CurrentCompetitionID;
-    competition.Nazev = txtNazev[kName]->text();
-    if (IsCompetitionNamed(competition.Nazev, competition.ID)) {
-        messages.Show(u"Soutěž "_s + competition.Nazev + u" už existuje. použijte jiný název."_s,
+    const QString name = txtNazev[kName]->text();
+    if (IsCompetitionNamed(name, soutezID_)) {
+        messages.Show(u"Soutěž "_s + name + u" už existuje. použijte jiný název."_s,
                       MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
         return;
     }
     try {
-        competition.Cena = PriceFromText(txtNazev[kPrice]->text());
+        if (soutezID_ > 0)
+            UpdateCompetition(Competition());
+        else
+            InsertCompetition(Competition());
     } catch (const RangeError& failure) {
         messages.Show(kCaptions[kPrice].toString() + u": "_s + QString::fromUtf8(failure.what()),
                       MessageIcon::Stop, MessageButtons::Ok, windowTitle());
         return;
     }
-    competition.Parova = chkPairs->isChecked();
-    competition.NazevPar1 = txtNazev[kParameter1]->text();
-    competition.NazevPar2 = txtNazev[kParameter2]->text();
-    if (competition.ID > 0)
-        UpdateCompetition(competition);
-    else
-        InsertCompetition(competition);
     accept();
 }
 

@@ -12,11 +12,14 @@ class QPushButton;
 
 namespace lorvo {
 
-/// Edits the competition `Module().CurrentCompetitionID`; 0 adds a new one.
+struct Souteze;
+
+/// Edits one competition, or adds a new one.
 class frmSoutez : public Form {
     Q_OBJECT
   public:
-    explicit frmSoutez(QWidget* parent);
+    /// `soutezID` 0 adds.
+    frmSoutez(int soutezID, QWidget* parent);
 
   protected:
     void Load() override;
@@ -26,7 +29,10 @@ class frmSoutez : public Form {
     void LoadCompetition();
     void EnableOK();
     void Store();
+    /// What the boxes say. RangeError when the price is no amount.
+    Souteze Competition() const;
 
+    int soutezID_;
     std::array<QLineEdit*, 4> txtNazev{};
     QCheckBox* chkPairs = nullptr;
     QLabel* lblErr = nullptr;

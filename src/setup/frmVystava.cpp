@@ -24,12 +24,22 @@ QString IniPath() {
     return ThePlatform().programFolder + u"/Lorvosys.ini"_s;
 }
 
+bool IgnoresClasses() {
+    return ReadIniValue(kSection, kIgnoreClasses, IniPath()) == u"1";
+}
+
+/// False when the file could not be written and holds the other choice.
+bool StoreChoice(bool byClass) {
+    return ThePlatform().iniFiles->Write(kSection, kIgnoreClasses, byClass ? u"0"_s : u"1"_s,
+                                         IniPath()) ||
+           IgnoresClasses() != byClass;
+}
+
 } // namespace
 
-frmVystava::frmVystava(int vystavaID, std::function<void(const QString&)> onStored, QWidget* parent)
+frmVystava::frmVystava(int vystavaID, QWidget* parent)
     : Form("frmVystava", u"Výstava"_s, Border::Fixed, parent), vystavaID_(vystavaID),
-      onStored_(std::move(onStored)), txtName(Named(new QLineEdit(this), u"txtName"_s)),
-      fees_(new FeeGrid(this)),
+      txtName(Named(new QLineEdit(this), u"txtName"_s)), fees_(new FeeGrid(this)),
       chkRozliseni(Named(new QCheckBox(u"Rozlišovat ceny podle tříd"_s, this), u"chkRozliseni"_s)) {
     BuildControls();
     Connect(chkRozliseni, &QCheckBox::toggled, this, &frmVystava::ChooseGrid);
@@ -61,7 +71,7 @@ void frmVystava::Load() {
     fees_->SetFees(ShowFees(vystavaID_));
     if (const auto show = ShowByID(vystavaID_))
         txtName->setText(show->Nazev);
-    const bool ignoreClasses = ReadIniValue(kSection, kIgnoreClasses, IniPath()) == u"1";
+    const bool ignoreClasses = IgnoresClasses();
     if (ignoreClasses)
         fees_->CopyFirstClassToSimple();
     fees_->ShowSimple(ignoreClasses);
@@ -106,11 +116,21 @@ void frmVystava::Store() {
     } catch (const RangeError& failure) {
         return Refuse(QString::fromUtf8(failure.what()));
     }
-    ThePlatform().iniFiles->Write(kSection, kIgnoreClasses, byClass ? u"0"_s : u"1"_s, IniPath());
+    const bool chosen = StoreChoice(byClass);
     const QString name = txtName->text().trimmed();
     UpdateShow(vystavaID_, name, fees);
-    onStored_(name);
+    stored_ = name;
+    if (!chosen)
+        TellChoiceNotStored();
     accept();
+}
+
+void frmVystava::TellChoiceNotStored() const {
+    ThePlatform().messages->Show(
+        u"Výstava je uložena, ale volbu „"_s + chkRozliseni->text() +
+            u"“ se nepodařilo zapsat do souboru "_s + IniPath() +
+            u". Zkontrolujte, zda do složky programu smíte zapisovat a zda na disku zbývá místo."_s,
+        MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
 }
 
 void frmVystava::Refuse(const QString& text) const {

@@ -5,7 +5,7 @@
 #include "store/vystavy.h"
 
 #include <array>
-#include <functional>
+#include <optional>
 
 class QCheckBox;
 class QLineEdit;
@@ -17,8 +17,10 @@ class FeeGrid;
 class frmVystava : public Form {
     Q_OBJECT
   public:
-    /// `onStored` is told the show's name when it has been stored.
-    frmVystava(int vystavaID, std::function<void(const QString&)> onStored, QWidget* parent);
+    frmVystava(int vystavaID, QWidget* parent);
+
+    /// The show's name when the show has been stored.
+    const std::optional<QString>& Result() const { return stored_; }
 
   protected:
     void Load() override;
@@ -27,12 +29,13 @@ class frmVystava : public Form {
     void BuildControls();
     void ChooseGrid(bool byClass);
     void Store();
+    void TellChoiceNotStored() const;
     /// The fees typed, an emptied box as 0. RangeError names the box whose text is no amount.
     std::array<Currency, kFeeColumns> Fees() const;
     void Refuse(const QString& text) const;
 
     int vystavaID_;
-    std::function<void(const QString&)> onStored_;
+    std::optional<QString> stored_;
     bool Loading = false;
 
     QLineEdit* txtName;

@@ -84,11 +84,10 @@ void frmVystavy::EditSelectedShow() {
     if (selected < 0)
         return;
     const QString key = lvwList->Row(selected).key;
-    frmVystava window(
-        lvwList->Row(selected).tag.toInt(),
-        [this, key](const QString& name) { lvwList->SetCell(lvwList->FindRow(key), 0, name); },
-        this);
+    frmVystava window(lvwList->Row(selected).tag.toInt(), this);
     OpenModal(window);
+    if (window.Result())
+        lvwList->SetCell(lvwList->FindRow(key), 0, *window.Result());
 }
 
 void frmVystavy::DeleteSelectedShow() {

@@ -91,7 +91,7 @@ frmWizard::frmWizard(QWidget* parent)
     tvwWizardPlemena->setMinimumHeight(kBreedsHeight);
     breeds->layout()->addWidget(tvwWizardPlemena);
     breeds->layout()->addWidget(MakeSummary(breeds));
-    for (int page = kDate; page < kBreeds; ++page)
+    for (int page = kWelcome; page < kBreeds; ++page)
         static_cast<QVBoxLayout*>(pages_->widget(page)->layout())->addStretch();
     BuildButtons();
 }

@@ -19,7 +19,7 @@ Uhrady ReadUhrady(const RecordSet& row) {
     payment.Mena = row.Field("Mena").ToInt();
     payment.Kurs = row.Field("Kurs").ToCurrency();
     payment.Kc = row.Field("Kc").ToCurrency();
-    payment.Uhrada = row.Field("Uhrada").ToInt();
+    payment.Uhrada = ToOptionalInt(row.Field("Uhrada"));
     payment.Ucet = row.Field("Ucet").ToText();
     payment.Printed = row.Field("Printed").ToBool();
     return payment;
@@ -42,7 +42,8 @@ PaymentRow ReadPaymentRow(const Query& row) {
     payment.Mena = row.Int(5);
     payment.Datum = ToOptionalDate(row.Cell(6));
     payment.Kc = row.Amount(7);
-    payment.Uhrada = row.Int(8);
+    if (!row.IsNull(8))
+        payment.Uhrada = row.Int(8);
     payment.Jmeno = row.Text(10);
     payment.ChovnaStanice = row.Text(11);
     payment.MajitelID = row.Int(12);
@@ -100,7 +101,7 @@ int InsertPayment(const Uhrady& payment) {
                      {{"Datum", FromOptional(payment.Datum)},
                       {"Castka", payment.Castka},
                       {"Mena", payment.Mena},
-                      {"Uhrada", payment.Uhrada},
+                      {"Uhrada", FromOptional(payment.Uhrada)},
                       {"ID_Psa", payment.ID_Psa},
                       {"Kc", payment.Kc},
                       {"Kurs", payment.Kurs},

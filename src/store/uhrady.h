@@ -12,16 +12,17 @@
 
 namespace lorvo {
 
-/// Null amounts and numbers read as 0, a Null Ucet as empty, a Null Printed as false.
+/// Null amounts and other numbers read as 0, a Null Ucet as empty, a Null Printed as false; a Null
+/// Uhrada is no way of payment.
 struct Uhrady {
     int ID = 0;
     int ID_Psa = 0;
     std::optional<DateValue> Datum;
     Currency Castka; ///< as paid
     int Mena = 0;
-    Currency Kurs;  ///< the currency's rate when the payment was made
-    Currency Kc;    ///< Castka in the main currency
-    int Uhrada = 0; ///< way of payment
+    Currency Kurs;             ///< the currency's rate when the payment was made
+    Currency Kc;               ///< Castka in the main currency
+    std::optional<int> Uhrada; ///< way of payment; nullopt for Null
     QString Ucet;
     bool Printed = false;
 };
@@ -36,9 +37,9 @@ struct PaymentRow {
     int Mena = 0;
     std::optional<DateValue> Datum;
     Currency Kc;
-    int Uhrada = 0;
-    QString Jmeno;         ///< the dog's
-    QString ChovnaStanice; ///< the dog's
+    std::optional<int> Uhrada; ///< nullopt for Null
+    QString Jmeno;             ///< the dog's
+    QString ChovnaStanice;     ///< the dog's
     int MajitelID = 0;
     QString MajX; ///< surname, name and town of the owner; empty when one of them is Null
 };

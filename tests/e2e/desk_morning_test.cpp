@@ -77,8 +77,8 @@ class DeskMorning : public RoutinesTest {
 
     /// Opens the editor on a currency, 0 for a new one, and stores these texts.
     static void EditCurrency(int ID, const char* name, const char* abbreviation, const char* rate) {
-        Module().EditedCurrency = ID;
-        frmEditCurrency editor([](bool) {}, nullptr);
+        frmEditCurrency editor(
+            ID, [](bool) {}, nullptr);
         WhileOpen([&] { OpenModal(editor); },
                   [&](QWidget& window) {
                       const char* const texts[] = {name, abbreviation, rate};

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace lorvo::test {
 namespace {
@@ -63,8 +64,8 @@ class CurrenciesTest : public RoutinesTest {
             [&](QWidget& window) { inside(window, Control<ReportList>(window, "lvwCurrencies")); });
     }
     void OpenEditor(int currency, const std::function<void(QWidget&)>& inside) {
-        Module().EditedCurrency = currency;
-        frmEditCurrency editor([this](bool main) { told << main; }, nullptr);
+        frmEditCurrency editor(
+            currency, [this](bool main) { told << main; }, nullptr);
         WhileOpen([&] { OpenModal(editor); }, inside);
     }
     static void Command(QWidget& window, const char* command) {
@@ -197,9 +198,9 @@ TEST_F(CurrenciesTest, AMarkedCurrencyTakesTheMarkFromAllOfOtherNames) {
 
 TEST_F(CurrenciesTest, TheEditorReportsBeforeTheOthersLoseTheirMark) {
     AddCrownAndEuro();
-    Module().EditedCurrency = 2;
     Texts atReport;
-    frmEditCurrency editor([&](bool) { atReport = Stored(); }, nullptr);
+    frmEditCurrency editor(
+        2, [&](bool) { atReport = Stored(); }, nullptr);
     WhileOpen([&] { OpenModal(editor); },
               [&](QWidget& window) {
                   Main(window).click();
@@ -207,6 +208,17 @@ TEST_F(CurrenciesTest, TheEditorReportsBeforeTheOthersLoseTheirMark) {
               });
     EXPECT_EQ(atReport, (Texts{"Koruna|Kč|1|main", "Euro|EUR|1|main"}));
     EXPECT_EQ(Stored(), (Texts{"Koruna|Kč|1|", "Euro|EUR|1|main"}));
+}
+
+TEST_F(CurrenciesTest, AnAmpersandInTheMainCurrencyIsSeenInTheRatesCaption) {
+    Module().MainCurrency = Text("K&č");
+    OpenEditor(0, [](QWidget& window) {
+        const QList<QLabel*> labels = window.findChildren<QLabel*>();
+        const auto caption = std::ranges::find_if(
+            labels, [&](const QLabel* label) { return label->buddy() == &Box(window, 2); });
+        ASSERT_NE(caption, labels.end());
+        EXPECT_EQ((*caption)->text(), u"Kurs (x K&&č/ 1 jednotka)") << "doubled it is a letter";
+    });
 }
 
 TEST_F(CurrenciesTest, AllRowsTakeTheEditorsMarkUntilThePageComesToTheFront) {
@@ -288,7 +300,6 @@ TEST_F(CurrenciesTest, ADoubleClickEditsAndSelectsTheRowAgain) {
                       Press(editor, "cmdCancel");
                   });
         EXPECT_EQ(list.SelectedRow(), 1);
-        EXPECT_EQ(Module().EditedCurrency, 2);
     });
 }
 

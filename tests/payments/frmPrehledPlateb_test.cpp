@@ -78,6 +78,12 @@ TEST_F(OverviewTest, AMissingCurrencyFailsTheLoading) {
     EXPECT_THROW(OpenModal(window), StoreError);
 }
 
+TEST_F(OverviewTest, AMissingWayOfPaymentFailsTheLoading) {
+    AddPayment(rex, 1, koruna, {{"Uhrada", Value()}});
+    frmPrehledPlateb window(nullptr);
+    EXPECT_THROW(OpenModal(window), StoreError);
+}
+
 TEST_F(OverviewTest, WithNoRowSelectedTheRightButtonOpensNothing) {
     AddPayment(rex, 1);
     Open([](QWidget& window) {

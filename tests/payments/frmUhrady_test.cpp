@@ -95,6 +95,42 @@ TEST_F(StatementTest, TheHeadingOfTheMainCurrencyIsPutBack) {
     }
 }
 
+TEST_F(StatementTest, TheColumnOfDogsLeavesTheWidthsOfTheOthersAlone) {
+    const auto widths = [](const ReportList& list) {
+        Texts texts;
+        for (int column = 0; column < list.ColumnCount(); ++column)
+            texts.push_back(std::to_string(list.columnWidth(column)));
+        return texts;
+    };
+    Open([](QWidget& window) { List(window).SetColumnWidths({101, 102, 103, 104, 105}); });
+    for (const char* dogs : {"201", "202"}) {
+        AsOwner(jana);
+        Open([&](QWidget& window) {
+            List(window).setColumnWidth(1, std::stoi(dogs));
+            EXPECT_EQ(widths(List(window)), (Texts{"101", dogs, "102", "103", "104", "105"}));
+        });
+        Open([&](QWidget& window) { EXPECT_EQ(widths(List(window))[1], dogs) << "as left"; });
+        AsOwner(0);
+        Open([&](QWidget& window) {
+            EXPECT_EQ(widths(List(window)), (Texts{"101", "102", "103", "104", "105"}));
+        });
+    }
+}
+
+TEST_F(StatementTest, AmountsWithDecimalsAreSeenWhole) {
+    AddPayment(
+        rex, 1, 1,
+        {{"Castka", Currency::FromRaw(999'991'234)}, {"Kc", Currency::FromRaw(1'234'567'890'000)}});
+    Open([](QWidget& window) {
+        const ReportList& list = List(window);
+        EXPECT_EQ(Line(list, 0), "99999,1234 EUR|1.5.2005|123456 789,00 Kč|hotově|");
+        for (int column = 0; column < list.ColumnCount(); ++column)
+            EXPECT_LE(list.sizeHintForIndex(list.model()->index(0, column)).width(),
+                      list.columnWidth(column))
+                << column;
+    });
+}
+
 TEST_F(StatementTest, ANewPaymentOfTheDogShowsAtOnce) {
     Open([](QWidget& window) {
         Take(window, "450");
@@ -185,6 +221,17 @@ TEST_F(StatementTest, AMissingCurrencyBreaksADogsStatementAndLeavesAGapInAnOwner
         EXPECT_EQ(Lines(List(window)),
                   (Texts{"5 |Rex|1.5.2005| 5,00 Kč|hotově|", "6 Kč|Rex|1.5.2005| 6,00 Kč||",
                          "7 Kč|Alík|1.5.2005| 7,00 Kč|hotově|"}));
+    });
+    AsOwner(0);
+    frmUhrady window(nullptr);
+    EXPECT_THROW(OpenModal(window), StoreError);
+}
+
+TEST_F(StatementTest, AWayOfPaymentThatIsMissingIsNotTheFirstOne) {
+    AddPayment(rex, 5, koruna, {{"Uhrada", Value()}});
+    AsOwner(jana);
+    Open([](QWidget& window) {
+        EXPECT_EQ(Lines(List(window)), Texts{"5 Kč|Rex|1.5.2005| 5,00 Kč||"});
     });
     AsOwner(0);
     frmUhrady window(nullptr);

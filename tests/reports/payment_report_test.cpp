@@ -110,4 +110,19 @@ TEST_F(PaymentReport, AnUnknownWayOfPaymentEndsTheRunAndNothingIsAsked) {
     }
 }
 
+TEST_F(PaymentReport, APaymentWithoutAWayOfPaymentEndsTheRun) {
+    show.Execute("UPDATE Uhrady SET Uhrada = NULL WHERE ID = 2");
+    for (const bool html : {true, false}) {
+        frmTiskPlateb other(nullptr);
+        platform.ExpectMessage(u"Platba za psa „Rex“ nemá uveden způsob úhrady."_qs,
+                               MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
+                               u"Platby"_qs);
+        Start(other, html);
+        EXPECT_EQ(platform.shownDocuments, 0);
+        EXPECT_EQ(Output(), "no file");
+        other.close();
+        EXPECT_EQ(Marks(), marksBefore);
+    }
+}
+
 } // namespace lorvo::test

@@ -190,7 +190,7 @@ TEST_F(BreedRegisterTest, AddingASubgroupStoresItBeforeItIsNamed) {
     EXPECT_EQ(Field("FCI", 2), "9");
     EXPECT_EQ(Field("ID_Kruhu", 2), "0");
     EXPECT_EQ(Field("Pouzivat", 2), "0");
-    EXPECT_EQ(Module().EditedBreedID, 2);
+    EXPECT_FALSE(Module().BreedsDirty);
 }
 
 TEST_F(BreedRegisterTest, NamingTakesWhatIsTyped) {
@@ -205,6 +205,7 @@ TEST_F(BreedRegisterTest, NamingTakesWhatIsTyped) {
                       EXPECT_FALSE(naming.isVisible());
                   });
         EXPECT_EQ(Node(2).cells[kBreedName], u" Pudl ()");
+        EXPECT_TRUE(Module().BreedsDirty) << "the tree shows the name";
         Select(2);
         WhileOpen([&] { Command(window, "PLEMENA:EDIT"); },
                   [&](QWidget& naming) {

@@ -163,6 +163,24 @@ TEST_F(NumbersTest, AFailureHalfwayLeavesTheEarlierDogsNumbered) {
     DeleteDog(3);
     EXPECT_THROW(Generate(), StoreError);
     EXPECT_EQ(Numbers(), "Bob=0 Cit=2 Zar=1");
+    EXPECT_EQ(main.nodes.Get(Text("P1")).text, u"Zar") << "the tree shows what is stored alone";
+}
+
+TEST_F(NumbersTest, AfterwardsTheKeyboardStandsOnOK) {
+    AddTwoRings();
+    main.LoadData();
+    Open<fm_Settings>([&](QWidget& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        for (const char* button : {"cmdGenerateNumbers", "cmdRemoveNumbers"}) {
+            Control<QPushButton>(window, button).setFocus();
+            platform.ExpectMessage(button == std::string("cmdGenerateNumbers")
+                                       ? Text("Určitě vygenerovat pořadová čísla psů?")
+                                       : Text("Určitě zrušit pořadová čísla psů?"),
+                                   MessageAnswer::Yes);
+            QTest::keyClick(window.focusWidget(), Qt::Key_Space);
+            EXPECT_EQ(window.focusWidget()->objectName(), u"cmdOK") << button;
+        }
+    });
 }
 
 } // namespace

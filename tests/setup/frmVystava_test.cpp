@@ -17,9 +17,9 @@ class ShowEditorTest : public SetupTest {
     ShowEditorTest() : show(AddShow("Hlavní")) {}
 
     void OpenEditor(const std::function<void(QWidget&)>& inside) {
-        frmVystava window(
-            show, [this](const QString& name) { told = name; }, nullptr);
+        frmVystava window(show, nullptr);
         WhileOpen([&] { OpenModal(window); }, inside);
+        result = window.Result();
     }
     static QLineEdit& Price(QWidget& window, int closing, int slot) {
         return Box(
@@ -49,7 +49,7 @@ class ShowEditorTest : public SetupTest {
     }
 
     int show;
-    QString told;
+    std::optional<QString> result; ///< of the editor opened last
 };
 
 TEST_F(ShowEditorTest, ShowsNullFeesAsZeroWithTheClassesWhenTheKeyIsMissing) {
@@ -204,6 +204,25 @@ TEST_F(ShowEditorTest, AnIniFileThatCannotBeWrittenDoesNotStopTheShow) {
     EXPECT_TRUE(QFileInfo(IniPath()).isDir());
 }
 
+TEST_F(ShowEditorTest, AChoiceThatCannotBeStoredIsSaidOnceAndTheShowIsStored) {
+    ASSERT_TRUE(QDir().mkpath(IniPath()));
+    OpenEditor([&](QWidget& window) {
+        Box(window, "txtName").setText(Text("Krajská"));
+        Tick(window, "chkRozliseni").click();
+        platform.ExpectMessage(
+            Text("Výstava je uložena, ale volbu „Rozlišovat ceny podle tříd“ se nepodařilo zapsat "
+                 "do souboru ") +
+                IniPath() +
+                Text(". Zkontrolujte, zda do složky programu smíte zapisovat a zda na disku zbývá "
+                     "místo."),
+            MessageAnswer::Ok, MessageIcon::Exclamation, MessageButtons::Ok, Text("Výstava"));
+        Press(window, "cmdOK");
+        EXPECT_FALSE(window.isVisible());
+    });
+    EXPECT_EQ(One("SELECT Nazev FROM Vystavy"), "Krajská");
+    EXPECT_EQ(result, u"Krajská");
+}
+
 TEST_F(ShowEditorTest, AnEmptyNameIsRefusedAndBlanksPass) {
     OpenEditor([&](QWidget& window) {
         Box(window, "txtName").clear();
@@ -217,7 +236,7 @@ TEST_F(ShowEditorTest, AnEmptyNameIsRefusedAndBlanksPass) {
         EXPECT_FALSE(window.isVisible());
     });
     EXPECT_EQ(One("SELECT Nazev FROM Vystavy"), "");
-    EXPECT_EQ(told, u"");
+    EXPECT_EQ(result, u"");
 }
 
 TEST_F(ShowEditorTest, TwoShowsMayGetOneName) {
@@ -227,7 +246,7 @@ TEST_F(ShowEditorTest, TwoShowsMayGetOneName) {
         Press(window, "cmdOK");
     });
     EXPECT_EQ(Column("SELECT Nazev FROM Vystavy"), (Texts{"Krajská", "Krajská"}));
-    EXPECT_EQ(told, u"Krajská");
+    EXPECT_EQ(result, u"Krajská");
 }
 
 TEST_F(ShowEditorTest, AnEmptiedBoxMeansZero) {

@@ -5,6 +5,7 @@
 #include "setup/setup_fixture.h"
 
 #include <QFile>
+#include <set>
 
 namespace lorvo::test {
 namespace {
@@ -93,6 +94,21 @@ TEST_F(WizardTest, ShowsTheBreedsUntickedInTwoColumnsAndClearsTheFlags) {
     EXPECT_FALSE(Module().BreedsDirty);
     EXPECT_FALSE(Module().BreedListChanged);
     EXPECT_EQ(Module().JumpToBreed, 0);
+}
+
+TEST_F(WizardTest, TheTextStandsAtTheTopOfEachPage) {
+    Open<frmWizard>([&](QWidget& window) {
+        std::set<int> places;
+        for (int page = 0; page < 5; ++page) {
+            QCoreApplication::processEvents();
+            auto& text = Control<QLabel>(window, ("lblText(" + std::to_string(page) + ")").c_str());
+            ASSERT_TRUE(text.isVisible()) << page;
+            places.insert(text.mapTo(&window, QPoint()).y());
+            if (page < 4)
+                Press(window, "cmdFwd");
+        }
+        EXPECT_EQ(places.size(), 1u);
+    });
 }
 
 TEST_F(WizardTest, FinishingStoresNothing) {

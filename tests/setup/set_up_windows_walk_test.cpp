@@ -44,16 +44,14 @@ TEST_F(SetUpWindowsTest, Lists) {
 TEST_F(SetUpWindowsTest, Dialogs) {
     Walk<frmCisteniDB>();
     Walk<frmNazevKruhu>();
-    Walk<frmSoutez>();
-    const auto ignore = [](const QString&) {
-    };
-    frmNovePlemeno naming(ignore, nullptr);
+    frmSoutez competition(0, nullptr);
+    WalkPlain(competition);
+    frmNovePlemeno naming(AddBreed("Pudl"), nullptr);
     WalkPlain(naming);
 }
 
 TEST_F(SetUpWindowsTest, BothGridsOfTheShow) {
-    frmVystava show(
-        AddShow("Hlavní"), [](const QString&) {}, nullptr);
+    frmVystava show(AddShow("Hlavní"), nullptr);
     WhileOpen([&] { OpenModal(show); },
               [](QWidget& window) {
                   WalkWindow(window);

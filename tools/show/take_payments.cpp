@@ -86,8 +86,9 @@ void TakePayments(const ShowSize& size, const ShowSetUp& setUp,
         payment.Mena = currency.ID;
         payment.Kurs = currency.Kurs;
         payment.Kc = payment.Castka * currency.Kurs;
-        payment.Uhrada = dice.Below(kWaysOfPayment);
-        payment.Ucet = AnyAccount(payment.Uhrada, dice);
+        const int way = dice.Below(kWaysOfPayment);
+        payment.Uhrada = way;
+        payment.Ucet = AnyAccount(way, dice);
         const int ID = InsertPayment(payment);
         if (dice.Chance(kPrintedPercent))
             SetPaymentPrinted(ID, true);

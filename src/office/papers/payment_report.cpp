@@ -5,6 +5,7 @@
 #include "office/papers/document_typing.h"
 #include "office/papers/row_filler.h"
 #include "office/papers/run_progress.h"
+#include "office/payments/payment_lookups.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "store/uhrady.h"
@@ -22,15 +23,15 @@ QString DateOf(const PaymentRow& payment) {
 }
 
 QString ModeOf(const PaymentRow& payment) {
-    const auto& modes = Module().PaymentModes;
-    if (payment.Uhrada < 0 || payment.Uhrada >= static_cast<int>(modes.size()))
-        throw RangeError(QStringLiteral("Platba za psa „%1“ má způsob úhrady %2, ale způsoby jsou "
-                                        "jen 0 až %3.")
-                             .arg(payment.Jmeno)
-                             .arg(payment.Uhrada)
-                             .arg(modes.size() - 1)
-                             .toStdString());
-    return modes[static_cast<std::size_t>(payment.Uhrada)];
+    if (const QString* mode = FindPaymentMode(payment.Uhrada))
+        return *mode;
+    const QString dog = QStringLiteral("Platba za psa „") + payment.Jmeno;
+    const QString found =
+        payment.Uhrada ? QStringLiteral("“ má způsob úhrady %1, ale způsoby jsou jen 0 až %2.")
+                             .arg(*payment.Uhrada)
+                             .arg(Module().PaymentModes.size() - 1)
+                       : QStringLiteral("“ nemá uveden způsob úhrady.");
+    throw RangeError((dog + found).toStdString());
 }
 
 /// A column of the report, alike on both routes.

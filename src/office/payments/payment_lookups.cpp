@@ -15,11 +15,19 @@ Psi CurrentDog() {
     throw StoreError("V tabulce Psi není řádek s číslem " + std::to_string(dogID) + '.');
 }
 
-const QString& PaymentModeText(int uhrada) {
+const QString* FindPaymentMode(std::optional<int> uhrada) {
     const auto& modes = Module().PaymentModes;
-    if (uhrada < 0 || uhrada >= static_cast<int>(modes.size()))
-        throw StoreError("Tabulka Uhrady: neznámý způsob úhrady " + std::to_string(uhrada) + '.');
-    return modes[static_cast<size_t>(uhrada)];
+    if (!uhrada || *uhrada < 0 || *uhrada >= static_cast<int>(modes.size()))
+        return nullptr;
+    return &modes[static_cast<size_t>(*uhrada)];
+}
+
+const QString& PaymentModeText(std::optional<int> uhrada) {
+    if (const QString* mode = FindPaymentMode(uhrada))
+        return *mode;
+    if (!uhrada)
+        throw StoreError("Tabulka Uhrady: platba nemá uveden způsob úhrady.");
+    throw StoreError("Tabulka Uhrady: neznámý způsob úhrady " + std::to_string(*uhrada) + '.');
 }
 
 CurrencyAbbreviations::CurrencyAbbreviations() {

@@ -4,6 +4,7 @@
 #include "store/psi.h"
 
 #include <QString>
+#include <optional>
 #include <unordered_map>
 
 namespace lorvo {
@@ -11,8 +12,10 @@ namespace lorvo {
 /// The dog under work. StoreError when its row is gone.
 Psi CurrentDog();
 
-/// The word for a way of payment. StoreError for a number that stands for none.
-const QString& PaymentModeText(int uhrada);
+/// The word for a way of payment; null for a number that stands for none and for no number at all.
+const QString* FindPaymentMode(std::optional<int> uhrada);
+/// The same. StoreError where there is none.
+const QString& PaymentModeText(std::optional<int> uhrada);
 
 /// Zkratka of every currency, read at once.
 class CurrencyAbbreviations {
