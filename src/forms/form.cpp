@@ -1,7 +1,7 @@
 #include "forms/form.h"
 
 #include "forms/form_settings.h"
-#include "forms/report_list.h"
+#include "forms/label_edit_delegate.h"
 #include "platform/failure_guard.h"
 
 #include <QLayout>
@@ -75,8 +75,7 @@ void Form::done(int result) {
         if (unloaded_)
             return QDialog::done(result);
         // An edit in place ends by loss of focus, which a window closed by its frame wouldn't see.
-        for (ReportList* list : findChildren<ReportList*>())
-            list->EndLabelEdit();
+        EndLabelEdits(*this);
         if (!QueryUnload())
             return;
         unloaded_ = true;

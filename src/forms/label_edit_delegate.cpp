@@ -2,6 +2,8 @@
 
 #include "platform/failure_guard.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
 #include <QTreeView>
@@ -13,12 +15,58 @@ namespace lorvo {
 namespace {
 constexpr int kRowAir = 5;        ///< pixels that a row is higher than its text
 constexpr int kLongestText = 255; ///< as much as a text field of the store takes
+/// Lives as long as the editor.
+class EditWatch : public QObject {
+  public:
+    EditWatch(LabelEditDelegate& delegate, const QTreeView& view, QLineEdit& editor)
+        : QObject(&editor), delegate_(delegate), view_(view), editor_(editor) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return GuardedAnswer(false, [&] {
+            if (!ActsElsewhere(*watched, *event))
+                return false;
+            // The press that moves the keyboard has ended the edit before it comes here.
+            if (delegate_.Editor() == &editor_)
+                delegate_.EndEdit();
+            return delegate_.IsRefused();
+        });
+    }
+
+  private:
+    bool ActsElsewhere(QObject& watched, const QEvent& event) const {
+        if (event.type() == QEvent::Shortcut)
+            return view_.isActiveWindow();
+        const auto* widget = qobject_cast<const QWidget*>(&watched);
+        return event.type() == QEvent::MouseButtonPress && widget &&
+               widget->window() == view_.window() && widget != &editor_ &&
+               !editor_.isAncestorOf(widget);
+    }
+
+    LabelEditDelegate& delegate_;
+    const QTreeView& view_;
+    QLineEdit& editor_;
+};
+
 } // namespace
 
 LabelEditDelegate::LabelEditDelegate(QTreeView& view) : QStyledItemDelegate(&view), view_(view) {}
 
-std::optional<LabelEditDelegate::Edited> LabelEditDelegate::TakeEdited() {
-    return std::exchange(edited_, std::nullopt);
+LabelEditDelegate::Edited LabelEditDelegate::TakeEdited() {
+    editor_ = nullptr;
+    refused_ = false;
+    return std::exchange(edited_, {});
+}
+
+bool LabelEditDelegate::EndEdit() {
+    QLineEdit* editor = editor_;
+    if (!editor)
+        return true;
+    Q_EMIT commitData(editor);
+    Q_EMIT closeEditor(editor, NoHint);
+    RethrowFailure();
+    return !refused_;
 }
 
 QWidget* LabelEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
@@ -31,6 +79,8 @@ QWidget* LabelEditDelegate::createEditor(QWidget* parent, const QStyleOptionView
         editor_->setFrame(false);
         editor_->setMaxLength(kLongestText);
         editor_->setAutoFillBackground(true);
+        edited_ = {index, {}};
+        new EditWatch(const_cast<LabelEditDelegate&>(*this), view_, *editor_);
         return editor_;
     });
 }
@@ -40,7 +90,7 @@ void LabelEditDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
     Guarded([&] {
         const auto* box = static_cast<QLineEdit*>(editor);
         if (box->isModified() || untouchedEdits)
-            edited_ = Edited{index, box->text()};
+            edited_ = {index, box->text()};
     });
 }
 
@@ -48,6 +98,12 @@ QSize LabelEditDelegate::sizeHint(const QStyleOptionViewItem& option,
                                   const QModelIndex& index) const {
     const QSize size = QStyledItemDelegate::sizeHint(option, index);
     return {size.width(), std::max(size.height(), option.fontMetrics.height() + kRowAir)};
+}
+
+void EndLabelEdits(QWidget& window) {
+    for (const QTreeView* view : window.findChildren<QTreeView*>())
+        if (auto* delegate = dynamic_cast<LabelEditDelegate*>(view->itemDelegate()))
+            delegate->EndEdit();
 }
 
 void PaintGridLines(QPainter& painter, const QTreeView& view, const QRect& row) {

@@ -15,6 +15,10 @@ namespace lorvo {
 
 /// Gives rows some air, opens the in-place editor, and keeps what it committed until the view has
 /// closed it: only then may a handler show message boxes or take the row away.
+///
+/// While the editor is open, a click or an access key elsewhere in the window ends the edit first,
+/// also where the keyboard stays; when the view refuses what was typed, the click does nothing
+/// else.
 class LabelEditDelegate : public QStyledItemDelegate {
   public:
     explicit LabelEditDelegate(QTreeView& view);
@@ -25,11 +29,18 @@ class LabelEditDelegate : public QStyledItemDelegate {
     bool untouchedEdits = true;
 
     struct Edited {
-        QPersistentModelIndex index;
-        QString text;
+        QPersistentModelIndex index; ///< invalid when no edit has ended
+        std::optional<QString> text; ///< nullopt when the edit was given up
     };
-    /// What the edit that has just ended committed; nullopt when it was given up.
-    std::optional<Edited> TakeEdited();
+    /// The edit that has just ended; for the view, which has closed its editor.
+    Edited TakeEdited();
+    /// What became of it: whether the view refused the text.
+    void SetRefused(bool refused) { refused_ = refused; }
+    bool IsRefused() const { return refused_; }
+
+    /// Ends the edit that goes on as loss of focus does; nothing when none does. False when the
+    /// view refused the text.
+    bool EndEdit();
     /// Null when no edit goes on.
     QLineEdit* Editor() const { return editor_; }
 
@@ -43,8 +54,12 @@ class LabelEditDelegate : public QStyledItemDelegate {
     QTreeView& view_;
     // The toolkit's editing calls are const.
     mutable QPointer<QLineEdit> editor_;
-    mutable std::optional<Edited> edited_;
+    mutable Edited edited_;
+    bool refused_ = false;
 };
+
+/// Ends the edits in place that go on in the window's lists and trees.
+void EndLabelEdits(QWidget& window);
 
 /// The lines below and between the cells of a row, which lies at `row` of the view.
 void PaintGridLines(QPainter& painter, const QTreeView& view, const QRect& row);

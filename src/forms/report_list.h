@@ -85,7 +85,6 @@ class ReportList : public QTreeView {
     /// Whether an edit in which nothing was typed counts as one, as it does unless told otherwise.
     void SetUntouchedEdits(bool count);
     void StartLabelEdit(int position);
-    void EndLabelEdit(); ///< as by loss of focus; nothing when no edit goes on
 
     /// Brings the row in sight, through scrolling areas that the list itself lies in too.
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -104,6 +103,8 @@ class ReportList : public QTreeView {
     /// In-place editing ended with Enter or loss of focus; the list still shows the old text. Set
     /// *cancel to keep it.
     void AfterLabelEdit(int position, const QString& text, bool* cancel);
+    /// In-place editing ended with Esc, or without a change where that counts as none.
+    void LabelEditGivenUp(int position);
 
   protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;

@@ -38,15 +38,6 @@ void ReportList::StartLabelEdit(int position) {
     model_->editable = allowed;
 }
 
-void ReportList::EndLabelEdit() {
-    QLineEdit* editor = delegate_->Editor();
-    if (state() != EditingState || !editor)
-        return;
-    commitData(editor);
-    closeEditor(editor, QAbstractItemDelegate::NoHint);
-    RethrowFailure();
-}
-
 bool ReportList::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     return GuardedAnswer(false, [&]() -> bool {
         // F2 renames the row wherever in it the keyboard stands.
@@ -59,8 +50,11 @@ void ReportList::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint
     Guarded([&] {
         // Tab ends an edit as any loss of focus does and opens no other row.
         QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-        if (const auto edited = delegate_->TakeEdited())
-            DeliverEditedText(edited->index, edited->text);
+        const LabelEditDelegate::Edited edited = delegate_->TakeEdited();
+        if (edited.text && edited.index.isValid())
+            DeliverEditedText(edited.index, *edited.text);
+        else if (edited.index.isValid())
+            Q_EMIT LabelEditGivenUp(edited.index.row());
     });
 }
 
@@ -68,6 +62,7 @@ void ReportList::DeliverEditedText(const QPersistentModelIndex& row, const QStri
     bool cancel = false;
     Q_EMIT AfterLabelEdit(row.row(), text, &cancel);
     RethrowFailure();
+    delegate_->SetRefused(cancel);
     if (!cancel && row.isValid())
         SetCell(row.row(), 0, text);
 }

@@ -96,8 +96,13 @@ void BreedTree::contextMenuEvent(QContextMenuEvent* event) {
 void BreedTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
     Guarded([&] {
         QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-        if (const auto edited = delegate_->TakeEdited(); edited && edited->index.isValid())
-            Q_EMIT AfterLabelEdit(model_->NodeAt(edited->index), edited->text);
+        const LabelEditDelegate::Edited edited = delegate_->TakeEdited();
+        if (!edited.text || !edited.index.isValid())
+            return;
+        bool cancel = false;
+        Q_EMIT AfterLabelEdit(model_->NodeAt(edited.index), *edited.text, &cancel);
+        RethrowFailure();
+        delegate_->SetRefused(cancel);
     });
 }
 

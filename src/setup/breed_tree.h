@@ -29,8 +29,9 @@ class BreedTree : public QTreeView {
     void RightClick();
     /// Editing in place begins; set *cancel to keep it from starting.
     void BeforeLabelEdit(lorvo::BreedNode* node, bool* cancel);
-    /// Editing in place ended with a text that was typed; the node still shows its old one.
-    void AfterLabelEdit(lorvo::BreedNode* node, const QString& text);
+    /// Editing in place ended with a text that was typed; the node still shows its old one. *cancel
+    /// tells that the text is refused.
+    void AfterLabelEdit(lorvo::BreedNode* node, const QString& text, bool* cancel);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -56,6 +56,7 @@ CodeListForm::CodeListForm(const CodeListTexts& texts, CodeListStore store, QWid
             &CodeListForm::RemoveEntry);
     Connect(list_, &ReportList::DeletePressed, this, &CodeListForm::RemoveEntry);
     Connect(list_, &ReportList::AfterLabelEdit, this, &CodeListForm::StoreEntry);
+    Connect(list_, &ReportList::LabelEditGivenUp, this, &CodeListForm::GiveUpEntry);
 }
 
 void CodeListForm::Load() {
@@ -90,6 +91,11 @@ void CodeListForm::StoreEntry(int position, const QString& text, bool* cancel) {
         list_->SetKey(position, u"C"_s + QString::number(store_.insert(text)));
     else
         store_.rename(key.mid(1).toInt(), text);
+}
+
+void CodeListForm::GiveUpEntry(int position) {
+    if (list_->Row(position).key == kNewKey)
+        list_->RemoveRowAt(position);
 }
 
 void CodeListForm::RefuseDuplicate(int position, bool* cancel) {

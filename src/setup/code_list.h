@@ -57,6 +57,8 @@ class CodeListForm : public Form {
     void EditEntry();
     void RemoveEntry();
     void StoreEntry(int position, const QString& text, bool* cancel);
+    /// A row that isn't stored yet goes with its edit.
+    void GiveUpEntry(int position);
     void RefuseDuplicate(int position, bool* cancel);
     int SelectedID() const;
 

@@ -41,7 +41,9 @@ fm_Plemena::fm_Plemena(QWidget* parent)
     Connect(tvwPlemena, &BreedTree::BeforeLabelEdit, this,
             [this](BreedNode* node, bool* cancel) { RefuseBaseBreed(*node, cancel); });
     Connect(tvwPlemena, &BreedTree::AfterLabelEdit, this,
-            [this](BreedNode* node, const QString& text) { StoreTitle(*node, text); });
+            [this](BreedNode* node, const QString& text, bool* cancel) {
+                StoreTitle(*node, text, cancel);
+            });
 }
 
 void fm_Plemena::BuildControls() {
@@ -195,11 +197,11 @@ void fm_Plemena::RefuseBaseBreed(const BreedNode& node, bool* cancel) {
     Inform(u"Toto plemeno nelze přejmenovat, název je převzat z FCI."_s);
 }
 
-void fm_Plemena::StoreTitle(BreedNode& node, const QString& text) {
-    if (text.isEmpty())
-        return Refuse(u"Název musí být zadán!"_s);
-    if (CountBreedsNamed(text) > 0)
-        return Refuse(u"Tento název plemene již existuje!"_s);
+void fm_Plemena::StoreTitle(BreedNode& node, const QString& text, bool* cancel) {
+    *cancel = text.isEmpty() || CountBreedsNamed(text) > 0;
+    if (*cancel)
+        return Refuse(text.isEmpty() ? u"Název musí být zadán!"_s
+                                     : u"Tento název plemene již existuje!"_s);
     RenameBreed(node.ID, text);
     tvwPlemena->Model().SetCell(node, kBreedName, text);
     Module().BreedsDirty = true;

@@ -39,7 +39,7 @@ class fm_Plemena : public Form {
 
     // Editing in place.
     void RefuseBaseBreed(const BreedNode& node, bool* cancel);
-    void StoreTitle(BreedNode& node, const QString& text);
+    void StoreTitle(BreedNode& node, const QString& text, bool* cancel);
 
     // The menu on a node; the number chosen carries its argument.
     void ShowMenu();

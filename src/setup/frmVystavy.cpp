@@ -73,10 +73,19 @@ void frmVystavy::Rename(int position, const QString& text, bool* cancel) {
         // The row itself counts too: a name in other capitals is refused as well.
         Refuse(u"Výstava s tímto názvem již existuje!"_s);
         *cancel = true;
-        lvwList->StartLabelEdit(lvwList->FindRow(key));
+        EditAgain(key);
     } else {
         RenameShow(lvwList->Row(position).tag.toInt(), text);
     }
+}
+
+// Not before the click that has ended the edit is over.
+void frmVystavy::EditAgain(const QString& key) {
+    Later(lvwList, [this, key] {
+        const int row = lvwList->FindRow(key);
+        if (row >= 0 && lvwList->isVisible())
+            lvwList->StartLabelEdit(row);
+    });
 }
 
 void frmVystavy::EditSelectedShow() {

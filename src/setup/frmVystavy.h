@@ -22,6 +22,7 @@ class frmVystavy : public Form {
     void EditSelectedShow();
     void DeleteSelectedShow();
     void Rename(int position, const QString& text, bool* cancel);
+    void EditAgain(const QString& key);
     void Refuse(const QString& text) const;
 
     CommandCollection* commands_;

@@ -184,7 +184,7 @@ TEST_F(ReportListTest, ACancelledCommitKeepsTheOldTextAndMayTakeTheRowAway) {
                      });
     list.StartLabelEdit(2);
     Editor()->setText(QStringLiteral("Cit"));
-    list.EndLabelEdit();
+    list.setFocus();
     EXPECT_EQ(list.RowCount(), 2);
     EXPECT_EQ(list.FindText(QStringLiteral("Cit")), -1);
 }
