@@ -4,6 +4,7 @@
 #include "forms/label_edit_delegate.h"
 #include "platform/failure_guard.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <algorithm>
@@ -52,15 +53,35 @@ void BreedTree::FollowGridPreference() {
 
 void BreedTree::keyPressEvent(QKeyEvent* event) {
     Guarded([&] {
-        const QString text = event->text().toLower();
-        if (event->key() == Qt::Key_Delete)
+        switch (event->key()) {
+        case Qt::Key_Delete:
             Q_EMIT DeletePressed();
-        else if (text.size() == 1 && kJumpLetters.contains(text.front()) &&
-                 !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
-            JumpToLetter(text.front());
-        else
-            QTreeView::keyPressEvent(event);
+            break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            // As a double click does; the default button of a window isn't meant here.
+            setExpanded(currentIndex(), !isExpanded(currentIndex()));
+            break;
+        default:
+            if (!IsTyped(*event))
+                QTreeView::keyPressEvent(event);
+        }
     });
+}
+
+// The blank within a name that is being typed is no tick; a blank of its own is.
+bool BreedTree::IsTyped(const QKeyEvent& event) {
+    const QString text = event.text().toLower();
+    const bool plain = !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    const bool letter = plain && text.size() == 1 && kJumpLetters.contains(text.front());
+    const bool blank = event.key() == Qt::Key_Space && lastTyped_.isValid() &&
+                       !lastTyped_.hasExpired(QApplication::keyboardInputInterval());
+    if (!letter && !blank)
+        return false;
+    lastTyped_.start();
+    if (letter)
+        JumpToLetter(text.front());
+    return true;
 }
 
 void BreedTree::JumpToLetter(QChar letter) {

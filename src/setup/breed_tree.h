@@ -3,6 +3,7 @@
 
 #include "setup/breed_tree_model.h"
 
+#include <QElapsedTimer>
 #include <QTreeView>
 
 namespace lorvo {
@@ -44,11 +45,14 @@ class BreedTree : public QTreeView {
                  const QModelIndex& index) const override;
 
   private:
+    /// Takes a key that belongs to a name being typed.
+    bool IsTyped(const QKeyEvent& event);
     void JumpToLetter(QChar letter);
 
     BreedTreeModel* model_;
     LabelEditDelegate* delegate_;
     bool gridLines_ = false;
+    QElapsedTimer lastTyped_; ///< runs from the last key of a name
 };
 
 } // namespace lorvo

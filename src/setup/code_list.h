@@ -3,6 +3,7 @@
 // in the store's routines alone.
 
 #include "forms/form.h"
+#include "setup/code_list_texts.h"
 
 #include <functional>
 #include <vector>
@@ -13,23 +14,18 @@ namespace lorvo {
 
 class ReportList;
 
-/// What sets one code list apart.
-struct CodeListTexts {
-    const char* window;
-    const char* list;
-    const char* toolBar;
-    QStringView caption;
-    QStringView usedHeading;
-    QStringView newName;
-    QStringView duplicate;
-    QStringView deleteQuestion;
-    QStringView inUse; ///< with %1 for the count
-};
-
 struct CodeListRow {
     int ID = 0;
     QString Nazev;
 };
+
+/// The rows of a table that has an ID and a Nazev.
+template<class Table> std::vector<CodeListRow> CodeListRows(const std::vector<Table>& table) {
+    std::vector<CodeListRow> rows;
+    for (const Table& row : table)
+        rows.push_back({row.ID, row.Nazev});
+    return rows;
+}
 
 struct CodeListStore {
     std::function<std::vector<CodeListRow>()> rows;

@@ -234,7 +234,7 @@ void fm_Plemena::CarryOutMenu(BreedNode& node, int number) {
 void fm_Plemena::AssignFci(BreedNode& node, int fci) {
     Module().BreedListChanged = true;
     SetBreedFci(node.ID, fci);
-    // Offices know it so: taking a group away writes its word into the column "Používat" and leaves
+    // Meant so: taking a group away writes its word into the column "Používat" and leaves
     // the old number standing until the tree is read again.
     if (fci == 0)
         tvwPlemena->Model().SetCell(node, kBreedUsed, FciText(0));
