@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "office/payments/conversion.h"
 #include "office/payments/payment_lookups.h"
 #include "payments/auto_complete_box.h"
 #include "payments/price_box.h"
@@ -125,7 +126,7 @@ Meny frmPlatba::ChosenCurrency() const {
 void frmPlatba::ShowConverted() {
     try {
         lblPrepocteno->setText(
-            AmountText(ChosenCurrency().Kurs * AmountFromText(txtCastka->text())));
+            AmountText(InMainCurrency(AmountFromText(txtCastka->text()), ChosenCurrency())));
     } catch (const RangeError&) {
         lblPrepocteno->setText(kNothingConverted);
     }
@@ -157,17 +158,13 @@ void frmPlatba::Store() {
 }
 
 Uhrady frmPlatba::Payment() const {
-    const Meny currency = ChosenCurrency();
     Uhrady payment;
     // The moment of the entry puts payments of one day in their order.
     payment.Datum =
         PickedDate(*dtPrijata).WithSecondOfDay(ThePlatform().clock->Now().SecondOfDay());
-    payment.Castka = AmountFromText(txtCastka->text());
-    payment.Mena = currency.ID;
+    SetPaid(payment, AmountFromText(txtCastka->text()), ChosenCurrency());
     payment.Uhrada = cmbZpusob->currentIndex();
     payment.ID_Psa = Module().CurrentDogID;
-    payment.Kc = currency.Kurs * payment.Castka;
-    payment.Kurs = currency.Kurs;
     payment.Ucet = acUcet->text();
     return payment;
 }

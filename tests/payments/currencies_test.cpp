@@ -257,7 +257,7 @@ TEST_F(CurrenciesTest, ARateOutOfRangeIsRefusedByName) {
         FillIn(editor, "Koruna", "Kč", "99999999999999999999");
         EXPECT_TRUE(CanStore(editor));
         platform.ExpectMessage(
-            Text("Kurs: Částka 99999999999999999999 je mimo rozsah, který lze uložit."));
+            Text("Kurs: Číslo 99999999999999999999 je mimo rozsah, který lze uložit."));
         Press(editor, "cmdOK");
         EXPECT_TRUE(editor.isVisible());
     });

@@ -177,7 +177,7 @@ TEST_F(PaymentEntryTest, AnAmountTooLargeIsRefusedByName) {
         const QString digits(40, u'9');
         Amount(window).setText(digits);
         platform.ExpectMessage(
-            Text("Částka: Částka ") + digits + Text(" je mimo rozsah, který lze uložit."),
+            Text("Částka: Číslo ") + digits + Text(" je mimo rozsah, který lze uložit."),
             MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok, window.windowTitle());
         Press(window, "cmdOK");
         EXPECT_TRUE(window.isVisible());
@@ -194,7 +194,7 @@ TEST_F(PaymentEntryTest, AnAmountTooLargeOnlyWhenConvertedIsRefusedToo) {
         Amount(window).setText(Text("99999"));
         EXPECT_EQ(Converted(window), "...");
         platform.ExpectMessage(
-            Text("Částka: Částka 900000000000 × 99999 je mimo rozsah, který lze uložit."));
+            Text("Částka: Číslo 900000000000 × 99999 je mimo rozsah, který lze uložit."));
         Press(window, "cmdOK");
         EXPECT_TRUE(window.isVisible());
     });

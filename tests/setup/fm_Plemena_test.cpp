@@ -4,6 +4,7 @@
 #include "setup/breed_tree.h"
 #include "setup/setup_fixture.h"
 
+#include <QApplication>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -434,6 +435,23 @@ TEST_F(BreedRegisterTest, ALetterJumpsToTheNextBreedOfThatInitial) {
         QTest::keyClick(&Tree(), '7');
         EXPECT_EQ(Selected(), vipet);
     });
+}
+
+TEST_F(BreedRegisterTest, ABlankWithinATypedNameTicksNothingAndOneOfItsOwnDoes) {
+    const int jack = AddBreed("Jack Russell terier");
+    const int usual = QApplication::keyboardInputInterval();
+    OpenRegister([&](QWidget&) {
+        QApplication::setKeyboardInputInterval(60'000);
+        QTest::keyClicks(&Tree(), QStringLiteral("jack "));
+        EXPECT_EQ(Selected(), jack);
+        EXPECT_FALSE(Node(jack).checked);
+        QApplication::setKeyboardInputInterval(1);
+        QTest::qWait(5);
+        Key(Qt::Key_Space);
+        EXPECT_TRUE(Node(jack).checked);
+    });
+    QApplication::setKeyboardInputInterval(usual);
+    EXPECT_EQ(Field("Pouzivat", jack), "-1");
 }
 
 TEST_F(BreedRegisterTest, EscapeCloses) {

@@ -111,6 +111,22 @@ TEST_F(WizardTest, TheTextStandsAtTheTopOfEachPage) {
     });
 }
 
+TEST_F(WizardTest, EnterOnABreedOpensItAndFinishesNothing) {
+    const int pudl = AddBreed("Pudl");
+    AddBreed("Hnědý", {{"Parent", pudl}});
+    Open<frmWizard>([&](QWidget& window) {
+        for (int page = 0; page < 4; ++page)
+            Press(window, "cmdFwd");
+        auto& breeds = Control<BreedTree>(window, "tvwWizardPlemena");
+        breeds.SelectNode(*breeds.Model().Find(pudl));
+        for (const bool expanded : {true, false}) {
+            QTest::keyClick(&breeds, Qt::Key_Return);
+            EXPECT_EQ(breeds.isExpanded(breeds.currentIndex()), expanded);
+            EXPECT_TRUE(window.isVisible());
+        }
+    });
+}
+
 TEST_F(WizardTest, FinishingStoresNothing) {
     const int pudl = AddBreed("Pudl");
     AddShow("Krajská");

@@ -1,5 +1,6 @@
 // Payments: most dogs are paid in full, some in part, some too much, some not at all.
 
+#include "office/payments/conversion.h"
 #include "show/show_parts.h"
 #include "store/souteze.h"
 #include "store/uhrady.h"
@@ -82,10 +83,7 @@ void TakePayments(const ShowSize& size, const ShowSetUp& setUp,
         Uhrady payment;
         payment.ID_Psa = dog.ID;
         payment.Datum = AnyMoment(setUp.day, dice);
-        payment.Castka = InCurrency(AnyAmount(prices.OwedFor(dog), dice), currency);
-        payment.Mena = currency.ID;
-        payment.Kurs = currency.Kurs;
-        payment.Kc = payment.Castka * currency.Kurs;
+        SetPaid(payment, InCurrency(AnyAmount(prices.OwedFor(dog), dice), currency), currency);
         const int way = dice.Below(kWaysOfPayment);
         payment.Uhrada = way;
         payment.Ucet = AnyAccount(way, dice);

@@ -10,7 +10,7 @@ namespace {
 constexpr int kDecimals = 4;
 
 [[noreturn]] void RaiseTooLarge(const std::string& what) {
-    throw RangeError("Částka " + what + " je mimo rozsah, který lze uložit.");
+    throw RangeError("Číslo " + what + " je mimo rozsah, který lze uložit.");
 }
 
 [[noreturn]] void RaiseNotNumber(std::string_view text) {

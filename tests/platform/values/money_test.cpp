@@ -85,7 +85,7 @@ TEST(Money, RefusesToWrapAround) {
     EXPECT_THROW(smallest * Currency::FromUnits(-1), RangeError);
     EXPECT_EQ(smallest * Currency::FromUnits(1), smallest);
     EXPECT_EQ(RangeErrorText([&] { largest + least; }),
-              "Částka 922337203685477,5807 + 0,0001 je mimo rozsah, který lze uložit.");
+              "Číslo 922337203685477,5807 + 0,0001 je mimo rozsah, který lze uložit.");
 }
 
 TEST(Money, AFailedSumLeavesTheAmountAsItWas) {
