@@ -19,6 +19,7 @@
 #include <QEvent>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -66,15 +67,15 @@ void ReadMainCurrency() {
 
 fm_Settings::fm_Settings(QWidget* parent)
     : Form("fm_Settings", u"Nastavení"_s, Border::Fixed, parent) {
-    auto* pages = Named(new QTabWidget(this), u"XTab"_s);
-    pages->addTab(MakeSystemPage(), u" Systém "_s);
-    pages->addTab(currencies_ = new CurrencyList(pages), u" Měny "_s);
-    pages->addTab(MakeLookPage(), u" Vzhled "_s);
+    XTab = Named(new QTabWidget(this), u"XTab"_s);
+    XTab->addTab(MakeSystemPage(), u" Systém "_s);
+    XTab->addTab(currencies_ = new CurrencyList(XTab), u" Měny "_s);
+    XTab->addTab(MakeLookPage(), u" Vzhled "_s);
 
     cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(pages);
+    column->addWidget(XTab);
     column->addLayout(ButtonRow({cmdOK, cmdCancel}));
 
     Connect(cmdOK, &QPushButton::clicked, this, &fm_Settings::Store);
@@ -176,6 +177,13 @@ QWidget* fm_Settings::MakeLookPage() {
     pageColumn->addWidget(frame);
     pageColumn->addStretch();
     return page;
+}
+
+// Only in the window's own font is it known which page is the highest; without this the window
+// would follow the page on top.
+void fm_Settings::Load() {
+    XTab->setMinimumHeight(
+        std::max(XTab->sizeHint().height(), XTab->heightForWidth(XTab->sizeHint().width())));
 }
 
 void fm_Settings::Activated() {

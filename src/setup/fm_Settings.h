@@ -6,6 +6,7 @@
 class QCheckBox;
 class QDateEdit;
 class QPushButton;
+class QTabWidget;
 
 namespace lorvo {
 
@@ -17,6 +18,9 @@ class fm_Settings : public Form {
     explicit fm_Settings(QWidget* parent);
 
     void Activated() override;
+
+  protected:
+    void Load() override;
 
   private:
     QWidget* MakeSystemPage();
@@ -38,6 +42,7 @@ class fm_Settings : public Form {
     void SetNumbered(bool numbered);
     bool Confirm(const QString& question) const;
 
+    QTabWidget* XTab;
     QDateEdit* dtMeeting;
     QDateEdit* dtPrvniUzaverka;
     QDateEdit* dtDruhaUzaverka;

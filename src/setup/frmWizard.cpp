@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -18,7 +19,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kBreedsHeight = 280;
+constexpr int kBreedsHeight = 320;
+constexpr int kBreedNameWidth = 410;
+
+// How wide the texts are: pixels at least, and letters.
+constexpr int kTextWidth = 520;
+constexpr int kTextLetters = 72;
 
 enum Page { kWelcome, kDate, kShow, kCurrency, kBreeds };
 
@@ -89,6 +95,7 @@ frmWizard::frmWizard(QWidget* parent)
         new BreedTree("tvwWizardPlemena",
                       {{kBreedName, u"Název (Původní název)"_s}, {kBreedFci, u"FCI"_s}}, breeds);
     tvwWizardPlemena->setMinimumHeight(kBreedsHeight);
+    tvwWizardPlemena->setColumnWidth(0, kBreedNameWidth);
     breeds->layout()->addWidget(tvwWizardPlemena);
     breeds->layout()->addWidget(MakeSummary(breeds));
     for (int page = kWelcome; page < kBreeds; ++page)
@@ -100,8 +107,8 @@ QWidget* frmWizard::AddPage(const QString& text) {
     auto* page = Named(new QWidget(pages_), ElementName("picWiz", pages_->count()));
     auto* lblText = Named(new QLabel(text, page), ElementName("lblText", pages_->count()));
     lblText->setWordWrap(true);
-    lblText->setFixedSize(520, 90);
     lblText->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    texts_.push_back(lblText);
     (new QVBoxLayout(page))->addWidget(lblText);
     pages_->addWidget(page);
     return page;
@@ -146,7 +153,18 @@ void frmWizard::BuildButtons() {
     Connect(cmdCancel, &QPushButton::clicked, this, &frmWizard::Quit);
 }
 
+// As high as the longest text asks for in the window's font.
+void frmWizard::SizeTexts() {
+    const int width = std::max(kTextWidth, fontMetrics().averageCharWidth() * kTextLetters);
+    int height = 0;
+    for (const QLabel* text : texts_)
+        height = std::max(height, text->heightForWidth(width));
+    for (QLabel* text : texts_)
+        text->setFixedSize(width, height);
+}
+
 void frmWizard::Load() {
+    SizeTexts();
     SetPickedDate(*dtDatum, DateValue::FromCalendar(2000, 1, 1));
     tvwWizardPlemena->FollowGridPreference();
     Module().BreedsDirty = false;

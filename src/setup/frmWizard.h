@@ -5,6 +5,7 @@
 #include "forms/form.h"
 
 #include <array>
+#include <vector>
 
 class QDateEdit;
 class QLabel;
@@ -30,6 +31,7 @@ class frmWizard : public Form {
     static constexpr int kPages = 5;
 
     void BuildButtons();
+    void SizeTexts();
     QWidget* AddPage(const QString& text);
     QLineEdit* AddBox(QWidget* page, const char* name, const QString& frame, const QString& text);
     QWidget* MakeSummary(QWidget* page);
@@ -40,6 +42,7 @@ class frmWizard : public Form {
 
     int page_ = 0;
     QStackedWidget* pages_;
+    std::vector<QLabel*> texts_; ///< lblText of each page, all of one size
     QLabel* lblTitle;
     QPushButton* cmdBack = nullptr;
     QPushButton* cmdFwd = nullptr;

@@ -6,6 +6,7 @@
 #include "store/vystavy.h"
 
 #include <QTabWidget>
+#include <set>
 
 namespace lorvo::test {
 namespace {
@@ -24,6 +25,20 @@ class SettingsTest : public SetupTest {
         return PickedDate(Picker(window, name));
     }
 };
+
+TEST_F(SettingsTest, KeepsOneSizeForItsPages) {
+    Open<fm_Settings>([&](QWidget& window) {
+        auto& pages = Control<QTabWidget>(window, "XTab");
+        std::set<std::pair<int, int>> sizes;
+        for (const int page : {0, 1, 2, 0}) {
+            pages.setCurrentIndex(page);
+            for (int i = 0; i < 3; ++i)
+                QCoreApplication::processEvents();
+            sizes.emplace(window.width(), window.height());
+        }
+        EXPECT_EQ(sizes.size(), 1u);
+    });
+}
 
 TEST_F(SettingsTest, HasItsPagesAndFrames) {
     OpenSettings([&](QWidget& window) {
