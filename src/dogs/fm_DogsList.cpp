@@ -1,5 +1,6 @@
 #include "dogs/fm_DogsList.h"
 
+#include "app/amount_texts.h"
 #include "app/common_routines.h"
 #include "app/main_window_services.h"
 #include "app/module_values.h"
@@ -18,7 +19,6 @@
 
 #include <QToolBar>
 #include <QVBoxLayout>
-#include <unordered_map>
 
 namespace lorvo {
 
@@ -43,22 +43,12 @@ std::optional<QColor> BalanceColour(Currency balance) {
     return balance.IsNegative() ? kArrearsColour : kOverpaidColour;
 }
 
-/// Amounts as these cells show them: no fixed decimals. A show has few different ones, and all
-/// cells of one amount share its text.
-class Prices {
-  public:
-    const QString& Text(Currency amount) {
-        QString& text = texts_[amount.Raw()];
-        if (text.isNull())
-            text = PlainAmount(amount) + u' ' + Module().MainCurrency;
-        return text;
-    }
+/// An amount as these cells show it: no fixed decimals.
+QString PriceText(Currency amount) {
+    return PlainAmount(amount) + u' ' + Module().MainCurrency;
+}
 
-  private:
-    std::unordered_map<std::int64_t, QString> texts_;
-};
-
-ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures, Prices& prices) {
+ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures, AmountTexts& prices) {
     const QString id = QString::number(dog.IDPsa);
     return {u'P' + id,
             id,
@@ -69,12 +59,12 @@ ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures, Prices& pr
              {dog.Poznamka},
              {figures.shows},
              {dog.PrvniUzaverka ? u"I"_s : u"II"_s},
-             {figures.lastFee ? prices.Text(*figures.lastFee) : QString()},
+             {figures.lastFee ? prices.Of(*figures.lastFee) : QString()},
              {figures.competitions},
-             {prices.Text(figures.competitionFees)},
+             {prices.Of(figures.competitionFees)},
              {figures.awards},
-             {prices.Text(figures.paid)},
-             {prices.Text(figures.Balance()), BalanceColour(figures.Balance())}}};
+             {prices.Of(figures.paid)},
+             {prices.Of(figures.Balance()), BalanceColour(figures.Balance())}}};
 }
 
 std::vector<MenuEntry> AwardsMenu(int psiID) {
@@ -131,7 +121,7 @@ void fm_DogsList::FillList() {
     rows.reserve(dogs.size());
     Currency fees;
     Currency paid;
-    Prices prices;
+    AmountTexts prices(PriceText);
     for (const DogListRow& dog : dogs) {
         const DogListFigures figures = tables.Of(dog);
         fees += figures.fees;

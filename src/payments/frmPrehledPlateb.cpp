@@ -1,5 +1,6 @@
 #include "payments/frmPrehledPlateb.h"
 
+#include "app/amount_texts.h"
 #include "app/common_routines.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
@@ -33,19 +34,26 @@ ReportCell PrintedCell(bool printed) {
     return {printed ? u"Ano"_s : u"Ne"_s, {}, printed ? kPrintedIcon : kNotPrintedIcon};
 }
 
-ReportRow RowOf(const PaymentRow& payment, const CurrencyAbbreviations& currencies) {
+/// What many rows share.
+struct SharedTexts {
+    CurrencyAbbreviations currencies;
+    AmountTexts inMainCurrency{AmountText};
+    AmountTexts paid{PlainAmount};
+};
+
+ReportRow RowOf(const PaymentRow& payment, SharedTexts& texts) {
     const QString id = QString::number(payment.UID);
     return {u"P"_s + id,
             id,
             {{payment.MajX},
              {payment.Jmeno},
              {payment.Datum ? ThePlatform().locale->DateText(*payment.Datum) : QString()},
-             {AmountText(payment.Kc)},
+             {texts.inMainCurrency.Of(payment.Kc)},
              PrintedCell(payment.Printed),
              {PaymentModeText(payment.Uhrada)},
              {payment.Ucet},
-             {PlainAmount(payment.Castka)},
-             {currencies.Of(payment.Mena)}}};
+             {texts.paid.Of(payment.Castka)},
+             {texts.currencies.Of(payment.Mena)}}};
 }
 
 } // namespace
@@ -71,12 +79,12 @@ frmPrehledPlateb::frmPrehledPlateb(QWidget* parent)
 
 void frmPrehledPlateb::Load() {
     const ReadRun run(TheDataModule().Conn1);
-    const CurrencyAbbreviations currencies;
+    SharedTexts texts;
     const std::vector<PaymentRow> payments = PaymentsWithOwners();
     std::vector<ReportRow> rows;
     rows.reserve(payments.size());
     for (const PaymentRow& payment : payments)
-        rows.push_back(RowOf(payment, currencies));
+        rows.push_back(RowOf(payment, texts));
     lvwUhrady->SetRows(std::move(rows));
 }
 

@@ -1,6 +1,8 @@
 #include "platform/real_services.h"
 #include "platform/values/qt_date.h"
 
+#include <array>
+
 namespace lorvo {
 
 namespace {
@@ -21,12 +23,51 @@ QString DatePatternOf(const QLocale& locale) {
 
 // Long lists hold a date in every row, and the toolkit's own patterns take their time.
 
+/// Texts of numbers and signs one behind the other, without a format to be read: lists ask for
+/// tens of thousands of dates.
+class DigitWriter {
+  public:
+    /// With zeros in front up to so many digits.
+    DigitWriter& Number(int value, int digits = 1) {
+        std::array<char, 12> reversed;
+        int count = 0;
+        for (; value > 0 || count < digits; value /= 10)
+            reversed[static_cast<std::size_t>(count++)] = static_cast<char>('0' + value % 10);
+        while (count > 0)
+            Sign(reversed[static_cast<std::size_t>(--count)]);
+        return *this;
+    }
+    DigitWriter& Sign(char sign) {
+        text_[length_++] = sign;
+        return *this;
+    }
+    QString Text() const {
+        return QString::fromLatin1(text_.data(), static_cast<qsizetype>(length_));
+    }
+
+  private:
+    std::array<char, 40> text_;
+    std::size_t length_ = 0;
+};
+
 QString CzechDate(DateValue value) {
-    return QString::asprintf("%d.%d.%04d", value.Day(), value.Month(), value.Year());
+    return DigitWriter()
+        .Number(value.Day())
+        .Sign('.')
+        .Number(value.Month())
+        .Sign('.')
+        .Number(value.Year(), 4)
+        .Text();
 }
 
 QString TimeText(DateValue value) {
-    return QString::asprintf("%d:%02d:%02d", value.Hour(), value.Minute(), value.Second());
+    return DigitWriter()
+        .Number(value.Hour())
+        .Sign(':')
+        .Number(value.Minute(), 2)
+        .Sign(':')
+        .Number(value.Second(), 2)
+        .Text();
 }
 
 /// Reads a number from the left, drops the grouping and writes it in plain form.

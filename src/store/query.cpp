@@ -69,6 +69,14 @@ Currency Query::Amount(int column) const {
 }
 
 DateValue Query::Date(int column) const {
+    if (state_->Holds(column, FieldType::DateTime, SQLITE_TEXT)) {
+        const auto* text =
+            reinterpret_cast<const char*>(sqlite3_column_text(state_->Handle(), column));
+        const auto length =
+            static_cast<std::size_t>(sqlite3_column_bytes(state_->Handle(), column));
+        if (const auto date = DateValue::FromIso({text, length}))
+            return *date;
+    }
     return Cell(column).ToDate();
 }
 

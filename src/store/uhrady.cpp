@@ -32,7 +32,8 @@ constexpr const char* kWithOwners =
     "Majitele.ID FROM Uhrady, Psi, Majitele WHERE Uhrady.ID_Psa = Psi.ID AND "
     "Psi.MajitelID = Majitele.ID ORDER BY MajitelID";
 
-PaymentRow ReadPaymentRow(const Query& row) {
+/// `before` is the row of the payment before, null for the first.
+PaymentRow ReadPaymentRow(const Query& row, const PaymentRow* before) {
     PaymentRow payment;
     payment.UID = row.Int(0);
     payment.ID_Psa = row.Int(1);
@@ -40,14 +41,17 @@ PaymentRow ReadPaymentRow(const Query& row) {
     payment.Castka = row.Amount(3);
     payment.Ucet = row.Text(4);
     payment.Mena = row.Int(5);
-    payment.Datum = ToOptionalDate(row.Cell(6));
+    if (!row.IsNull(6))
+        payment.Datum = row.Date(6);
     payment.Kc = row.Amount(7);
     if (!row.IsNull(8))
         payment.Uhrada = row.Int(8);
     payment.Jmeno = row.Text(10);
     payment.ChovnaStanice = row.Text(11);
     payment.MajitelID = row.Int(12);
-    payment.MajX = row.Text(13);
+    // The payments of one owner stand together and share his text.
+    const bool sameOwner = before && before->MajitelID == payment.MajitelID;
+    payment.MajX = sameOwner ? before->MajX : row.Text(13);
     return payment;
 }
 
@@ -76,7 +80,10 @@ std::vector<Uhrady> PaymentsOfDog(int psiID) {
 }
 
 std::vector<PaymentRow> PaymentsWithOwners() {
-    return ReadMany(kWithOwners, ReadPaymentRow);
+    std::vector<PaymentRow> payments;
+    for (Query rows(TheDataModule().Conn1, kWithOwners); rows.Next();)
+        payments.push_back(ReadPaymentRow(rows, payments.empty() ? nullptr : &payments.back()));
+    return payments;
 }
 
 std::vector<QString> AccountsOfOwner(int majitelID) {
