@@ -70,7 +70,7 @@ void EnsureMainCurrency() {
 QString RememberedNode() {
     const QString key = ReadRegValue(kSys, kRememberTree);
     Module().RememberTreeOn = !key.isEmpty();
-    return key.startsWith(u"TR") ? QString() : key;
+    return key;
 }
 
 void StoreTreeState(const QString& selected, const QStringList& expanded) {

@@ -25,8 +25,7 @@ void EnsureShow();
 void EnsureMainCurrency();
 
 /// Reads the node that was selected when the program last ended and sets the module value
-/// `RememberTreeOn`. Empty when nothing is to be selected: remembering is off, or the node was one
-/// of a class.
+/// `RememberTreeOn`. Empty while remembering is off.
 QString RememberedNode();
 /// Stores what is to be found at the next start, as far as remembering is on. `selected` is empty
 /// when no node is selected, `expanded` holds the keys of the expanded nodes in tree order.

@@ -7,6 +7,7 @@
 #include "dogs/stored_texts_combo.h"
 #include "forms/controls.h"
 #include "office/dogs/dog_saving.h"
+#include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
@@ -18,9 +19,9 @@ namespace lorvo {
 
 namespace {
 
-/// ID of the dog whose node is selected in the tree; 0 when none is.
+/// ID of the dog whose node is selected in the tree; 0 when no node or none of a dog is.
 int SelectedDog() {
-    return TheMainWindow().SelectedNode().mid(1).toInt();
+    return NodeKey::IdIn(TheMainWindow().SelectedNode(), NodeKind::Dog).value_or(0);
 }
 
 Psi StoredDog(int psiID) {

@@ -11,6 +11,7 @@
 #include "office/dogs/dog_counts_line.h"
 #include "office/dogs/dog_list_figures.h"
 #include "office/dogs/totals_line.h"
+#include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
@@ -50,7 +51,7 @@ QString PriceText(Currency amount) {
 
 ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures, AmountTexts& prices) {
     const QString id = QString::number(dog.IDPsa);
-    return {u'P' + id,
+    return {NodeKey::Dog(dog.IDPsa).ToText(),
             id,
             {{dog.Jmeno + u' ' + dog.ChovnaStanice},
              {dog.PohlaviPes ? u"Pes"_s : u"Fena"_s},

@@ -3,6 +3,7 @@
 #include "app/main_window_services.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/psi_lists.h"
@@ -90,7 +91,7 @@ void frmParents::ShowOffspringMenu(int position) {
         entry.text = dog.Jmeno;
     }
     const int chosen = menu.empty() ? 0 : ThePlatform().menus->TrackPopup(menu);
-    const QString node = u'P' + QString::number(chosen);
+    const QString node = NodeKey::Dog(chosen).ToText();
     // A breed that is not in use has no place in the tree, nor have its dogs.
     if (chosen > 0 && TheMainWindow().NodeExists(node))
         TheMainWindow().SelectNode(node);

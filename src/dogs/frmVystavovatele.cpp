@@ -9,6 +9,7 @@
 #include "forms/report_list.h"
 #include "office/dogs/exhibitor_figures.h"
 #include "office/dogs/totals_line.h"
+#include "office/tree/node_key.h"
 #include "payments/frmUhrady.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -199,7 +200,7 @@ void frmVystavovatele::ShowMenu(int position) {
     if (position < 0)
         return;
     const int chosen = ThePlatform().menus->TrackPopup(MenuOf(lvwList->Row(position).tag.toInt()));
-    const QString node = u"P"_s + QString::number(chosen);
+    const QString node = NodeKey::Dog(chosen).ToText();
     if (chosen == kShowPaymentsNumber) {
         ShowPayments(position);
     } else if (chosen > 0 && TheMainWindow().NodeExists(node)) {

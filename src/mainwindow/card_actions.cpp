@@ -33,9 +33,8 @@ void CardActions::ConnectDogPanel(DogPanel& panel) {
     Connect(owner, &OwnerSection::EmailClicked, this, &CardActions::WriteEmail);
     Connect(owner, &OwnerSection::NeighbourClicked, this,
             [this](const QString& key) { navigation_.GoToDog(key); });
-    Connect(owner, &OwnerSection::DogListClicked, this, [this] { navigation_.ShowDogMenu(); });
-    Connect(owner, &OwnerSection::EditOwnerClicked, this,
-            [] { Open(QStringLiteral("frmEditMan")); });
+    Connect(owner, &OwnerSection::DogListClicked, this, &CardActions::ShowOwnersDogs);
+    Connect(owner, &OwnerSection::EditOwnerClicked, this, &CardActions::EditOwner);
 
     const EntriesSection* entries = &panel.Entries();
     Connect(entries, &EntriesSection::EntriesTicked, this, &CardActions::WriteTickedEntries);
@@ -43,33 +42,58 @@ void CardActions::ConnectDogPanel(DogPanel& panel) {
     Connect(entries, &EntriesSection::PaymentsClicked, this, &CardActions::ShowPaymentsOfDog);
 
     Connect(&panel.AwardsList(), &AwardsSection::AwardsTicked, this,
-            [](const CheckLines& awards) { WriteAwards(Module().CurrentDogID, awards); });
+            &CardActions::WriteTickedAwards);
 }
 
 void CardActions::ConnectOwnerPanel(OwnerPanel& panel) {
     Connect(&panel, &OwnerPanel::EmailClicked, this, &CardActions::WriteEmail);
-    Connect(&panel, &OwnerPanel::PaymentsClicked, this, [] {
-        Module().PaymentsOwner = Module().CurrentOwner;
-        Open(QStringLiteral("frmUhrady"));
-    });
+    Connect(&panel, &OwnerPanel::PaymentsClicked, this, &CardActions::ShowPaymentsOfOwner);
     Connect(&panel, &OwnerPanel::BackClicked, this, &CardActions::BackToDog);
     Connect(&panel, &OwnerPanel::DogClicked, this,
             [this](const QString& key) { navigation_.SelectDog(key); });
     Connect(&panel, &OwnerPanel::DogDoubleClicked, this, [this] { panels_.ShowSelectedNode(); });
 }
 
-void CardActions::EditDog() {
+// Other windows leave shared values behind, and a rebuilt tree has no node selected: what is done
+// on the panel is done to the dog that it shows.
+const TreeNode* CardActions::TakeDogOnShow() {
+    const DogCard& dog = panels_.Dog();
+    const TreeNode* node = tree_.Nodes().Find(NodeKey::Dog(dog.ID));
+    if (!node)
+        return nullptr;
     if (!tree_.SelectedNode())
+        tree_.SelectNode(node);
+    Module().CurrentDogID = dog.ID;
+    Module().CurrentOwner = dog.MajitelID;
+    return node;
+}
+
+void CardActions::EditDog() {
+    const TreeNode* dog = TakeDogOnShow();
+    if (!dog)
         return;
+    // The editor works on the selected node, which the history may have left behind.
+    tree_.SelectNode(dog);
     Module().IsAddingDog = false;
+    Module().CurrentBreedID = panels_.Dog().PlemenoID;
     Open(QStringLiteral("fm_Dog"));
 }
 
+void CardActions::EditOwner() {
+    if (TakeDogOnShow())
+        Open(QStringLiteral("frmEditMan"));
+}
+
+void CardActions::ShowOwnersDogs() {
+    if (TakeDogOnShow())
+        navigation_.ShowDogMenu();
+}
+
 void CardActions::ClickOwnerName(Qt::MouseButton button) {
-    if (button == Qt::LeftButton)
+    if (button == Qt::LeftButton && TakeDogOnShow())
         panels_.ShowOwner();
     else if (button == Qt::RightButton)
-        navigation_.ShowDogMenu();
+        ShowOwnersDogs();
 }
 
 void CardActions::WriteEmail(const QString& address) {
@@ -88,26 +112,40 @@ void CardActions::TakePayment() {
                     MessageIcon::Exclamation);
         return;
     }
-    if (tree_.SelectedNode())
+    if (TakeDogOnShow())
         Open(QStringLiteral("frmPlatba"));
 }
 
 void CardActions::ShowPaymentsOfDog() {
-    if (!tree_.SelectedNode())
+    if (!TakeDogOnShow())
         return;
     Module().PaymentsOwner = 0;
     Open(QStringLiteral("frmUhrady"));
 }
 
+void CardActions::ShowPaymentsOfOwner() {
+    Module().CurrentOwner = panels_.Owner().ID;
+    Module().PaymentsOwner = panels_.Owner().ID;
+    Open(QStringLiteral("frmUhrady"));
+}
+
 // The events run after the writes and not among them, so that another tick finds all rows written.
 void CardActions::WriteTickedEntries(const CheckLines& lines) {
-    WriteEntries(Module().CurrentDogID, lines);
+    if (!TakeDogOnShow())
+        return;
+    WriteEntries(panels_.Dog().ID, lines);
     ThePlatform().ui->ProcessEvents();
     SkipFailure([this] { BackToDog(); });
 }
 
+void CardActions::WriteTickedAwards(const CheckLines& awards) {
+    if (TakeDogOnShow())
+        WriteAwards(panels_.Dog().ID, awards);
+}
+
 void CardActions::BackToDog() {
-    const TreeNode* node = tree_.SelectedNode();
+    const TreeNode* selected = tree_.SelectedNode();
+    const TreeNode* node = selected ? selected : TakeDogOnShow();
     if (!node)
         return;
     tree_.EnsureVisible(node);

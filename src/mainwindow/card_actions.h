@@ -13,6 +13,7 @@ class MainTree;
 class NodePanels;
 class OwnerNavigation;
 class OwnerPanel;
+struct TreeNode;
 
 class CardActions : public QObject {
     Q_OBJECT
@@ -24,12 +25,18 @@ class CardActions : public QObject {
     void ConnectDogPanel(DogPanel& panel);
     void ConnectOwnerPanel(OwnerPanel& panel);
 
+    /// Makes the dog on the panel the one worked on; null when the tree has it no longer.
+    const TreeNode* TakeDogOnShow();
     void EditDog();
+    void EditOwner();
+    void ShowOwnersDogs();
     void ClickOwnerName(Qt::MouseButton button);
     void WriteEmail(const QString& address);
     void TakePayment();
     void ShowPaymentsOfDog();
+    void ShowPaymentsOfOwner();
     void WriteTickedEntries(const CheckLines& lines);
+    void WriteTickedAwards(const CheckLines& awards);
     void BackToDog();
     void ShowMessage(const QString& text, MessageIcon icon);
 

@@ -3,6 +3,7 @@
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "mainwindow/window_opener.h"
+#include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 
@@ -82,11 +83,13 @@ void MainCommandBar::OpenWindowOf(const QString& key) {
 
 void MainCommandBar::ReturnFromBreeds() {
     MainWindowServices& mainWindow = TheMainWindow();
-    if (Module().BreedListChanged)
+    if (Module().BreedListChanged) {
         mainWindow.LoadData();
+        target_.SelectNodeOnShow();
+    }
     if (Module().JumpToBreed <= 0)
         return;
-    const QString breed = u'R' + QString::number(Module().JumpToBreed);
+    const QString breed = NodeKey::Breed(Module().JumpToBreed).ToText();
     target_.FocusTree();
     mainWindow.MakeNodeVisible(breed);
     mainWindow.SelectNode(breed);

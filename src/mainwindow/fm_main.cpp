@@ -21,6 +21,7 @@
 #include <QSplitter>
 #include <QToolBar>
 #include <algorithm>
+#include <utility>
 
 namespace lorvo {
 
@@ -124,9 +125,9 @@ void fm_main::RestoreSplitter() {
 }
 
 void fm_main::RestoreSelection() {
-    const QString key = RememberedNode();
-    if (!key.isEmpty() && NodeExists(key))
-        SelectNode(key);
+    const TreeNode* node = nodes_.Find(RememberedNode());
+    if (node && node->Kind() != NodeKind::Class)
+        tvwMain->SelectNode(node);
 }
 
 void fm_main::ShowGridLines(bool shown) {
@@ -137,11 +138,9 @@ void fm_main::ShowGridLines(bool shown) {
 
 void fm_main::Activate() {
     ReadShowClasses();
-    if (Module().PaymentsOwner != 0) {
-        Module().PaymentsOwner = 0;
-        picDetails->RefillOwnerDogs();
-        return;
-    }
+    picDetails->RestoreCurrent();
+    if (std::exchange(Module().PaymentsOwner, 0) != 0)
+        return ReturnFromStatement();
     const QString key = SelectedNode();
     if (Module().BreedsDirty || Module().TreeDirty) {
         LoadData();
@@ -151,6 +150,16 @@ void fm_main::Activate() {
     ThePlatform().ui->ProcessEvents();
     if (NodeExists(key))
         ShowAgain(key);
+    else
+        SkipFailure([this] { picDetails->Refresh(); });
+}
+
+// Another panel than the owner's may show the payments too.
+void fm_main::ReturnFromStatement() {
+    if (picDetails->IsOwnerOnShow())
+        picDetails->RefillOwnerDogs();
+    else
+        SkipFailure([this] { picDetails->Refresh(); });
 }
 
 void fm_main::ShowAgain(const QString& key) {
@@ -247,6 +256,14 @@ void fm_main::ShowAbout() {
 
 void fm_main::FocusTree() {
     tvwMain->setFocus();
+}
+
+void fm_main::SelectNodeOnShow() {
+    const TreeNode* node = picDetails->NodeOnShow();
+    if (!node)
+        return;
+    tvwMain->SelectNode(node);
+    picDetails->Refresh();
 }
 
 void fm_main::SetHelpPointer(bool on) {

@@ -68,12 +68,14 @@ class fm_main : public QMainWindow,
     void RestoreSelection();
     void ShowGridLines(bool shown);
     void ShowAgain(const QString& key);
+    void ReturnFromStatement();
 
     // CommandTarget
     void AddRing() override;
     void AddDog() override;
     void ShowAbout() override;
     void FocusTree() override;
+    void SelectNodeOnShow() override;
     void SetHelpPointer(bool on) override;
 
     TreeNodes nodes_;

@@ -11,6 +11,7 @@
 #include <QDragMoveEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <utility>
 
@@ -67,7 +68,10 @@ MainTree::MainTree(TreeNodes& nodes, QWidget* parent)
 }
 
 void MainTree::LoadData() {
+    const TreeNode* current = TreeModel::NodeAt(currentIndex());
+    const QString key = current ? current->Key() : QString();
     LoadTree(nodes_);
+    SetCurrent(nodes_.Find(key));
     if (!Module().ShowClassesOn)
         return;
     const QString expanded = ReadRegValue(QStringLiteral("Sys"), QStringLiteral("ExpandedItems"));
@@ -99,6 +103,36 @@ void MainTree::ExpandEveryNode() {
             expand(model_->IndexOf(node));
 }
 
+void MainTree::CollapseEveryNode() {
+    // The view tells of each node, leaves among them, in an order that means nothing.
+    const QSignalBlocker quiet(this);
+    collapseAll();
+}
+
+// Where the keyboard stands; nothing is selected, opened or scrolled by it.
+void MainTree::SetCurrent(const TreeNode* node) {
+    setAutoScroll(false);
+    selectionModel()->setCurrentIndex(model_->IndexOf(node), QItemSelectionModel::NoUpdate);
+    setAutoScroll(true);
+}
+
+void MainTree::BringCurrentInSight() {
+    const TreeNode* inSight = TreeModel::NodeAt(currentIndex());
+    for (const TreeNode* above = inSight; above; above = above->parent)
+        if (above->parent && !isExpanded(model_->IndexOf(above->parent)))
+            inSight = above->parent;
+    if (inSight != TreeModel::NodeAt(currentIndex()))
+        SetCurrent(inSight);
+}
+
+// The view takes the first node for the current one as soon as it has the keyboard, so that these
+// keys would find nothing to do on it or pass it by.
+bool MainTree::GoesToFirstNode(const QKeyEvent& event) const {
+    const TreeNode* current = TreeModel::NodeAt(currentIndex());
+    const bool isKey = event.key() == Qt::Key_Home || event.key() == Qt::Key_Down;
+    return isKey && !SelectedNode() && (!current || current == nodes_.First());
+}
+
 QStringList MainTree::ExpandedKeys() const {
     QStringList keys;
     for (const TreeNode* node = nodes_.First(); node; node = nodes_.Next(node))
@@ -117,6 +151,11 @@ bool MainTree::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
             return false;
         return QTreeView::edit(index, trigger, event);
     });
+}
+
+void MainTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTreeView::closeEditor(editor, hint);
+    Q_EMIT LabelEditEnded();
 }
 
 void MainTree::SetSelectionBarShown(bool shown) {
@@ -188,7 +227,10 @@ void MainTree::keyPressEvent(QKeyEvent* event) {
         if (state() == EditingState)
             return QTreeView::keyPressEvent(event);
         const Signal signal = SignalOf(*event);
-        if (!signal || event->key() == Qt::Key_Home)
+        BringCurrentInSight();
+        if (GoesToFirstNode(*event))
+            SelectNode(nodes_.First());
+        else if (!signal || event->key() == Qt::Key_Home)
             QTreeView::keyPressEvent(event);
         if (signal)
             Q_EMIT(this->*signal)();
@@ -240,7 +282,8 @@ void MainTree::startDrag(Qt::DropActions) {
 
 void MainTree::dropEvent(QDropEvent* event) {
     Guarded([&] {
-        TreeNode* dragged = nodes_.Find(event->mimeData()->text());
+        const bool own = model_->IsOwn(*event->mimeData());
+        TreeNode* dragged = own ? nodes_.Find(event->mimeData()->text()) : nullptr;
         TreeNode* target = NodeUnder(event->position().toPoint());
         stopAutoScroll();
         setState(NoState);

@@ -30,6 +30,8 @@ class MainTree : public QTreeView {
     /// Expands what the node lies in and scrolls to it.
     void EnsureVisible(const TreeNode* node);
     void ExpandEveryNode();
+    /// Without NodeCollapse; what is selected stays so.
+    void CollapseEveryNode();
     /// Keys of the expanded nodes in the tree's order.
     QStringList ExpandedKeys() const;
 
@@ -60,6 +62,8 @@ class MainTree : public QTreeView {
     void KeyDone();
     /// Editing in place ended with a text; the node still has its old one.
     void LabelEdited(lorvo::TreeNode* node, const QString& text);
+    /// Editing in place has ended, with a text or without.
+    void LabelEditEnded();
     /// A breed or dog was dropped on a node.
     void NodeDropped(lorvo::TreeNode* dragged, lorvo::TreeNode* target);
 
@@ -70,6 +74,7 @@ class MainTree : public QTreeView {
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -81,6 +86,9 @@ class MainTree : public QTreeView {
     using Signal = void (MainTree::*)();
     static Signal SignalOf(const QKeyEvent& event);
     TreeNode* NodeUnder(const QPoint& point) const;
+    void SetCurrent(const TreeNode* node);
+    void BringCurrentInSight();
+    bool GoesToFirstNode(const QKeyEvent& event) const;
 
     TreeNodes& nodes_;
     TreeModel* model_;

@@ -19,6 +19,7 @@
 #include <QHBoxLayout>
 #include <QScopeGuard>
 #include <QStackedWidget>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -70,6 +71,8 @@ NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& histor
     actions_ =
         std::make_unique<CardActions>(tree, *this, *picPesInfo, *picMajitelInfo, *navigation_);
     Connect(picKruhInfo, &RingPanel::EditClicked, this, &NodePanels::EditRing);
+    Connect(tree.model(), &QAbstractItemModel::rowsRemoved, this, &NodePanels::EmptyWithoutNode);
+    Connect(tree.model(), &QAbstractItemModel::modelReset, this, &NodePanels::EmptyWithoutNode);
 }
 
 NodePanels::~NodePanels() = default;
@@ -125,6 +128,25 @@ void NodePanels::ShowSelectedNode() {
 void NodePanels::ShowNodeInfo(const TreeNode& node) {
     history_.Record(node.Key());
     UpdateHistoryButtons();
+    ShowNode(node);
+}
+
+void NodePanels::Refresh() {
+    const TreeNode* node = NodeOnShow();
+    if (IsOwnerOnShow())
+        RefillOwnerDogs();
+    else if (node)
+        ShowNode(*node);
+}
+
+const TreeNode* NodePanels::NodeOnShow() const {
+    const std::initializer_list<const QWidget*> ofNodes = {
+        picKruhInfo, picPlemenoInfo, picTridaInfo, picPesInfo, picMajitelInfo};
+    return std::ranges::count(ofNodes, stack_->currentWidget()) ? nodes_.Find(onShow_) : nullptr;
+}
+
+void NodePanels::ShowNode(const TreeNode& node) {
+    onShow_ = node.Key();
     nodes_.ClearPath();
     SetPicture(tree_.IconOf(node));
     SetTitle(node.text);
@@ -155,7 +177,6 @@ void NodePanels::ShowPanelOf(const TreeNode& node) {
 
 void NodePanels::ShowRing(const TreeNode& ring) {
     BringToFront(picKruhInfo);
-    ringOnShow_ = ring.Key();
     picKruhInfo->SetEditable(ring.Kind() == NodeKind::Ring &&
                              CanOpen(QStringLiteral("frmNazevKruhu")));
     picKruhInfo->ShowFigures(FiguresOfRing(ring.Id()));
@@ -183,6 +204,7 @@ void NodePanels::ShowDog(int psiID) {
     const auto show = qScopeGuard([this] {
         SetTitle(dogCard_.title);
         picPesInfo->ShowCard(dogCard_);
+        NoteCurrent();
     });
     FillDogCard(dogCard_, psiID);
 }
@@ -196,9 +218,43 @@ void NodePanels::ShowOwner() {
     RefillOwnerDogs();
 }
 
+bool NodePanels::IsOwnerOnShow() const {
+    return stack_->currentWidget() == picMajitelInfo;
+}
+
 void NodePanels::RefillOwnerDogs() {
-    const auto show = qScopeGuard([this] { picMajitelInfo->ShowCard(ownerCard_); });
-    FillOwnerDogs(ownerCard_, Module().CurrentOwner);
+    const auto show = qScopeGuard([this] {
+        picMajitelInfo->ShowCard(ownerCard_);
+        NoteCurrent();
+    });
+    Module().CurrentOwner = ownerCard_.ID;
+    FillOwnerDogs(ownerCard_, ownerCard_.ID);
+}
+
+void NodePanels::NoteCurrent() {
+    current_ = {Module().CurrentDogID, Module().CurrentOwner};
+}
+
+void NodePanels::RestoreCurrent() const {
+    Module().CurrentDogID = current_.dog;
+    Module().CurrentOwner = current_.owner;
+}
+
+void NodePanels::Empty() {
+    onShow_.clear();
+    current_ = {};
+    RestoreCurrent();
+    HidePanels();
+    SetTitle(QString());
+    SetPicture(QIcon());
+    status_.Clear();
+    status_.ShowPanels(0);
+}
+
+// A panel whose node has gone would act on a record that is gone or stands elsewhere.
+void NodePanels::EmptyWithoutNode() {
+    if (!onShow_.isEmpty() && !nodes_.Find(onShow_))
+        Empty();
 }
 
 void NodePanels::MarkPath(const TreeNode& node) {
@@ -220,7 +276,7 @@ void NodePanels::MarkPath(const TreeNode& node) {
 
 // The ring's window works on the selected node, which the history may have left behind.
 void NodePanels::EditRing() {
-    tree_.SelectNode(&nodes_.Get(ringOnShow_));
+    tree_.SelectNode(&nodes_.Get(onShow_));
     Open(QStringLiteral("frmNazevKruhu"));
 }
 

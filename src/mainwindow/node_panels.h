@@ -43,13 +43,26 @@ class NodePanels : public QWidget {
     void ShowNodeInfo(const QString& key);
     /// The node selected in the tree; nothing when none is.
     void ShowSelectedNode();
+    /// Reads the panel in front afresh, without a trace in the history. Raises as ShowNodeInfo.
+    void Refresh();
+    /// The node whose panel was shown last, as long as that panel or the one of the dog's owner
+    /// stands in front; null when none does.
+    const TreeNode* NodeOnShow() const;
     /// The panel of an FCI group.
     void ShowFciGroup(int group);
 
     /// Brings the panel of the owner of the dog on show to the front and sets `CurrentOwner`.
     void ShowOwner();
-    /// Refills the dogs of `CurrentOwner` on the owner panel, which need not be in front.
+    bool IsOwnerOnShow() const;
+    /// Refills the dogs of the owner on the owner panel and sets `CurrentOwner`.
     void RefillOwnerDogs();
+
+    /// The dog and the owner whose panels were filled last: what their links and lists act on.
+    const DogCard& Dog() const { return dogCard_; }
+    const OwnerCard& Owner() const { return ownerCard_; }
+    /// Gives `CurrentDogID` and `CurrentOwner` back the values that the panels left there, whatever
+    /// other windows have worked on meanwhile.
+    void RestoreCurrent() const;
 
     void SetTitle(const QString& title);
     /// A null icon clears the picture.
@@ -59,16 +72,24 @@ class NodePanels : public QWidget {
     void BringToFront(QWidget* panel);
     void HidePanels();
 
-    OwnerNavigation& Navigation() { return *navigation_; }
-
   private:
+    /// What `CurrentDogID` and `CurrentOwner` are to hold.
+    struct Current {
+        int dog = 0;
+        int owner = 0;
+    };
+
     QLayout* TitleRow();
+    void ShowNode(const TreeNode& node);
     void ShowPanelOf(const TreeNode& node);
     void ShowRing(const TreeNode& ring);
     void ShowBreed(const TreeNode& breed);
     void ShowClass(const TreeNode& node);
     void ShowDog(int psiID);
     void MarkPath(const TreeNode& node);
+    void NoteCurrent();
+    void Empty();
+    void EmptyWithoutNode();
     void UpdateHistoryButtons();
     void EditRing();
 
@@ -92,7 +113,8 @@ class NodePanels : public QWidget {
 
     DogCard dogCard_;
     OwnerCard ownerCard_;
-    QString ringOnShow_; ///< key of the ring whose panel was filled last
+    QString onShow_; ///< key of the node shown last, empty for none
+    Current current_;
     std::unique_ptr<OwnerNavigation> navigation_;
     std::unique_ptr<CardActions> actions_;
 };

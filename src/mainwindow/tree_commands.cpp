@@ -32,6 +32,9 @@ TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* 
     Connect(&tree_, &MainTree::HomePressed, this, [] { Module().FindStart = 1; });
     Connect(&tree_, &MainTree::KeyDone, this, &TreeCommands::ShowSelected);
     Connect(&tree_, &MainTree::LabelEdited, this, &TreeCommands::StoreEditedText);
+    // After the pending events, when the edit box has gone.
+    Connect(&tree_, &MainTree::LabelEditEnded, this,
+            [this] { Later(this, [this] { ShowSelected(); }); });
     Connect(&tree_, &MainTree::NodeDropped, this,
             [this](TreeNode* dragged, TreeNode* target) { edits_->Drop(dragged, target); });
 }
@@ -48,13 +51,11 @@ void TreeCommands::AddRing() {
 }
 
 void TreeCommands::StoreEditedText(TreeNode* node, const QString& text) {
-    if (!text.isEmpty()) {
-        const QString name = text.trimmed();
-        edits_->Rename(node, name);
-        window_.SetItemTitle(name);
-    }
-    // After the pending events, when the edit box has gone.
-    Later(this, [this] { ShowSelected(); });
+    if (text.isEmpty())
+        return;
+    const QString name = text.trimmed();
+    edits_->Rename(node, name);
+    window_.SetItemTitle(name);
 }
 
 void TreeCommands::RenameSelected() {
@@ -70,6 +71,7 @@ void TreeCommands::RenameInWindow(TreeNode* ring) {
 }
 
 void TreeCommands::HideEmpty() {
+    const TreeNode* selected = tree_.SelectedNode();
     // Backwards, so that a breed emptied of its classes goes too, and then its ring.
     for (TreeNode* node = nodes_.Last(); node;) {
         TreeNode* previous = nodes_.Previous(node);
@@ -77,6 +79,8 @@ void TreeCommands::HideEmpty() {
             nodes_.Remove(node);
         node = previous;
     }
+    if (selected != tree_.SelectedNode())
+        ShowSelected();
 }
 
 void TreeCommands::ShowAll() {

@@ -50,7 +50,7 @@ void TreeCommands::ShowRootMenu() {
     case kExpandAll:
         return tree_.ExpandEveryNode();
     case kCollapseAll:
-        return tree_.collapseAll();
+        return tree_.CollapseEveryNode();
     case kFind:
         return Find();
     case kToggleDetail:
@@ -94,6 +94,7 @@ void TreeCommands::ShowDogMenu(TreeNode* dog) {
         return ShowSelected();
     case kPayments:
         Module().CurrentDogID = dog->Id();
+        Module().PaymentsOwner = 0;
         Open(QStringLiteral("frmUhrady"));
         return ShowSelected();
     case kHighlightOwner:

@@ -2,6 +2,7 @@
 
 #include "app/main_window_services.h"
 #include "forms/controls.h"
+#include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "store/kruhy.h"
 
@@ -13,12 +14,9 @@ namespace {
 
 constexpr int kNameWidth = 280;
 
-/// ID of the ring whose node is selected; nullopt when no node is.
+/// ID of the ring whose node is selected; nullopt when no node or none of a ring is.
 std::optional<int> SelectedRing() {
-    const QString key = TheMainWindow().SelectedNode();
-    if (key.isEmpty())
-        return std::nullopt;
-    return TheMainWindow().NodeTag(key).mid(1).toInt();
+    return NodeKey::IdIn(TheMainWindow().SelectedNode(), NodeKind::Ring);
 }
 
 } // namespace

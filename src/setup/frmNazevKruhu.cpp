@@ -2,6 +2,7 @@
 
 #include "app/main_window_services.h"
 #include "forms/controls.h"
+#include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "store/kruhy.h"
 
@@ -43,8 +44,10 @@ void frmNazevKruhu::Load() {
 
 void frmNazevKruhu::Store() {
     const QString key = TheMainWindow().SelectedNode();
-    TheMainWindow().SetNodeText(key, txtName->text());
-    RenameRing(key.mid(1).toInt(), txtName->text());
+    if (const auto ring = NodeKey::IdIn(key, NodeKind::Ring)) {
+        RenameRing(*ring, txtName->text());
+        TheMainWindow().SetNodeText(key, txtName->text());
+    }
     accept();
 }
 

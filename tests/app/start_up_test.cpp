@@ -139,12 +139,6 @@ TEST_F(StartUp, ARememberedNodeSwitchesRememberingOn) {
     EXPECT_TRUE(Module().RememberTreeOn);
 }
 
-TEST_F(StartUp, ARememberedClassNodeIsIgnoredThoughRememberingIsOn) {
-    SetSetting(u"RememberTree"_qs, u"TR12|3"_qs);
-    EXPECT_EQ(RememberedNode(), QString());
-    EXPECT_TRUE(Module().RememberTreeOn);
-}
-
 TEST_F(StartUp, WithoutARememberedNodeRememberingIsOff) {
     Module().RememberTreeOn = true;
     EXPECT_EQ(RememberedNode(), QString());

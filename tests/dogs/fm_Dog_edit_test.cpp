@@ -126,6 +126,15 @@ TEST_F(EditDogTest, ADogThatIsGoneFails) {
     EXPECT_THROW(EditDog(99, [](QWidget&) {}), StoreError);
 }
 
+TEST_F(EditDogTest, ABreedOfTheSameNumberIsNotTakenForTheDog) {
+    const int dog = StoredDog();
+    tree.selected = QStringLiteral("R%1").arg(dog);
+    Module().IsAddingDog = false;
+    fm_Dog window(nullptr);
+    WhileOpen([&] { OpenModal(window); },
+              [](QWidget& open) { EXPECT_EQ(Box(open, 0).text(), QString()); });
+}
+
 TEST_F(EditDogTest, WithoutADogSelectedTheWindowStaysEmpty) {
     Module().IsAddingDog = false;
     tree.selected.clear();

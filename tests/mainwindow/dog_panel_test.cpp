@@ -206,16 +206,74 @@ TEST_F(DogPanelTest, LinksOpenTheirWindows) {
               u"Zobrazit seznam všech přijatých plateb za psa"_qs);
 }
 
-TEST_F(DogPanelTest, WithoutASelectedNodeLinksOpenNothing) {
+TEST_F(DogPanelTest, LinksActOnTheDogOnShowWhateverOtherWindowsLeftBehind) {
     Run("INSERT INTO Meny (ID, Nazev, Zkratka) VALUES (1, 'koruna', 'Kč')");
-    Offer({"fm_Dog", "frmPlatba", "frmUhrady"});
+    Offer({"fm_Dog", "frmPlatba", "frmUhrady", "frmEditMan"});
     Start();
     Show(u"P3"_qs);
-    tree->clearSelection();
+    for (const char* link : {"lblEdit", "lblNovaPlatba", "lblSeznamPlateb", "picEditMajitele"}) {
+        Module().CurrentDogID = 99;
+        Module().CurrentOwner = 98;
+        Module().CurrentBreedID = 949;
+        Click(link);
+        EXPECT_EQ(Module().CurrentDogID, 3) << link;
+        EXPECT_EQ(Module().CurrentOwner, 7) << link;
+    }
     Click("lblEdit");
-    Click("lblNovaPlatba");
-    Click("lblSeznamPlateb");
-    EXPECT_EQ(opened, QStringList());
+    EXPECT_EQ(Module().CurrentBreedID, 12);
+}
+
+TEST_F(DogPanelTest, TheEditorGetsTheDogOnShowThoughAnotherNodeIsSelected) {
+    Offer({"fm_Dog"});
+    Start();
+    Show(u"P3"_qs);
+    tree->SelectNode(&nodes.Get(u"R12"_qs));
+    Click("lblEdit");
+    EXPECT_EQ(tree->SelectedNode()->Key(), u"P3"_qs);
+}
+
+TEST_F(DogPanelTest, TicksAreThoseOfTheDogOnShowWhateverOtherWindowsLeftBehind) {
+    AddDog(4, "Bára");
+    Enter(4, 2);
+    Start();
+    Show(u"P3"_qs);
+    Module().CurrentDogID = 4;
+    Tick("lvwSouteze", u"V1"_qs);
+    Module().CurrentDogID = 4;
+    Tick("lvwOceneni", u"C1"_qs);
+    EXPECT_EQ(ShowsOfDog(3), std::vector({1}));
+    EXPECT_EQ(AwardsOfDog(3), std::vector({1}));
+    EXPECT_EQ(ShowsOfDog(4), std::vector({2}));
+    EXPECT_EQ(AwardsOfDog(4), std::vector<int>());
+}
+
+TEST_F(DogPanelTest, WorksOnAfterARebuildThatLeftNothingSelected) {
+    Offer({"fm_Dog", "frmPlatba", "frmUhrady"});
+    Run("INSERT INTO Meny (ID, Nazev, Zkratka) VALUES (1, 'koruna', 'Kč')");
+    Start();
+    for (const char* link : {"lblEdit", "lblNovaPlatba", "lblSeznamPlateb"}) {
+        Show(u"P3"_qs);
+        tree->LoadData();
+        Click(link);
+        EXPECT_EQ(opened.size(), 1) << link;
+        opened.clear();
+    }
+    Show(u"P3"_qs);
+    tree->LoadData();
+    Tick("lvwSouteze", u"V1"_qs);
+    EXPECT_EQ(Text(u"Cena celkem:"_qs), u"1 349,00 Kč"_qs);
+    EXPECT_EQ(tree->SelectedNode()->Key(), u"P3"_qs);
+}
+
+TEST_F(DogPanelTest, GoesWithItsDog) {
+    Start();
+    Show(u"P3"_qs);
+    Run("DELETE FROM Psi");
+    tree->LoadData();
+    EXPECT_FALSE(InSight("picPesInfo"));
+    EXPECT_EQ(Title(), QString());
+    EXPECT_EQ(Path(), QString());
+    EXPECT_EQ(Module().CurrentDogID, 0);
 }
 
 TEST_F(DogPanelTest, WithoutACurrencyNoPaymentIsTaken) {

@@ -70,6 +70,38 @@ TEST_F(MainTreeTest, ShowsANodeThatTheClerkCollapses) {
     EXPECT_EQ(host.shown, QStringList{u"K1"_qs});
 }
 
+TEST_F(MainTreeTest, CollapsesEveryNodeWithoutShowingAnother) {
+    Tree().ExpandEveryNode();
+    host.SelectNode(u"P1"_qs);
+    Choose({}, 605);
+    EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
+    EXPECT_EQ(host.shown, QStringList());
+    EXPECT_EQ(host.SelectedNode(), u"P1"_qs);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(host.SelectedNode(), u"K2"_qs) << "the keyboard goes on from what stands for P1";
+}
+
+TEST_F(MainTreeTest, GoesToTheFirstNodeByHomeOrDownWhenNothingIsSelected) {
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down}) {
+        Load();
+        Tree().setCurrentIndex({});
+        Tree().clearFocus();
+        Tree().setFocus(Qt::TabFocusReason);
+        Press(key);
+        EXPECT_EQ(host.SelectedNode(), u"K0"_qs);
+    }
+}
+
+TEST_F(MainTreeTest, TheKeyboardStaysWhereItStoodAfterAReload) {
+    host.SelectNode(u"P1"_qs);
+    Load();
+    EXPECT_EQ(host.SelectedNode(), QString());
+    EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
+    host.MakeNodeVisible(u"P1"_qs);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(host.SelectedNode(), u"P2"_qs);
+}
+
 TEST_F(MainTreeTest, EndsEveryKeyByShowingTheSelectedNode) {
     Press(Qt::Key_A);
     host.SelectNode(u"K1"_qs);

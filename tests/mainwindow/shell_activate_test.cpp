@@ -80,6 +80,37 @@ TEST_F(ShellActivate, AfterAnOwnersStatementOnlyHisDogsAreRefilled) {
     EXPECT_EQ(turns_, 0);
 }
 
+TEST_F(ShellActivate, ThePanelInFrontIsReadAfreshAfterAnOwnersStatementToo) {
+    StartOn(u"R10"_qs);
+    OpenAndClose([this] {
+        Module().PaymentsOwner = 5;
+        RenameBreed(10, "Knírač");
+    });
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs));
+}
+
+TEST_F(ShellActivate, TheDogWorkedOnIsAgainTheOneShownLast) {
+    StartOn(u"P100"_qs);
+    window_->SelectNode(u"R10"_qs);
+    window_->ShowNodeInfo(u"R10"_qs);
+    for (const int statement : {0, 5}) {
+        OpenAndClose([statement] {
+            Module().CurrentDogID = 101;
+            Module().CurrentOwner = 77;
+            Module().PaymentsOwner = statement;
+        });
+        EXPECT_EQ(Module().CurrentDogID, 100);
+        EXPECT_EQ(Module().CurrentOwner, 0);
+    }
+}
+
+TEST_F(ShellActivate, APanelWithoutASelectedNodeIsReadAfreshToo) {
+    StartOn(u"R10"_qs);
+    window_->LoadData();
+    OpenAndClose([this] { RenameBreed(10, "Knírač"); });
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs));
+}
+
 TEST_F(ShellActivate, ANodeThatIsGoneAfterTheReloadIsPassedOver) {
     StartOn(u"P100"_qs);
     OpenAndClose([this] {
@@ -88,6 +119,8 @@ TEST_F(ShellActivate, ANodeThatIsGoneAfterTheReloadIsPassedOver) {
     });
     EXPECT_FALSE(window_->NodeExists(u"P100"_qs));
     EXPECT_EQ(turns_, 1);
+    EXPECT_EQ(Title(), QString()) << "and its panel is gone too";
+    EXPECT_FALSE(Control<QWidget>(u"picPesInfo"_qs).isVisible());
 }
 
 TEST_F(ShellActivate, AReloadThatFailsIsRaisedAndKeepsTheFlag) {

@@ -199,6 +199,22 @@ TEST_F(ShellCommands, AJumpToABreedThatTheTreeLacksFails) {
     EXPECT_THROW(bar.Run(u"TABLES:PLEMENA"_qs), Error);
 }
 
+TEST_F(ShellCommands, ABreedPutIntoAnotherRingInTheRegisterStaysSelectedWithItsNewPath) {
+    AddSmallShow();
+    const StandIn plemena(u"fm_Plemena"_qs, [this] {
+        database_.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (2, 'Kruh B')");
+        database_.Execute("UPDATE Plemena SET ID_Kruhu = 2 WHERE ID = 10");
+        Module().BreedListChanged = true;
+    });
+    Start();
+    ClickNode(u"R10"_qs);
+    EXPECT_EQ(Status(1), u"Kruh A"_qs);
+    Command(u"TABLES:PLEMENA"_qs).trigger();
+    EXPECT_EQ(Status(1), u"Kruh B"_qs);
+    EXPECT_EQ(window_->SelectedNode(), u"R10"_qs);
+    EXPECT_EQ(Tree().Nodes().Get(u"K2"_qs).background, kPathBackground);
+}
+
 TEST_F(ShellCommands, WithoutAJumpTheSelectionStays) {
     AddSmallShow();
     const StandIn plemena(u"fm_Plemena"_qs, {});

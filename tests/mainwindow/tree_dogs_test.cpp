@@ -5,6 +5,8 @@
 #include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 
+#include <QMimeData>
+
 namespace lorvo::test {
 namespace {
 
@@ -182,13 +184,23 @@ TEST_F(TreeDogsTest, DoesNothingOnAnyOtherDrop) {
     Load();
     const std::pair<const char16_t*, const char16_t*> drops[] = {
         {u"P1", u"K2"},  {u"P1", u"TR10|5"},  {u"P1", u"P2"}, {u"R10", u"R20"},
-        {u"R10", u"P3"}, {u"R10", u"TR20|1"}, {u"K1", u"K2"}, {u"P99", u"R10"}};
+        {u"R10", u"P3"}, {u"R10", u"TR20|1"}, {u"K1", u"K2"}};
     for (const auto& [dragged, target] : drops)
         Drop(QString::fromUtf16(dragged), QString::fromUtf16(target));
     EXPECT_EQ(host.ParentNode(u"P1"_qs), u"TR10|3"_qs);
     EXPECT_EQ(host.ParentNode(u"R10"_qs), u"K1"_qs);
     EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_qs);
     EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_qs);
+}
+
+TEST_F(TreeDogsTest, MovesNothingForTextOfAnotherProgramThatLooksLikeAKey) {
+    QMimeData text;
+    text.setText(u"P1"_qs);
+    EXPECT_FALSE(DropData(text, u"R20"_qs));
+    text.setData(u"application/x-lorvo-node"_qs, "of another running program");
+    EXPECT_FALSE(DropData(text, u"R20"_qs));
+    EXPECT_EQ(Node(u"P1"_qs).parent, &Node(u"R10"_qs));
+    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_qs);
 }
 
 TEST_F(TreeDogsTest, LeavesTreeAndStoreApartWhenADropFailsInTheStore) {

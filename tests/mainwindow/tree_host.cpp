@@ -156,17 +156,23 @@ void TreeTest::Choose(const QString& key, int number) {
 }
 
 void TreeTest::Drop(const QString& key, const QString& target) {
-    QMimeData data;
-    data.setText(key);
+    auto& model = static_cast<TreeModel&>(*Tree().model());
+    const std::unique_ptr<QMimeData> data(model.mimeData({model.IndexOf(&Node(key))}));
+    EXPECT_TRUE(DropData(*data, target));
+}
+
+bool TreeTest::DropData(QMimeData& data, const QString& target) {
     const QPoint place = PlaceOf(target);
     QDragEnterEvent enter(place, Qt::MoveAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(Tree().viewport(), &enter);
     QDragMoveEvent move(place, Qt::MoveAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(Tree().viewport(), &move);
-    EXPECT_TRUE(move.isAccepted());
     QDropEvent drop(place, Qt::MoveAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(Tree().viewport(), &drop);
-    EXPECT_EQ(drop.dropAction(), Qt::IgnoreAction);
+    const bool taken = enter.isAccepted() && move.isAccepted();
+    if (taken)
+        EXPECT_EQ(drop.dropAction(), Qt::IgnoreAction);
+    return taken;
 }
 
 QLineEdit* TreeTest::Editor() const {

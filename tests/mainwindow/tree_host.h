@@ -66,8 +66,10 @@ class TreeTest : public ::testing::Test {
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     /// Right-clicks the node (empty: where there is none) and takes the entry of that number.
     void Choose(const QString& key, int number);
-    /// Drags by the events that the window system sends; `key` is the drag's text.
+    /// Drags a node by the events that the window system sends.
     void Drop(const QString& key, const QString& target);
+    /// The same with whatever data; returns whether the tree took it while it hovered.
+    bool DropData(QMimeData& data, const QString& target);
     /// The box of the edit in place, null when none is open.
     QLineEdit* Editor() const;
 

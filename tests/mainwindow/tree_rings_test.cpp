@@ -74,7 +74,8 @@ TEST_F(TreeRingsTest, KeepsANewRingWhoseNamingIsCancelled) {
     ASSERT_NE(Editor(), nullptr);
     Editor()->setText(u"Jiný"_qs);
     QTest::keyClick(Editor(), Qt::Key_Escape);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !Editor(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !host.shown.isEmpty() && !Editor(); }));
+    EXPECT_EQ(host.shown, QStringList{u"K3"_qs}) << "the edit has ended all the same";
     EXPECT_EQ(host.NodeText(u"K3"_qs), u"Nový kruh"_qs);
     EXPECT_EQ(RingNames(), u"1"_qs);
     EXPECT_FALSE(Module().LabelEditAllowed);

@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "office/fees/entry_fee.h"
+#include "office/tree/node_key.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "store/czech_order.h"
@@ -87,6 +88,7 @@ void FillAwards(DogCard& card, int psiID) {
 }
 
 void FillOrigin(DogCard& card, const Psi& dog) {
+    card.PlemenoID = dog.PlemenoID;
     card.title = FullName(dog);
     card.Plemeno = BreedName(dog.PlemenoID);
     card.Pohlavi = {dog.PohlaviPes ? QStringLiteral("Pes") : QStringLiteral("Fena"),
@@ -212,10 +214,10 @@ void FillNeighbours(DogCard& card, int ownerID) {
     // Each walk comes nearer to this dog, so that the last dog on its side is the neighbour.
     for (const Psi& dog : DogsOfOwner(ownerID))
         if (SortKey(FullName(dog)) < title)
-            card.previous = {QStringLiteral("P%1").arg(dog.ID), FullName(dog)};
+            card.previous = {NodeKey::Dog(dog.ID).ToText(), FullName(dog)};
     for (const Psi& dog : DogsOfOwner(ownerID, DogOrder::ByNameDescending))
         if (SortKey(FullName(dog)) > title)
-            card.next = {QStringLiteral("P%1").arg(dog.ID), FullName(dog)};
+            card.next = {NodeKey::Dog(dog.ID).ToText(), FullName(dog)};
 }
 
 void FillMoney(DogCard& card, const Psi& dog, Account& account) {
@@ -234,7 +236,7 @@ void FillMoney(DogCard& card, const Psi& dog, Account& account) {
 
 void FillDogCard(DogCard& card, int psiID) {
     const ReadRun run(TheDataModule().Conn1);
-    Module().CurrentDogID = psiID;
+    card.ID = Module().CurrentDogID = psiID;
     FillAwards(card, psiID);
     Account account;
     account.paid = PaidForDog(psiID);

@@ -9,6 +9,8 @@ namespace lorvo {
 /// What the dog panel shows. It outlives the dogs: a line that a dog doesn't fill keeps what the
 /// dog before it left there.
 struct DogCard {
+    int ID = 0; ///< of the dog; 0 before the first one
+    int PlemenoID = 0;
     QString title;
 
     // Origin.

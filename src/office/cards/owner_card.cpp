@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "office/fees/entry_fee.h"
+#include "office/tree/node_key.h"
 #include "platform/values/errors.h"
 #include "store/data_module.h"
 #include "store/majitele.h"
@@ -66,7 +67,7 @@ Currency FillShowPrices(OwnerDogLine& line, const Psi& dog, const std::vector<in
 
 OwnerDogLine LineOf(const Psi& dog, const std::vector<Souteze>& competitions, Totals& totals) {
     OwnerDogLine line;
-    line.key = QStringLiteral("P%1").arg(dog.ID);
+    line.key = NodeKey::Dog(dog.ID).ToText();
     line.tag = QString::number(dog.ID);
     line.name = {dog.Jmeno, SexColour(dog.PohlaviPes)};
     const std::vector<int> shows = ShowsOfDog(dog.ID);
@@ -90,6 +91,7 @@ void FillOwnerLines(OwnerCard& card, int ownerID) {
     const std::optional<Majitele> owner = OwnerByID(ownerID);
     if (!owner)
         throw StoreError("V tabulce Majitele není řádek s číslem " + std::to_string(ownerID) + ".");
+    card.ID = ownerID;
     card.title = owner->Jmeno;
     card.Jmeno = owner->Jmeno;
     card.Ulice = owner->Ulice;

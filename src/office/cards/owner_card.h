@@ -24,6 +24,7 @@ struct OwnerDogLine {
 
 /// What the owner panel shows.
 struct OwnerCard {
+    int ID = 0; ///< of the owner; 0 before the first one
     QString title;
 
     QString Jmeno;

@@ -2,6 +2,7 @@
 
 #include "app/main_window_services.h"
 #include "app/module_values.h"
+#include "office/tree/node_key.h"
 #include "store/barvy.h"
 #include "store/psi_ve_vystavach.h"
 
@@ -33,10 +34,10 @@ int StoreDog(Psi& dog, bool adding) {
 }
 
 void AddNode(const Psi& dog) {
-    const QString breed = QString::number(dog.PlemenoID);
-    const QString parent =
-        Module().ShowClassesOn ? QStringLiteral("TR%1|%2").arg(breed).arg(dog.Trida) : u'R' + breed;
-    TheMainWindow().AddDogNode(parent, dog.ID, dog.Jmeno.left(kJmenoWidth), dog.PohlaviPes);
+    const NodeKey parent = Module().ShowClassesOn ? NodeKey::Class(dog.PlemenoID, dog.Trida)
+                                                  : NodeKey::Breed(dog.PlemenoID);
+    TheMainWindow().AddDogNode(parent.ToText(), dog.ID, dog.Jmeno.left(kJmenoWidth),
+                               dog.PohlaviPes);
 }
 
 void PatchNode(const Psi& dog, int cislo) {
@@ -91,7 +92,7 @@ void SaveDog(const DogEntry& entry) {
         PatchNode(dog, cislo);
     AddMissingOwner(entry.owner);
     DeleteShowsOfDog(dog.ID);
-    TheMainWindow().SelectNode(QStringLiteral("P%1").arg(dog.ID));
+    TheMainWindow().SelectNode(NodeKey::Dog(dog.ID).ToText());
 }
 
 } // namespace lorvo

@@ -36,6 +36,11 @@ std::optional<NodeKey> NodeKey::FromText(const QString& text) {
     return key;
 }
 
+std::optional<int> NodeKey::IdIn(const QString& text, NodeKind kind) {
+    const std::optional<NodeKey> key = FromText(text);
+    return key && key->kind == kind ? std::optional<int>(key->id) : std::nullopt;
+}
+
 QString NodeKey::ToText() const {
     const QString number = QString::number(id);
     switch (kind) {

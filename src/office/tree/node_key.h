@@ -27,6 +27,8 @@ struct NodeKey {
     /// Nullopt for a text that is not letter for letter the text of a key ("R05", "P", "TR5").
     static std::optional<NodeKey> FromText(const QString& text);
     QString ToText() const;
+    /// The number of the record behind a node of that kind; nullopt when `text` is no key of one.
+    static std::optional<int> IdIn(const QString& text, NodeKind kind);
 
     constexpr bool operator==(const NodeKey&) const = default;
 };

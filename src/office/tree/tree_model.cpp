@@ -10,6 +10,8 @@ namespace lorvo {
 
 namespace {
 
+const QString kNodeFormat = QStringLiteral("application/x-lorvo-node");
+
 const QFont& BoldFont() {
     // Only the weight is set, so that family and size stay the view's.
     static const QFont font = [] {
@@ -134,7 +136,7 @@ Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
 }
 
 QStringList TreeModel::mimeTypes() const {
-    return {QStringLiteral("text/plain")};
+    return {kNodeFormat};
 }
 
 QMimeData* TreeModel::mimeData(const QModelIndexList& indexes) const {
@@ -142,7 +144,17 @@ QMimeData* TreeModel::mimeData(const QModelIndexList& indexes) const {
         return nullptr;
     auto* data = new QMimeData;
     data->setText(NodeAt(indexes.front())->Key());
+    data->setData(kNodeFormat, dragMark_);
     return data;
+}
+
+bool TreeModel::IsOwn(const QMimeData& data) const {
+    return data.data(kNodeFormat) == dragMark_;
+}
+
+bool TreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                const QModelIndex& parent) const {
+    return IsOwn(*data) && QAbstractItemModel::canDropMimeData(data, action, row, column, parent);
 }
 
 void TreeModel::AboutToReset() {

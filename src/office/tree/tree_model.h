@@ -5,12 +5,14 @@
 
 #include <QAbstractItemModel>
 #include <QIcon>
+#include <QUuid>
 #include <array>
 
 namespace lorvo {
 
 /// Roles: text, colours, bold, picture; Qt::UserRole the key, Qt::UserRole + 1 the tag. Breeds and
-/// dogs can be dragged, their key being the drag's text.
+/// dogs can be dragged, their key being the drag's text. Only drags of this model's own nodes can
+/// be dropped.
 class TreeModel : public QAbstractItemModel, private TreeObserver {
     Q_OBJECT
   public:
@@ -42,6 +44,10 @@ class TreeModel : public QAbstractItemModel, private TreeObserver {
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    /// Whether a drag of this model's nodes carries the data.
+    bool IsOwn(const QMimeData& data) const;
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                         const QModelIndex& parent) const override;
     Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
 
   Q_SIGNALS:
@@ -63,6 +69,8 @@ class TreeModel : public QAbstractItemModel, private TreeObserver {
 
     TreeNodes& nodes_;
     Icons icons_;
+    /// What tells this model's drags from text of other windows and of another running program.
+    const QByteArray dragMark_ = QUuid::createUuid().toByteArray();
 };
 
 } // namespace lorvo
