@@ -33,8 +33,8 @@ TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* 
     Connect(&tree_, &MainTree::KeyDone, this, &TreeCommands::ShowSelected);
     Connect(&tree_, &MainTree::LabelEdited, this, &TreeCommands::StoreEditedText);
     // After the pending events, when the edit box has gone.
-    Connect(&tree_, &MainTree::LabelEditEnded, this,
-            [this] { Later(this, [this] { ShowSelected(); }); });
+    Connect(&tree_, &MainTree::LabelEditEnded, this, &TreeCommands::ShowSelected,
+            Qt::QueuedConnection);
     Connect(&tree_, &MainTree::NodeDropped, this,
             [this](TreeNode* dragged, TreeNode* target) { edits_->Drop(dragged, target); });
 }
