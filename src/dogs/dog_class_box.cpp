@@ -77,6 +77,8 @@ int DogClassBox::Chosen() const {
 }
 
 void DogClassBox::Drop(QRadioButton* button) {
+    if (button->isChecked())
+        dropped_ = Chosen();
     choice_->setExclusive(false);
     button->setChecked(false);
     choice_->setExclusive(true);
@@ -97,6 +99,8 @@ void DogClassBox::UpdateClassButtons(DateValue born) {
         if (!button->isEnabled())
             Drop(button);
     }
+    if (Chosen() == 0 && dropped_ > 0 && choice_->button(dropped_ - 1)->isEnabled())
+        Choose(dropped_);
     Label8->setText(QString::fromStdString(
         ClassCaption(Label8->toolTip().toStdString(),
                      ThePlatform().locale->ShortDate(show).toStdString(), age)));

@@ -25,7 +25,10 @@ class DogClassBox : public QGroupBox {
     int Chosen() const;
     /// Opens the classes that a dog born then may be shown in on the show's day, drops the choice
     /// of a closed one and renews the caption. A store that fails counts as a show without a date.
+    /// A dropped choice comes back when a later date opens its class again and none is chosen.
     void UpdateClassButtons(DateValue born);
+    /// The date stands: what has been dropped until now stays so.
+    void SettleChoice() { dropped_ = 0; }
 
   Q_SIGNALS:
     void Clicked();
@@ -36,6 +39,7 @@ class DogClassBox : public QGroupBox {
     QLabel* Label8;
     std::array<QRadioButton*, 10> optClasses;
     QButtonGroup* choice_;
+    int dropped_ = 0; ///< class that a date on the way has closed; 0 for none
 };
 
 } // namespace lorvo

@@ -50,7 +50,9 @@ void fm_Dog::Load() {
         owner_->ShowOwnerOfDog(dog.MajitelID);
     }
     UpdateClasses();
+    classes_->SettleChoice();
     Connect(dtBorn, &QDateEdit::dateChanged, this, &fm_Dog::UpdateClasses);
+    Connect(dtBorn, &QDateEdit::editingFinished, classes_, &DogClassBox::SettleChoice);
 }
 
 void fm_Dog::ShowDog(const Psi& dog) {

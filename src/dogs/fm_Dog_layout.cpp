@@ -62,7 +62,7 @@ QWidget* fm_Dog::MakeDogSide() {
     grid->addWidget(new QLabel(QStringLiteral("Pohlaví"), side), grid->rowCount(), 0);
     grid->addWidget(MakeGenderRow(side), grid->rowCount() - 1, 1);
     dtBorn = AddRow(*grid, QStringLiteral("&Datum narození"),
-                    DatePicker(QStringLiteral("dtBorn"), side));
+                    DatePicker(QStringLiteral("dtBorn"), side, YearWindow::Past));
     SetPickedDate(*dtBorn, ThePlatform().clock->Now().DateOnly());
     classes_ = new DogClassBox(side);
     grid->addWidget(classes_, grid->rowCount(), 0, 1, 2);

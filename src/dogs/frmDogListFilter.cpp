@@ -114,8 +114,8 @@ QWidget* frmDogListFilter::MakeGenderFrame() {
 QWidget* frmDogListFilter::MakeDateFrame() {
     auto* frame = Frame("fraDatum", u"Datum narození"_s, this);
     auto* row = new QHBoxLayout(frame);
-    dtBorn = DatePicker(u"dtBorn"_s, frame);
-    DTPicker1 = DatePicker(u"DTPicker1"_s, frame);
+    dtBorn = DatePicker(u"dtBorn"_s, frame, YearWindow::Past);
+    DTPicker1 = DatePicker(u"DTPicker1"_s, frame, YearWindow::Past);
     const DateValue today = ThePlatform().clock->Now().DateOnly();
     for (const auto& [picker, caption] : {std::pair(dtBorn, u"Od"_s), {DTPicker1, u"do"_s}}) {
         SetPickedDate(*picker, today);

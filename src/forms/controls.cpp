@@ -1,5 +1,6 @@
 #include "forms/controls.h"
 
+#include "forms/date_box.h"
 #include "platform/platform.h"
 
 #include <QComboBox>
@@ -33,8 +34,8 @@ const QDate kFirstDate(1601, 1, 1);
 const QDate kLastDate(9999, 12, 31);
 } // namespace
 
-QDateEdit* DatePicker(const QString& name, QWidget* parent) {
-    auto* picker = Named(new QDateEdit(parent), name);
+QDateEdit* DatePicker(const QString& name, QWidget* parent, YearWindow window) {
+    auto* picker = Named(new DateBox(window, parent), name);
     picker->setLocale(QLocale(QLocale::Czech, QLocale::CzechRepublic));
     picker->setDisplayFormat(ThePlatform().locale->ShortDatePattern());
     picker->setDateRange(kFirstDate, kLastDate);

@@ -1,6 +1,8 @@
 #pragma once
 // Builders of controls and layouts that several windows share.
 
+#include "platform/values/date_text.h"
+
 #include <QDateEdit>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -13,8 +15,6 @@
 class QComboBox;
 
 namespace lorvo {
-
-class DateValue;
 
 /// Gives a control its name: objectName as the window's code knows it.
 template<typename T> T* Named(T* control, const QString& name) {
@@ -61,8 +61,9 @@ class LinkLabel : public QLabel {
 /// Makes the box refuse typed non-digits; text pasted in is not filtered.
 void SetNumberStyle(QLineEdit& box);
 
-/// A date picker with a calendar: range 1.1.1601 to 31.12.9999, the system's short date.
-QDateEdit* DatePicker(const QString& name, QWidget* parent);
+/// A date picker with a calendar: range 1.1.1601 to 31.12.9999, the system's short date. `window`
+/// tells the century of a year that is typed in two digits.
+QDateEdit* DatePicker(const QString& name, QWidget* parent, YearWindow window = YearWindow::Around);
 DateValue PickedDate(const QDateEdit& picker);
 void SetPickedDate(QDateEdit& picker, DateValue value);
 

@@ -1,6 +1,8 @@
 #include "dogs/dog_editor_fixture.h"
 #include "store/psi_ve_vystavach.h"
 
+#include <QTest>
+
 namespace lorvo::test {
 namespace {
 
@@ -152,6 +154,30 @@ TEST_F(EditDogTest, ADogWithoutADateOfBirthShowsToday) {
     const int dog = StoredDog({{"DatumNar", Value()}});
     EditDog(dog, [&](QWidget& window) {
         EXPECT_EQ(Control<QDateEdit>(window, "dtBorn").date(), QDate(2005, 5, 1));
+    });
+}
+
+/// Types the month as it is typed: "1", then "11".
+void TypeMonth(QDateEdit& born, const char* digits) {
+    born.setFocus();
+    born.setSelectedSection(QDateTimeEdit::MonthSection);
+    QTest::keyClicks(&born, QString::fromLatin1(digits));
+}
+
+TEST_F(EditDogTest, ADateOnTheWayKeepsTheChosenClass) {
+    const int dog = StoredDog({{"DatumNar", DateValue::FromCalendar(2004, 12, 1)}, {"Trida", 1}});
+    EditDog(dog, [&](QWidget& window) {
+        auto& born = Control<QDateEdit>(window, "dtBorn");
+        ASSERT_TRUE(Class(window, 1).isChecked());
+        TypeMonth(born, "1");
+        EXPECT_FALSE(Class(window, 1).isChecked());
+        QTest::keyClicks(&born, Text("1"));
+        EXPECT_EQ(born.date(), QDate(2004, 11, 1));
+        EXPECT_TRUE(Class(window, 1).isChecked());
+        TypeMonth(born, "1");
+        QTest::keyClick(&born, Qt::Key_Tab);
+        TypeMonth(born, "11");
+        EXPECT_FALSE(Class(window, 1).isChecked());
     });
 }
 
