@@ -1,5 +1,6 @@
 #include "forms/date_box.h"
 
+#include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/qt_date.h"
 
@@ -28,8 +29,8 @@ DateBox::DateBox(YearWindow window, QWidget* parent) : QDateEdit(parent), window
     // lights whenever the cursor comes to another part. While something is being typed, neither may
     // happen.
     disconnect(lineEdit(), &QLineEdit::cursorPositionChanged, this, nullptr);
-    connect(lineEdit(), &QLineEdit::cursorPositionChanged, this, &DateBox::FollowCursor);
-    connect(lineEdit(), &QLineEdit::textChanged, this, qOverload<>(&QWidget::update));
+    Connect(lineEdit(), &QLineEdit::cursorPositionChanged, this, &DateBox::FollowCursor);
+    Connect(lineEdit(), &QLineEdit::textChanged, this, qOverload<>(&QWidget::update));
     lineEdit()->installEventFilter(this);
 }
 
@@ -91,8 +92,14 @@ void DateBox::FollowCursor(int from, int to) {
     if (IsTyping())
         NotePart(from, to);
     else
-        QMetaObject::invokeMethod(this, "_q_editorCursorPositionChanged", Q_ARG(int, from),
-                                  Q_ARG(int, to));
+        TellMove(from, to);
+}
+
+/// Hands a move of the cursor to the toolkit's own slot.
+void DateBox::TellMove(int from, int to) {
+    const QMetaObject& meta = QAbstractSpinBox::staticMetaObject;
+    static const int slot = meta.indexOfSlot("_q_editorCursorPositionChanged(int,int)");
+    meta.method(slot).invoke(this, Qt::DirectConnection, Q_ARG(int, from), Q_ARG(int, to));
 }
 
 void DateBox::NotePart(int from, int to) {
@@ -101,8 +108,7 @@ void DateBox::NotePart(int from, int to) {
     const int start = lineEdit()->selectionStart();
     const int length = lineEdit()->selectionLength();
     lineEdit()->selectAll();
-    QMetaObject::invokeMethod(this, "_q_editorCursorPositionChanged", Q_ARG(int, from),
-                              Q_ARG(int, to));
+    TellMove(from, to);
     if (start >= 0)
         lineEdit()->setSelection(start, length);
     else
@@ -110,18 +116,23 @@ void DateBox::NotePart(int from, int to) {
 }
 
 void DateBox::focusInEvent(QFocusEvent* event) {
-    QDateEdit::focusInEvent(event);
-    selectOnRelease_ = event->reason() == Qt::MouseFocusReason;
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
-        event->reason() == Qt::ShortcutFocusReason) {
-        setSelectedSection(sectionAt(0));
-        SelectAllText();
-    }
+    Guarded([&] {
+        QDateEdit::focusInEvent(event);
+        selectOnRelease_ = event->reason() == Qt::MouseFocusReason;
+        const bool comesBack = event->reason() == Qt::PopupFocusReason ||
+                               event->reason() == Qt::ActiveWindowFocusReason;
+        if (!selectOnRelease_ && !comesBack) {
+            setSelectedSection(sectionAt(0));
+            SelectAllText();
+        }
+    });
 }
 
 void DateBox::focusOutEvent(QFocusEvent* event) {
-    TakeTyped();
-    QDateEdit::focusOutEvent(event);
+    Guarded([&] {
+        TakeTyped();
+        QDateEdit::focusOutEvent(event);
+    });
 }
 
 bool DateBox::focusNextPrevChild(bool next) {
@@ -129,15 +140,19 @@ bool DateBox::focusNextPrevChild(bool next) {
 }
 
 bool DateBox::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease && std::exchange(selectOnRelease_, false) &&
-        !lineEdit()->hasSelectedText())
-        SelectAllText();
-    return QDateEdit::eventFilter(watched, event);
+    return GuardedAnswer(false, [&]() -> bool {
+        if (event->type() == QEvent::MouseButtonRelease && std::exchange(selectOnRelease_, false) &&
+            !lineEdit()->hasSelectedText())
+            SelectAllText();
+        return QDateEdit::eventFilter(watched, event);
+    });
 }
 
 void DateBox::mousePressEvent(QMouseEvent* event) {
-    TakeTyped(); // the calendar opens on it
-    QDateEdit::mousePressEvent(event);
+    Guarded([&] {
+        TakeTyped(); // the calendar opens on it
+        QDateEdit::mousePressEvent(event);
+    });
 }
 
 void DateBox::stepBy(int steps) {

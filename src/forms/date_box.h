@@ -46,6 +46,7 @@ class DateBox : public QDateEdit {
     void MakeRoom(const QString& typed);
     void SelectAllText();
     void FollowCursor(int from, int to);
+    void TellMove(int from, int to);
     void NotePart(int from, int to);
 
     YearWindow window_;

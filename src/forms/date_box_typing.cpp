@@ -1,5 +1,6 @@
 // What the keys do in a date box.
 #include "forms/date_box.h"
+#include "platform/failure_guard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -47,16 +48,18 @@ bool MovesCursor(const QKeyEvent& key) {
 void DateBox::keyPressEvent(QKeyEvent* event) {
     const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool selects = event->modifiers() & Qt::ShiftModifier;
-    if (IsTyping() && (confirms || event->key() == Qt::Key_Escape))
-        ConfirmTyped(event);
-    else if (IsEdit(*event) || Writes(*event) || (IsTyping() && MovesCursor(*event)))
-        Type(event);
-    else if (!selects && event->key() == Qt::Key_Left)
-        ChoosePart(currentSectionIndex() - 1);
-    else if (!selects && event->key() == Qt::Key_Right)
-        ChoosePart(currentSectionIndex() + 1);
-    else
-        QDateEdit::keyPressEvent(event);
+    Guarded([&] {
+        if (IsTyping() && (confirms || event->key() == Qt::Key_Escape))
+            ConfirmTyped(event);
+        else if (IsEdit(*event) || Writes(*event) || (IsTyping() && MovesCursor(*event)))
+            Type(event);
+        else if (!selects && event->key() == Qt::Key_Left)
+            ChoosePart(currentSectionIndex() - 1);
+        else if (!selects && event->key() == Qt::Key_Right)
+            ChoosePart(currentSectionIndex() + 1);
+        else
+            QDateEdit::keyPressEvent(event);
+    });
 }
 
 void DateBox::ChoosePart(int index) {
