@@ -50,7 +50,6 @@ void fm_Dog::Load() {
         owner_->ShowOwnerOfDog(dog.MajitelID);
     }
     UpdateClasses();
-    classes_->SettleChoice();
     Connect(dtBorn, &QDateEdit::dateChanged, this, &fm_Dog::UpdateClasses);
     Connect(dtBorn, &QDateEdit::editingFinished, classes_, &DogClassBox::SettleChoice);
 }
@@ -73,6 +72,8 @@ void fm_Dog::ShowDog(const Psi& dog) {
 
 void fm_Dog::UpdateClasses() {
     classes_->UpdateClassButtons(PickedDate(*dtBorn));
+    if (!dtBorn->hasFocus())
+        classes_->SettleChoice();
     UpdateOKButton();
 }
 

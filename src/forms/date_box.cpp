@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMetaMethod>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <utility>
@@ -141,6 +142,9 @@ bool DateBox::focusNextPrevChild(bool next) {
 
 bool DateBox::eventFilter(QObject* watched, QEvent* event) {
     return GuardedAnswer(false, [&]() -> bool {
+        // What has been typed until then stands; the next digits are another date's.
+        if (event->type() == QEvent::MouseButtonPress && !IsTyping())
+            Q_EMIT editingFinished();
         if (event->type() == QEvent::MouseButtonRelease && std::exchange(selectOnRelease_, false) &&
             !lineEdit()->hasSelectedText())
             SelectAllText();
