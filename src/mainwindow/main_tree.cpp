@@ -154,8 +154,10 @@ bool MainTree::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
 }
 
 void MainTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-    QTreeView::closeEditor(editor, hint);
-    Q_EMIT LabelEditEnded();
+    Guarded([&] {
+        QTreeView::closeEditor(editor, hint);
+        Q_EMIT LabelEditEnded();
+    });
 }
 
 void MainTree::SetSelectionBarShown(bool shown) {
