@@ -10,8 +10,10 @@
 #include "platform/console.h"
 #include "platform/docx/docx_word_processor.h"
 #include "platform/platform.h"
+#include "platform/program_lock.h"
 #include "platform/real_services.h"
 
+#include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -50,6 +52,15 @@ void TellVersion() {
                           '\n');
 }
 
+int SayThatItRuns() {
+    lorvo::Platform& platform = lorvo::ThePlatform();
+    platform.messages->Show(
+        QStringLiteral("Lorvo už nad složkou „%1“ běží. Přepněte se do jeho okna.")
+            .arg(QDir::toNativeSeparators(platform.programFolder)),
+        lorvo::MessageIcon::Information, lorvo::MessageButtons::Ok, QStringLiteral("Lorvo"));
+    return 1;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -64,6 +75,9 @@ int main(int argc, char** argv) {
     lorvo::CloseOnTermination();
     lorvo::Application::setWindowIcon(lorvo::ProgramIcon(QStringLiteral("lorvo")));
 
+    const lorvo::ProgramLock desk(lorvo::ThePlatform().programFolder);
+    if (!desk.IsMine())
+        return SayThatItRuns();
     std::unique_ptr<lorvo::fm_main> mainWindow;
     return application.Run([&mainWindow] {
         lorvo::OpenDatabase();

@@ -40,6 +40,7 @@ void CloseOnTermination() {
     action.sa_flags = SA_RESTART;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         sigaction(signal, &action, nullptr);
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an ordinary failure of its write
 }
 
 #else

@@ -4,6 +4,7 @@
 #include "forms/controls.h"
 #include "forms/report_list.h"
 #include "platform/failure_guard.h"
+#include "store/data_module.h"
 #include "store/psi_lists.h"
 #include "store/souteze.h"
 #include "store/vazby_souteze.h"
@@ -131,8 +132,10 @@ void frmPsiVSoutezi::Store() {
         if (partners_.contains(tag))
             entered.push_back(partners_[tag].mid(1).toInt());
     }
+    EditRun run(TheDataModule().Conn1); // the entries before must not go alone
     DeleteDogsOfCompetition(soutezID_);
     AddDogsToCompetition(soutezID_, entered);
+    run.Finish();
     accept();
 }
 

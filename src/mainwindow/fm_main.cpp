@@ -99,8 +99,12 @@ void fm_main::Start() {
     Connect(new ReturnWatch(*this), &ReturnWatch::Returned, this, [this] {
         if (!IsModalOpen())
             Activate();
+        SayDiskFailure();
     });
-    Later(this, [this] { Activate(); });
+    Later(this, [this] {
+        Activate();
+        SayDiskFailure();
+    });
 }
 
 void fm_main::Load() {
@@ -116,6 +120,14 @@ void fm_main::Load() {
     SkipFailure([this] { RestoreSelection(); });
     ShowGridLines(ShowGridPreferred());
     EnsureMainCurrency();
+}
+
+// What was skipped because of the disk looks as if the data were gone.
+void fm_main::SayDiskFailure() {
+    const QString failure = TakeSkippedDiskFailure();
+    if (!failure.isEmpty())
+        ThePlatform().messages->Show(QStringLiteral("Data nelze načíst celá.\n\n") + failure,
+                                     MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
 }
 
 void fm_main::RestoreSplitter() {

@@ -30,7 +30,8 @@ class fm_main : public QMainWindow,
     ~fm_main() override;
 
     /// Loads and shows the window; the first Activate comes with the next turn of the event loop.
-    /// The database is open. Whatever fails on the way leaves its part undone, in silence.
+    /// The database is open. Whatever fails on the way leaves its part undone, in silence,
+    /// but for a failure of the disk, which is said once the window stands.
     void Start();
 
     /// The way back from every other window, and from other programs: rebuilds the tree if somebody
@@ -64,6 +65,7 @@ class fm_main : public QMainWindow,
     // Start and end.
     void Load();
     void Unload();
+    void SayDiskFailure();
     void RestoreSplitter();
     void RestoreSelection();
     void ShowGridLines(bool shown);

@@ -5,6 +5,7 @@
 #include "app/start_up.h"
 #include "office/tree/tree_nodes.h"
 #include "platform/platform.h"
+#include "store/data_module.h"
 #include "store/kruhy.h"
 #include "store/meny.h"
 #include "store/ostatni.h"
@@ -92,8 +93,10 @@ void TreeEdits::SetFirstClosing(bool first) {
 }
 
 void TreeEdits::MakeFirstDog() {
+    EditRun run(TheDataModule().Conn1); // the mark before must not go alone
     ClearFirstDogs(Module().CurrentOwner);
     MarkFirstDog(Module().CurrentDogID);
+    run.Finish();
 }
 
 bool TreeEdits::MayAddDog() {

@@ -4,6 +4,8 @@
 #include "store/connection_internals.h"
 #include "store/database_file.h"
 #include "store/engine_failure.h"
+#include "store/leftover_journal.h"
+#include "store/lock_wait.h"
 #include "store/sql_functions.h"
 
 #include <QUrl>
@@ -15,27 +17,42 @@ namespace lorvo {
 
 namespace {
 
-constexpr int kBusyMilliseconds = 3000;
 constexpr int kBusyMillisecondsAtEnd = 200; ///< nobody waits gladly for a window to close
+
+constexpr int kPagesPerCheckpoint = 1000; ///< the engine's own measure
+
+/// The first failure of the disk that was skipped and that nobody has been told of.
+QString skippedDiskFailure;
 
 constexpr std::array kShowTables = {"Barvy",          "Kruhy",   "Plemena",   "Psi",
                                     "Vazby_Trida",    "Ostatni", "Majitele",  "Souteze",
                                     "Vazby_Souteze",  "Meny",    "Uhrady",    "Vystavy",
                                     "PsiVeVystavach", "Oceneni", "PsiOceneni"};
 
+using DatabasePointer = std::unique_ptr<SQLite::Database>;
+
 /// Reads the file as it lies there, with no lock and no journal, so that a file that isn't
 /// accepted stays untouched.
-std::unique_ptr<SQLite::Database> OpenForChecking(const QString& path) {
+DatabasePointer OpenForChecking(const QString& path) {
     const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() + "?immutable=1";
     return std::make_unique<SQLite::Database>(uri.toStdString(),
                                               SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
 }
 
-std::unique_ptr<SQLite::Database> OpenForWork(const QString& path) {
-    auto database = std::make_unique<SQLite::Database>(
-        path.toStdString(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, kBusyMilliseconds);
-    // Closing a file that turns out to be damaged must not write to it.
-    sqlite3_db_config(database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+/// `content`, which outlives it, as a database in memory.
+DatabasePointer OpenInMemory(QByteArray& content) {
+    auto database = std::make_unique<SQLite::Database>(":memory:", SQLITE_OPEN_READWRITE);
+    auto* bytes = reinterpret_cast<unsigned char*>(content.data());
+    database->check(sqlite3_deserialize(database->getHandle(), "main", bytes, content.size(),
+                                        content.size(), SQLITE_DESERIALIZE_READONLY));
+    return database;
+}
+
+DatabasePointer OpenForWork(const QString& path) {
+    auto database = std::make_unique<SQLite::Database>(path.toStdString(),
+                                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
+    WaitForLocks(database->getHandle());
+    LeaveFileAlone(database->getHandle()); // until it is found whole
     sqlite3_db_config(database->getHandle(), SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     database->exec("PRAGMA cell_size_check = ON");
     database->exec("PRAGMA cache_size = -8000"); // kilobytes: a whole show stays in memory
@@ -50,11 +67,32 @@ void RequireShowTables(const Schema& schema, const QString& path) {
         throw StoreError(AboutFile(path, u"v souboru není žádná tabulka programu Lorvo"_qs));
 }
 
+/// Every page that a table or an index uses can be read and makes sense.
+void RequireWholePages(SQLite::Database& database, const QString& path) {
+    SQLite::Statement check(database, "PRAGMA quick_check(1)");
+    if (!check.executeStep() || check.getColumn(0).getString() != "ok")
+        throw CorruptStoreError(AboutFile(path, u"soubor je poškozený"_qs));
+}
+
+/// Raises what speaks against working on the file; touches neither it nor a journal beside it.
+void RequireShow(const QString& path) {
+    RequireDatabaseFile(path);
+    if (!HasLeftoverJournal(path)) {
+        RequireShowTables(ReadSchema(*OpenForChecking(path)), path);
+        return;
+    }
+    QByteArray content = CompletedContent(path);
+    const DatabasePointer completed = OpenInMemory(content);
+    RequireShowTables(ReadSchema(*completed), path);
+    RequireWholePages(*completed, path);
+}
+
 /// Write-ahead logging makes a single edit durable by one sync of the disk.
 void StartWriting(SQLite::Database& database) {
-    sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
     database.exec("PRAGMA journal_mode = WAL");
     database.exec("PRAGMA synchronous = FULL");
+    sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+    sqlite3_wal_autocheckpoint(database.getHandle(), kPagesPerCheckpoint);
     RegisterSqlFunctions(database.getHandle());
 }
 
@@ -85,18 +123,20 @@ Connection::~Connection() {
 
 void Connection::Open(const QString& path) {
     Close();
-    RequireDatabaseFile(path);
+    DatabasePointer database;
     try {
-        if (!HasLeftoverJournal(path))
-            RequireShowTables(ReadSchema(*OpenForChecking(path)), path);
-        auto database = OpenForWork(path);
+        RequireShow(path);
+        database = OpenForWork(path);
         Schema schema = ReadSchema(*database);
-        RequireShowTables(schema, path);
         StartWriting(*database);
+        EndLockWait();
         impl_->database = std::move(database);
         impl_->schema = std::move(schema);
         impl_->path = path;
     } catch (const SQLite::Exception& failure) {
+        EndLockWait();
+        if (database && sqlite3_errcode(database->getHandle()) == failure.getErrorCode())
+            ThrowFailure(database->getHandle());
         ThrowFailure(failure, path);
     }
 }
@@ -111,7 +151,8 @@ void Connection::Close() {
     try {
         if (!sqlite3_get_autocommit(database->getHandle()))
             database->exec("COMMIT");
-        StopWriting(*database);
+        if (!IsFileLeftAlone(database->getHandle()))
+            StopWriting(*database);
     } catch (const SQLite::Exception& failure) {
         ThrowFailure(failure, impl_->path);
     }
@@ -145,9 +186,17 @@ bool SkipFailure(const std::function<void()>& statement) {
         return true;
     } catch (const CorruptStoreError&) {
         throw;
+    } catch (const DiskError& error) {
+        if (skippedDiskFailure.isEmpty())
+            skippedDiskFailure = QString::fromUtf8(error.what());
+        return false;
     } catch (const Error&) {
         return false;
     }
+}
+
+QString TakeSkippedDiskFailure() {
+    return std::exchange(skippedDiskFailure, QString());
 }
 
 std::string Quoted(const QString& text) {

@@ -17,9 +17,11 @@ class Connection {
     Connection& operator=(const Connection&) = delete;
 
     /// Opens an existing file. A missing, empty, foreign, truncated or damaged one raises
-    /// StoreError that names the file and the reason, and is left untouched.
+    /// StoreError that names the file and the reason; neither it nor a journal beside it is
+    /// touched. A disk or a folder that takes no edits is found out here (DiskError).
     void Open(const QString& path);
-    /// Checkpoints and closes; the folder then holds the file alone, without journals.
+    /// Checkpoints and closes; the folder then holds the file alone, without journals. A file that
+    /// was found damaged is not written to: its journal stays.
     void Close();
     bool IsOpen() const;
     QString Path() const;
@@ -61,8 +63,11 @@ class EditRun {
 };
 
 /// Runs `statement`; a failure is skipped silently, as the routines are told that skip failing
-/// statements. Damage to the file is never skipped. Returns whether it went through.
+/// statements. Damage to the file is never skipped, and a failure of the disk is kept to be told.
+/// Returns whether it went through.
 bool SkipFailure(const std::function<void()>& statement);
+/// The first failure of the disk that was skipped since the last call; empty when there was none.
+[[nodiscard]] QString TakeSkippedDiskFailure();
 
 /// A text as a literal of a statement: in single quotes, with inner quotes doubled.
 std::string Quoted(const QString& text);

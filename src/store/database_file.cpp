@@ -1,10 +1,13 @@
 #include "store/database_file.h"
 
+#include "platform/system_reason.h"
 #include "platform/values/errors.h"
+#include "store/leftover_journal.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 #include <QtEndian>
 
 namespace lorvo {
@@ -37,16 +40,45 @@ qint64 PromisedLength(const QByteArray& header) {
 QByteArray ReadHeader(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw StoreError(AboutFile(path, u"soubor nelze číst: "_qs + file.errorString()));
+        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + FileReason(file)));
     return file.read(kHeaderSize);
 }
 
 void RequireWritable(const QString& path) {
     const QFileInfo info(path);
     if (!info.isWritable())
-        throw StoreError(AboutFile(path, u"soubor je jen pro čtení"_qs));
+        throw DiskError(AboutFile(path, u"soubor je jen pro čtení"_qs) +
+                        " Povolte do něj zápis, nebo program přesuňte tam, kam smíte zapisovat.");
     if (!QFileInfo(info.absolutePath()).isWritable())
-        throw StoreError(AboutFile(path, u"do složky souboru nelze zapisovat"_qs));
+        throw DiskError(AboutFile(path, u"do složky souboru nelze zapisovat"_qs) +
+                        " Povolte do ní zápis, nebo program přesuňte tam, kam smíte zapisovat.");
+}
+
+/// What the journal of a few edits takes. Asked for by writing it, since free room that is only
+/// reckoned may belong to others.
+constexpr int kRoomForEdits = 256 * 1024;
+
+void RequireRoom(const QString& path) {
+    QTemporaryFile file(QFileInfo(path).absolutePath() + u"/lorvo-XXXXXX"_qs);
+    const bool hasRoom = file.open() &&
+                         file.write(QByteArray(kRoomForEdits, '\x5a')) == kRoomForEdits &&
+                         file.flush();
+    if (!hasRoom)
+        throw DiskError(
+            AboutFile(path, u"do složky souboru nelze zapisovat: "_qs + FileReason(file)) +
+            " Uvolněte na disku místo a povolte do složky zápis.");
+}
+
+void RequireFile(const QFileInfo& info, const QString& path) {
+    if (info.isDir())
+        throw StoreError(AboutFile(path, u"na místě souboru je složka téhož jména"_qs) +
+                         " Přejmenujte ji a vraťte na její místo soubor.");
+    if (!info.isFile())
+        throw StoreError(AboutFile(path, u"soubor neexistuje"_qs) +
+                         " Vraťte ho na toto místo, například ze složky Zálohy.");
+    if (info.size() == 0)
+        throw StoreError(AboutFile(path, u"soubor je prázdný"_qs) +
+                         " Vraťte na jeho místo kopii, například ze složky Zálohy.");
 }
 
 } // namespace
@@ -55,24 +87,18 @@ std::string AboutFile(const QString& path, const QString& reason) {
     return u"Databáze %1: %2."_qs.arg(QDir::toNativeSeparators(path), reason).toStdString();
 }
 
-bool HasLeftoverJournal(const QString& path) {
-    return QFileInfo(path + u"-wal"_qs).size() > 0 || QFileInfo(path + u"-journal"_qs).size() > 0;
-}
-
 void RequireDatabaseFile(const QString& path) {
     const QFileInfo info(path);
-    if (!info.isFile())
-        throw StoreError(AboutFile(path, u"soubor neexistuje"_qs));
-    if (info.size() == 0)
-        throw StoreError(AboutFile(path, u"soubor je prázdný"_qs));
+    RequireFile(info, path);
     const QByteArray header = ReadHeader(path);
     if (!header.startsWith(kMagic) && !kMagic.startsWith(header))
         throw StoreError(AboutFile(path, u"soubor není databáze programu Lorvo"_qs));
     // What is missing behind the end may still stand in the journal.
-    const bool isShort = header.size() < kHeaderSize || info.size() < PromisedLength(header);
-    if (isShort && !HasLeftoverJournal(path))
+    const bool isShort = info.size() < PromisedLength(header) && !HasLeftoverJournal(path);
+    if (isShort || header.size() < kHeaderSize)
         throw CorruptStoreError(AboutFile(path, u"soubor není úplný, jeho konec chybí"_qs));
     RequireWritable(path);
+    RequireRoom(path);
 }
 
 } // namespace lorvo

@@ -1,6 +1,7 @@
 #include "store/field_conversion.h"
 
 #include "platform/values/errors.h"
+#include "store/database_file.h"
 
 #include <limits>
 #include <sqlite3.h>
@@ -62,6 +63,8 @@ Value ReadNumber(qint64 number, FieldType type) {
         return Currency::FromRaw(number);
     case FieldType::DateTime:
         return Value(number).ToDate();
+    case FieldType::Integer:
+        return Value(number).ToInt();
     default:
         return number;
     }
@@ -72,6 +75,33 @@ Value ReadDate(const QString& text) {
     if (!date)
         throw StoreError("\"" + text.toStdString() + "\" není datum");
     return *date;
+}
+
+Value ReadCell(sqlite3_stmt* statement, int position, FieldType type) {
+    switch (sqlite3_column_type(statement, position)) {
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return ReadNumber(sqlite3_column_int64(statement, position), type);
+    case SQLITE_TEXT:
+        if (type == FieldType::DateTime)
+            return ReadDate(ReadText(statement, position));
+        if (type == FieldType::Text || type == FieldType::Unknown)
+            return ReadText(statement, position);
+        throw StoreError("\"" + ReadText(statement, position).toStdString() + "\" není číslo");
+    default:
+        throw StoreError("v souboru je hodnota jiného druhu");
+    }
+}
+
+std::string AboutCell(sqlite3_stmt* statement, const ResultColumn& column, const char* reason) {
+    const char* path = sqlite3_db_filename(sqlite3_db_handle(statement), "main");
+    const QString table = column.table.empty()
+                              ? QString()
+                              : u"tabulka %1, "_qs.arg(QString::fromStdString(column.table));
+    return AboutFile(QString::fromUtf8(path),
+                     table + u"pole %1: "_qs.arg(QString::fromStdString(column.name)) +
+                         QString::fromUtf8(reason));
 }
 
 } // namespace
@@ -110,24 +140,11 @@ int BindStored(sqlite3_stmt* statement, int index, const Value& value) {
     return std::visit(Binder{statement, index}, value.Data());
 }
 
-Value ReadStored(sqlite3_stmt* statement, int column, FieldType type, const std::string& field) {
+Value ReadStored(sqlite3_stmt* statement, int position, const ResultColumn& column) {
     try {
-        switch (sqlite3_column_type(statement, column)) {
-        case SQLITE_NULL:
-            return {};
-        case SQLITE_INTEGER:
-            return ReadNumber(sqlite3_column_int64(statement, column), type);
-        case SQLITE_TEXT:
-            if (type == FieldType::DateTime)
-                return ReadDate(ReadText(statement, column));
-            if (type == FieldType::Text || type == FieldType::Unknown)
-                return ReadText(statement, column);
-            throw StoreError("\"" + ReadText(statement, column).toStdString() + "\" není číslo");
-        default:
-            throw StoreError("v souboru je hodnota jiného druhu");
-        }
+        return ReadCell(statement, position, column.type);
     } catch (const Error& error) {
-        throw StoreError(InField(field, error.what()));
+        throw StoreError(AboutCell(statement, column, error.what()));
     }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // Between a cell's value and what the file keeps of it.
 
-#include "store/schema.h"
+#include "store/dialect_translator.h"
 #include "store/value.h"
 
 #include <string>
@@ -21,8 +21,8 @@ Value ConvertForField(const Value& value, FieldType type, const std::string& fie
 /// Binds a converted value as parameter `index` (from 1). Returns SQLite's result code.
 int BindStored(sqlite3_stmt* statement, int index, const Value& value);
 
-/// Cell `column` of the statement's current row; StoreError names `field` when the file holds
-/// something that the field's type can't be.
-Value ReadStored(sqlite3_stmt* statement, int column, FieldType type, const std::string& field);
+/// Cell number `position` of the statement's current row; StoreError names file, table and field
+/// when the file holds something that the field's type can't be.
+Value ReadStored(sqlite3_stmt* statement, int position, const ResultColumn& column);
 
 } // namespace lorvo

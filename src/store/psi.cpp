@@ -1,5 +1,6 @@
 #include "store/psi.h"
 
+#include "platform/values/left_text.h"
 #include "store/psi_reader.h"
 #include "store/rows.h"
 
@@ -27,16 +28,16 @@ std::string OrderClause(DogOrder order) {
 
 Assignments EditedFields(const Psi& dog) {
     return {
-        {"Jmeno", dog.Jmeno.left(kJmenoWidth)},
+        {"Jmeno", LeftText(dog.Jmeno, kJmenoWidth)},
         {"BarvaID", dog.BarvaID},
         {"PohlaviPes", dog.PohlaviPes},
         {"DatumNar", FromOptional(dog.DatumNar)},
-        {"ChovnaStanice", dog.ChovnaStanice.left(kDogTextWidth)},
-        {"Otec", dog.Otec.left(kParentWidth)},
-        {"Matka", dog.Matka.left(kParentWidth)},
-        {"PK", dog.PK.left(kDogTextWidth)},
-        {"Poznamka", dog.Poznamka.left(kDogTextWidth)},
-        {"Chovatel", dog.Chovatel.left(kDogTextWidth)},
+        {"ChovnaStanice", LeftText(dog.ChovnaStanice, kDogTextWidth)},
+        {"Otec", LeftText(dog.Otec, kParentWidth)},
+        {"Matka", LeftText(dog.Matka, kParentWidth)},
+        {"PK", LeftText(dog.PK, kDogTextWidth)},
+        {"Poznamka", LeftText(dog.Poznamka, kDogTextWidth)},
+        {"Chovatel", LeftText(dog.Chovatel, kDogTextWidth)},
         {"PrvniUzaverka", dog.PrvniUzaverka},
         {"MajitelID", dog.MajitelID},
         {"Trida", dog.Trida},

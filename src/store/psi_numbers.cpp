@@ -16,7 +16,7 @@ void SetDogNumber(int psiID, int cislo) {
     BindAll(update, {cislo, psiID});
     Execute(update);
     if (sqlite3_changes(store.Handle()) == 0)
-        throw StoreError("Psi: there is no row with ID " + Number(psiID));
+        throw StoreError("Tabulka Psi: pes s ID " + Number(psiID) + " už v databázi není.");
     store.EditDone();
 }
 

@@ -53,7 +53,7 @@ int Query::Int(int column) const {
         return Cell(column).ToInt();
     const qint64 number = sqlite3_column_int64(state_->Handle(), column);
     const int narrowed = static_cast<int>(number);
-    return narrowed == number ? narrowed : Value(number).ToInt();
+    return narrowed == number ? narrowed : Cell(column).ToInt();
 }
 
 bool Query::Bool(int column) const {
@@ -88,10 +88,9 @@ QString Query::Text(int column) const {
 }
 
 Value Query::Cell(int column) const {
-    const FieldType type = state_->TypeOf(column);
-    const std::string& name =
-        state_->statement.Translated()->columns[static_cast<std::size_t>(column)].name;
-    return ReadStored(state_->Handle(), column, type, name);
+    state_->TypeOf(column);
+    return ReadStored(state_->Handle(), column,
+                      state_->statement.Translated()->columns[static_cast<std::size_t>(column)]);
 }
 
 } // namespace lorvo

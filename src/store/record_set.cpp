@@ -17,8 +17,7 @@ std::vector<Value> ReadRow(const CachedStatement& statement, const Translation& 
     std::vector<Value> row;
     row.reserve(translation.columns.size());
     for (const ResultColumn& column : translation.columns)
-        row.push_back(
-            ReadStored(statement.Handle(), static_cast<int>(row.size()), column.type, column.name));
+        row.push_back(ReadStored(statement.Handle(), static_cast<int>(row.size()), column));
     return row;
 }
 
@@ -181,6 +180,9 @@ void RecordSet::Open(std::string_view statement) {
             Execute(prepared);
         }
     } catch (const CorruptStoreError&) {
+        Close();
+        throw;
+    } catch (const DiskError&) {
         Close();
         throw;
     } catch (const StoreError& error) {

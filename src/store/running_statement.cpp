@@ -3,6 +3,7 @@
 #include "platform/values/errors.h"
 #include "store/engine_failure.h"
 #include "store/field_conversion.h"
+#include "store/lock_wait.h"
 
 #include <charconv>
 #include <sqlite3.h>
@@ -77,6 +78,7 @@ void BindAll(const CachedStatement& statement, const std::vector<Value>& values)
 
 bool Step(const CachedStatement& statement) {
     const int code = sqlite3_step(statement.Handle());
+    EndLockWait();
     if (code != SQLITE_ROW && code != SQLITE_DONE)
         ThrowFailure(sqlite3_db_handle(statement.Handle()));
     return code == SQLITE_ROW;

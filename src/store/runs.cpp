@@ -3,6 +3,7 @@
 #include "platform/values/errors.h"
 #include "store/connection_internals.h"
 #include "store/engine_failure.h"
+#include "store/lock_wait.h"
 
 #include <sqlite3.h>
 
@@ -15,7 +16,9 @@ namespace {
 constexpr int kEditsPerCommit = 10000;
 
 void Run(sqlite3* handle, const char* sql) {
-    if (sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+    const int code = sqlite3_exec(handle, sql, nullptr, nullptr, nullptr);
+    EndLockWait();
+    if (code != SQLITE_OK)
         ThrowFailure(handle);
 }
 

@@ -1,7 +1,7 @@
 #include "store/sql_functions.h"
 
-#include "platform/values/errors.h"
 #include "store/czech_order.h"
+#include "store/engine_failure.h"
 
 #include <QString>
 #include <sqlite3.h>
@@ -51,7 +51,7 @@ void RegisterSqlFunctions(sqlite3* handle) {
         sqlite3_create_function_v2(handle, "lcase", 1, kFlags, nullptr, LcaseFunction, nullptr,
                                    nullptr, nullptr) == SQLITE_OK;
     if (!registered)
-        throw StoreError(sqlite3_errmsg(handle));
+        ThrowFailure(handle);
 }
 
 } // namespace lorvo

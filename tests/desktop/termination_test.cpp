@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <csignal>
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace lorvo {
@@ -36,6 +37,19 @@ TEST(Termination, RequestToEndClosesTheWindowsAndTheProgram) {
     EXPECT_FALSE(late);
     std::signal(SIGTERM, SIG_DFL);
 }
+
+#ifdef Q_OS_UNIX
+TEST(Termination, AFileThatMayNotGrowDoesNotEndTheProgram) {
+    std::signal(SIGXFSZ, SIG_DFL);
+    CloseOnTermination();
+    EXPECT_EXIT(
+        {
+            std::raise(SIGXFSZ);
+            std::exit(7);
+        },
+        ::testing::ExitedWithCode(7), "");
+}
+#endif
 
 } // namespace
 } // namespace lorvo

@@ -55,7 +55,7 @@ TEST_F(BadFileTest, RefusesAMissingFile) {
 
 TEST_F(BadFileTest, RefusesAFolderOfThatName) {
     QDir(folder.path()).mkdir(u"data.mdb"_qs);
-    ExpectRefused("neexistuje");
+    ExpectRefused("na místě souboru je složka");
 }
 
 TEST_F(BadFileTest, RefusesAnEmptyFile) {
@@ -129,16 +129,24 @@ TEST_F(BadFileTest, ACellThatIsNotOfItsTypeNamesTheField) {
     TempDatabase::CopyTo(folder.path());
     SQLite::Database(Path().toStdString(), SQLite::OPEN_READWRITE)
         .exec("INSERT INTO Uhrady (ID, Kc, Datum) VALUES (1, 'mnoho', NULL), (2, 0, 'zítra'), "
-              "(3, 1.5, NULL)");
+              "(3, 1.5, NULL);"
+              "INSERT INTO Uhrady (ID, ID_Psa) VALUES (4, 5000000000)");
     Connection connection;
     connection.Open(Path());
     RecordSet set(connection, "Uhrady", RecordSet::Lock::Updatable);
     const auto failureOf = [&](const char* statement) {
         return FailureOf([&] { set.Open(statement); });
     };
-    EXPECT_NE(failureOf("SELECT * FROM Uhrady WHERE ID = 1").find("Kc"), std::string::npos);
-    EXPECT_NE(failureOf("SELECT * FROM Uhrady WHERE ID = 2").find("Datum"), std::string::npos);
-    EXPECT_NE(failureOf("SELECT * FROM Uhrady WHERE ID = 3").find("Kc"), std::string::npos);
+    const auto expectNamed = [&](const char* statement, const char* field) {
+        const std::string failure = failureOf(statement);
+        EXPECT_NE(failure.find(Path().toStdString()), std::string::npos) << failure;
+        EXPECT_NE(failure.find(std::string("tabulka Uhrady, pole ") + field), std::string::npos)
+            << failure;
+    };
+    expectNamed("SELECT * FROM Uhrady WHERE ID = 1", "Kc");
+    expectNamed("SELECT * FROM Uhrady WHERE ID = 2", "Datum");
+    expectNamed("SELECT * FROM Uhrady WHERE ID = 3", "Kc");
+    expectNamed("SELECT ID_Psa FROM Uhrady WHERE ID = 4", "ID_Psa");
 }
 
 class ConnectionTest : public StoreTest {

@@ -1,5 +1,6 @@
 #include "office/cards/entry_ticks.h"
 
+#include "store/data_module.h"
 #include "store/psi_oceneni.h"
 #include "store/psi_ve_vystavach.h"
 #include "store/vazby_souteze.h"
@@ -39,15 +40,19 @@ void ApplyShowRules(CheckLines& lines, int position) {
 }
 
 void WriteEntries(int psiID, const CheckLines& lines) {
+    EditRun run(TheDataModule().Conn1);
     DeleteCompetitionsOfDog(psiID);
     AddDogToCompetitions(psiID, TickedIDs(lines, LineIcon::Competition));
     DeleteShowsOfDog(psiID);
     AddDogToShows(psiID, TickedIDs(lines, LineIcon::Show));
+    run.Finish();
 }
 
 void WriteAwards(int psiID, const CheckLines& awards) {
+    EditRun run(TheDataModule().Conn1);
     DeleteAwardsOfDog(psiID);
     AddAwardsToDog(psiID, TickedIDs(awards, LineIcon::None));
+    run.Finish();
 }
 
 } // namespace lorvo

@@ -10,11 +10,12 @@ namespace lorvo {
 /// is ticked again when no show remains ticked.
 void ApplyShowRules(CheckLines& lines, int position);
 
-/// Rewrites the competitions and then the show of a dog whole, as ticked. A failure halfway leaves
-/// what was written.
+/// Rewrites the competitions and then the show of a dog whole, as ticked, in one run: whatever
+/// kills the program, the earlier ticks are there or the new ones. A statement that fails halfway
+/// leaves what was written.
 void WriteEntries(int psiID, const CheckLines& lines);
 
-/// Rewrites the awards of a dog whole, as ticked.
+/// Rewrites the awards of a dog whole, as ticked, in the same way.
 void WriteAwards(int psiID, const CheckLines& awards);
 
 } // namespace lorvo

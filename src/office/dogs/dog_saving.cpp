@@ -3,6 +3,7 @@
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "office/tree/node_key.h"
+#include "platform/values/left_text.h"
 #include "store/barvy.h"
 #include "store/psi_ve_vystavach.h"
 
@@ -36,14 +37,14 @@ int StoreDog(Psi& dog, bool adding) {
 void AddNode(const Psi& dog) {
     const NodeKey parent = Module().ShowClassesOn ? NodeKey::Class(dog.PlemenoID, dog.Trida)
                                                   : NodeKey::Breed(dog.PlemenoID);
-    TheMainWindow().AddDogNode(parent.ToText(), dog.ID, dog.Jmeno.left(kJmenoWidth),
+    TheMainWindow().AddDogNode(parent.ToText(), dog.ID, LeftText(dog.Jmeno, kJmenoWidth),
                                dog.PohlaviPes);
 }
 
 void PatchNode(const Psi& dog, int cislo) {
     MainWindowServices& window = TheMainWindow();
     const QString node = window.SelectedNode();
-    const QString name = dog.Jmeno.left(kJmenoWidth);
+    const QString name = LeftText(dog.Jmeno, kJmenoWidth);
     window.ShowNodeInfo(node);
     window.SetItemTitle(name + u' ' + dog.ChovnaStanice);
     window.SetNodeText(node, cislo > 0 ? QStringLiteral("%1 %2").arg(name).arg(cislo) : name);

@@ -26,6 +26,13 @@ class CorruptStoreError : public StoreError {
     using StoreError::StoreError;
 };
 
+/// The disk or the file's other users stood in the way: no room, no rights, a failing disk, a lock
+/// that was not given up. Skipped where failures are skipped, but never without a word.
+class DiskError : public StoreError {
+  public:
+    using StoreError::StoreError;
+};
+
 /// A service of the desktop (file, locale, word processor, ...) failed.
 class PlatformError : public Error {
   public:

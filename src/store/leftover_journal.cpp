@@ -1,0 +1,93 @@
+#include "store/leftover_journal.h"
+
+#include "platform/system_reason.h"
+#include "platform/values/errors.h"
+#include "store/database_file.h"
+#include "store/journal_pages.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+#include <algorithm>
+#include <set>
+
+namespace lorvo {
+
+namespace {
+
+/// Fields of the file's header, by their places.
+constexpr qsizetype kVersions = 18; ///< of writing and reading; 2 asks for a write-ahead log
+constexpr qsizetype kFirstFreeTrunk = 32;
+
+QString LogOf(const QString& path) {
+    return path + u"-wal"_qs;
+}
+
+QString RollbackOf(const QString& path) {
+    return path + u"-journal"_qs;
+}
+
+QByteArray ReadWhole(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + FileReason(file)));
+    return file.readAll();
+}
+
+quint32 Number32(const QByteArray& bytes, qsizetype place) {
+    return place + 4 <= bytes.size() ? qFromBigEndian<quint32>(bytes.constData() + place) : 0;
+}
+
+/// Pages that no table uses and whose content is of no account: the leaves of the free list.
+std::set<quint32> FreePages(const QByteArray& content, qsizetype pageSize) {
+    std::set<quint32> pages;
+    std::set<quint32> seen;
+    quint32 trunk = Number32(content, kFirstFreeTrunk);
+    while (trunk != 0 && seen.insert(trunk).second) {
+        const qsizetype place = (qsizetype(trunk) - 1) * pageSize;
+        const auto count = std::min(Number32(content, place + 4), quint32(pageSize / 4));
+        for (quint32 i = 0; i < count; ++i)
+            pages.insert(Number32(content, place + 8 + 4 * qsizetype(i)));
+        trunk = Number32(content, place);
+    }
+    return pages;
+}
+
+void RequireNoneMissing(const QByteArray& content, const JournalPages& journal, qint64 fileSize,
+                        const QString& path) {
+    const std::set<quint32> free = FreePages(content, journal.pageSize);
+    for (quint32 page = 1; page <= journal.pageCount; ++page) {
+        const bool inFile = qint64(page) * journal.pageSize <= fileSize;
+        if (!inFile && !journal.pages.contains(page) && !free.contains(page))
+            throw CorruptStoreError(AboutFile(path, u"soubor není úplný, jeho konec chybí"_qs));
+    }
+}
+
+} // namespace
+
+bool HasLeftoverJournal(const QString& path) {
+    return QFileInfo(LogOf(path)).size() > 0 || QFileInfo(RollbackOf(path)).size() > 0;
+}
+
+QByteArray CompletedContent(const QString& path) {
+    QByteArray content = ReadWhole(path);
+    for (const auto& [journalPath, read] :
+         {std::pair(RollbackOf(path), &PagesOfRollback), std::pair(LogOf(path), &PagesOfLog)}) {
+        if (QFileInfo(journalPath).size() == 0)
+            continue;
+        const JournalPages journal = read(ReadWhole(journalPath));
+        if (journal.pageSize == 0)
+            continue; // the engine has no use of it either
+        const qint64 fileSize = content.size();
+        content.resize(journal.pageSize * qsizetype(journal.pageCount), '\0');
+        for (const auto& [page, bytes] : journal.pages)
+            if (page <= journal.pageCount)
+                content.replace((qsizetype(page) - 1) * journal.pageSize, journal.pageSize, bytes);
+        RequireNoneMissing(content, journal, fileSize, path);
+    }
+    if (content.size() > kVersions + 1)
+        content[kVersions] = content[kVersions + 1] = '\1';
+    return content;
+}
+
+} // namespace lorvo
