@@ -1,11 +1,13 @@
-// The long lists of dogs, exhibitors and payments, filled and sorted, beside their statements
-// alone; and a payment stored with its edit on disk.
+// The long lists of dogs, exhibitors, payments and parents, from the command to the painted list
+// and sorted, beside their statements alone; and a payment stored with its edit on disk.
 //   QT_QPA_PLATFORM=offscreen bench_lists [--benchmark_filter=...]
 
 #include "bare_rows.h"
+#include "bare_window.h"
 #include "bench_shows.h"
 #include "desktop/desktop_services.h"
 #include "dogs/fm_DogsList.h"
+#include "dogs/frmParents.h"
 #include "dogs/frmVystavovatele.h"
 #include "forms/application.h"
 #include "forms/report_list.h"
@@ -53,7 +55,12 @@ constexpr const char* kPaymentStatements[] = {
     "Uhrady.ID_Psa = Psi.ID AND Psi.MajitelID = Majitele.ID ORDER BY MajitelID, Uhrady.ID",
 };
 
-/// Opens a window, which is filled by that, and runs `filled` in place of showing it.
+constexpr const char* kParentStatements[] = {
+    "SELECT DISTINCT Otec FROM Psi ORDER BY czech_key(Otec)",
+    "SELECT DISTINCT Matka FROM Psi ORDER BY czech_key(Matka)",
+};
+
+/// Opens a window, which is filled by that, and runs `filled` in place of its event loop.
 template<class Window> class Filled : public Window {
   public:
     explicit Filled(std::function<void(Filled&)> filled)
@@ -74,12 +81,15 @@ void UseShowOnDesk(const char* size) {
     ThePlatform().ui = std::make_unique<DesktopUserInterface>();
 }
 
-template<class Window> void Fill(benchmark::State& state, const char* size) {
+/// From the command to the painted list.
+template<class Window> void Show(benchmark::State& state, const char* size) {
     UseShowOnDesk(size);
     for (auto _ : state) {
         QElapsedTimer timer;
         timer.start();
-        Filled<Window> window([&](auto&) {
+        Filled<Window> window([&](auto& filled) {
+            filled.show();
+            WaitForPaint(*filled.template findChild<ReportList*>()->viewport());
             state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) / 1e9);
         });
         OpenModal(window);
@@ -87,7 +97,7 @@ template<class Window> void Fill(benchmark::State& state, const char* size) {
 }
 
 template<class Statements>
-void BareFill(benchmark::State& state, const char* size, const Statements& texts) {
+void BareRead(benchmark::State& state, const char* size, const Statements& texts) {
     UseShow(size);
     BareDatabase database(ShowFolder(size) + QStringLiteral("/data.mdb"));
     std::vector<sqlite3_stmt*> statements;
@@ -143,20 +153,24 @@ void Add(const std::string& name, const std::string& size, const char* side,
 }
 
 void Register(const char* size) {
-    Add("dog list filled", size, "program",
-        [size](benchmark::State& state) { Fill<fm_DogsList>(state, size); });
-    Add("dog list filled", size, "bare",
-        [size](benchmark::State& state) { BareFill(state, size, kDogStatements); });
+    Add("dog list shown", size, "program",
+        [size](benchmark::State& state) { Show<fm_DogsList>(state, size); });
+    Add("dog list shown", size, "bare",
+        [size](benchmark::State& state) { BareRead(state, size, kDogStatements); });
     Add("dog list sorted", size, "program",
         [size](benchmark::State& state) { Sort<fm_DogsList>(state, size); });
-    Add("exhibitor list filled", size, "program",
-        [size](benchmark::State& state) { Fill<frmVystavovatele>(state, size); });
-    Add("exhibitor list filled", size, "bare",
-        [size](benchmark::State& state) { BareFill(state, size, kExhibitorStatements); });
-    Add("payments filled", size, "program",
-        [size](benchmark::State& state) { Fill<frmPrehledPlateb>(state, size); });
-    Add("payments filled", size, "bare",
-        [size](benchmark::State& state) { BareFill(state, size, kPaymentStatements); });
+    Add("exhibitor list shown", size, "program",
+        [size](benchmark::State& state) { Show<frmVystavovatele>(state, size); });
+    Add("exhibitor list shown", size, "bare",
+        [size](benchmark::State& state) { BareRead(state, size, kExhibitorStatements); });
+    Add("payments shown", size, "program",
+        [size](benchmark::State& state) { Show<frmPrehledPlateb>(state, size); });
+    Add("payments shown", size, "bare",
+        [size](benchmark::State& state) { BareRead(state, size, kPaymentStatements); });
+    Add("parents shown", size, "program",
+        [size](benchmark::State& state) { Show<frmParents>(state, size); });
+    Add("parents shown", size, "bare",
+        [size](benchmark::State& state) { BareRead(state, size, kParentStatements); });
     Add("exhibitor list sorted", size, "program",
         [size](benchmark::State& state) { Sort<frmVystavovatele>(state, size); });
     Add("payments sorted", size, "program",

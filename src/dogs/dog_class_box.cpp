@@ -11,6 +11,7 @@
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QRadioButton>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -91,11 +92,12 @@ void DogClassBox::UpdateClassButtons(DateValue born) {
     const DateValue show = ShowDate();
     const int age =
         AgeInMonths(born, show, module.SpecialBreed ? ClassList::Special : ClassList::Standard);
+    const std::vector<int> open = OpenClasses(age, from, to);
     for (size_t i = 0; i < optClasses.size(); ++i) {
         QRadioButton* button = optClasses[i];
         if (button->isHidden())
             continue;
-        button->setEnabled(IsClassOpen(age, from[i], to[i]));
+        button->setEnabled(std::ranges::count(open, static_cast<int>(i) + 1) > 0);
         if (!button->isEnabled())
             Drop(button);
     }

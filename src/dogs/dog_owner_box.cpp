@@ -2,6 +2,7 @@
 
 #include "app/common_routines.h"
 #include "dogs/owner_list_model.h"
+#include "dogs/type_search_combo.h"
 #include "forms/controls.h"
 #include "platform/failure_guard.h"
 
@@ -9,6 +10,8 @@
 #include <QGridLayout>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,17 +25,33 @@ struct OwnerField {
 };
 constexpr OwnerField kFields[] = {
     {u"Jméno", 7, 2, 0, 1},    {u"Příjmení", 4, 2, 2, 1}, {u"&Ulice", 8, 3, 0, 3},
-    {u"PSČ", 9, 4, 0, 1},      {u"Město", 10, 4, 2, 1},   {u"Telefon", 6, 5, 0, 1},
-    {u"&E-mail", 11, 5, 2, 1},
+    {u"PSČ", 9, 4, 0, 1},      {u"Město", 10, 4, 2, 1},   {u"Telefon", 6, 5, 0, 3},
+    {u"&E-mail", 11, 6, 0, 3},
 };
 /// The boxes that a chosen owner fills; the surname isn't among them.
 constexpr int kSurname = 4;
+
+/// What is only shown is read as well as what can be typed.
+void KeepLegible(QLineEdit& box) {
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Disabled, QPalette::Text,
+                     palette.color(QPalette::Active, QPalette::Text));
+    box.setPalette(palette);
+}
+
+/// From its beginning; what doesn't fit stands in the tool tip, for a closed box can't be scrolled.
+void ShowText(QLineEdit& box, const QString& text) {
+    box.setText(text);
+    box.setCursorPosition(0);
+    // As markup of one paragraph, or a name could pass for markup of its own.
+    box.setToolTip(text.isEmpty() ? text : u"<p>"_s + text.toHtmlEscaped() + u"</p>"_s);
+}
 
 } // namespace
 
 DogOwnerBox::DogOwnerBox(QWidget* parent)
     : QGroupBox(QStringLiteral("Majitel"), parent), owners_(new OwnerListModel(this)),
-      cmbOwners(Named(new QComboBox(this), QStringLiteral("cmbOwners"))),
+      cmbOwners(Named(new TypeSearchCombo(this), QStringLiteral("cmbOwners"))),
       cmdAddName(Named(new QPushButton(QStringLiteral("Přidat &nového"), this),
                        QStringLiteral("cmdAddName"))),
       cmdAddNameCancel(Named(new QPushButton(QStringLiteral("Zpě&t"), this),
@@ -59,6 +78,7 @@ void DogOwnerBox::LayOut() {
     for (const OwnerField& field : kFields) {
         auto* box = Named(new QLineEdit(this), ElementName("txtbox", field.index));
         box->setEnabled(false);
+        KeepLegible(*box);
         grid->addWidget(CaptionFor(box, QString::fromUtf16(field.caption), this), field.row,
                         field.column);
         grid->addWidget(box, field.row, field.column + 1, 1, field.span);
@@ -77,7 +97,7 @@ void DogOwnerBox::ShowOwnerOfDog(int majitelID) {
     const auto owner = OwnerByID(majitelID);
     if (!owner)
         return;
-    txtbox[kSurname]->setText(owner->Prijmeni.value_or(QString()));
+    ShowText(*txtbox[kSurname], owner->Prijmeni.value_or(QString()));
     for (const int index : {7, kSurname, 8, 10, 9})
         txtbox[index]->setEnabled(false);
     cmbOwners->setCurrentIndex(owners_->FindOwner(majitelID));
@@ -88,12 +108,12 @@ void DogOwnerBox::FillBoxes() {
     const auto owner = OwnerByID(SelectedOwnerID());
     if (!owner)
         return;
-    txtbox[7]->setText(owner->Jmeno);
-    txtbox[8]->setText(owner->Ulice);
-    txtbox[9]->setText(PostCodeText(owner->PSC));
-    txtbox[10]->setText(owner->Mesto);
-    txtbox[6]->setText(owner->Telefon);
-    txtbox[11]->setText(owner->Email);
+    ShowText(*txtbox[7], owner->Jmeno);
+    ShowText(*txtbox[8], owner->Ulice);
+    ShowText(*txtbox[9], PostCodeText(owner->PSC));
+    ShowText(*txtbox[10], owner->Mesto);
+    ShowText(*txtbox[6], owner->Telefon);
+    ShowText(*txtbox[11], owner->Email);
 }
 
 void DogOwnerBox::SetNewOwner(bool on) {
@@ -108,7 +128,7 @@ void DogOwnerBox::AddName() {
     cmbOwners->setCurrentIndex(cmbOwners->count() - 1);
     for (const auto& [index, box] : txtbox) {
         box->setEnabled(true);
-        box->clear();
+        ShowText(*box, {});
     }
     txtbox[7]->setFocus();
     SetNewOwner(true);
@@ -123,7 +143,7 @@ void DogOwnerBox::CancelName() {
         return FillBoxes();
     // Nobody was chosen before: a typed name must not pass for an owner's.
     for (const auto& [index, box] : txtbox)
-        box->clear();
+        ShowText(*box, {});
 }
 
 bool DogOwnerBox::IsNewOwner() const {

@@ -28,6 +28,8 @@ class DogOwnerBox : public QGroupBox {
     bool IsNewOwner() const;
     /// ID of the owner chosen in the list; 0 when none is.
     int SelectedOwnerID() const;
+    /// Whether an owner is chosen or a new one is being typed.
+    bool HasOwner() const { return IsNewOwner() || SelectedOwnerID() != 0; }
     /// What the boxes hold. The post code must have been checked.
     Majitele Boxes() const;
     QLineEdit& NameBox() const { return *txtbox.at(7); }

@@ -7,10 +7,10 @@
 #include "dogs/stored_texts_combo.h"
 #include "forms/controls.h"
 #include "office/dogs/dog_saving.h"
+#include "office/texts/post_code.h"
 #include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
-#include "platform/values/errors.h"
 
 #include <QComboBox>
 #include <QRadioButton>
@@ -22,13 +22,6 @@ namespace {
 /// ID of the dog whose node is selected in the tree; 0 when no node or none of a dog is.
 int SelectedDog() {
     return NodeKey::IdIn(TheMainWindow().SelectedNode(), NodeKind::Dog).value_or(0);
-}
-
-Psi StoredDog(int psiID) {
-    const auto dog = DogByID(psiID);
-    if (!dog)
-        throw StoreError("Pes č. " + std::to_string(psiID) + " v databázi není.");
-    return *dog;
 }
 
 } // namespace
@@ -45,7 +38,7 @@ void fm_Dog::Load() {
         Module().CurrentDogID = SelectedDog();
         if (Module().CurrentDogID == 0)
             return;
-        const Psi dog = StoredDog(Module().CurrentDogID);
+        const Psi dog = ExistingDog(Module().CurrentDogID);
         ShowDog(dog);
         owner_->ShowOwnerOfDog(dog.MajitelID);
     }
@@ -81,22 +74,24 @@ void fm_Dog::UpdateOKButton() {
     cmd_OK->setEnabled(classes_->Chosen() > 0 && !txtbox[0]->text().isEmpty());
 }
 
-bool fm_Dog::CheckPostCode() {
-    const QString cleaned = CleanedPostCode(owner_->PostCodeBox().text());
-    owner_->PostCodeBox().setText(cleaned);
-    if (IsPostCode(cleaned))
-        return true;
-    ThePlatform().messages->Show(QStringLiteral("Chyba v zadání PSČ"), MessageIcon::Stop,
-                                 MessageButtons::Ok, windowTitle());
+bool fm_Dog::Refuse(const QString& reason) const {
+    ThePlatform().messages->Show(reason, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
     return false;
 }
 
-bool fm_Dog::CheckOwnerName() {
-    if (!owner_->NameBox().text().isEmpty())
-        return true;
-    ThePlatform().messages->Show(QStringLiteral("Jméno  majitele musí být vyplněno"),
-                                 MessageIcon::Stop, MessageButtons::Ok, windowTitle());
-    return false;
+bool fm_Dog::CheckPostCode() {
+    const QString cleaned = CleanedPostCode(owner_->PostCodeBox().text());
+    owner_->PostCodeBox().setText(cleaned);
+    return PostCodeFromText(cleaned).has_value() || Refuse(QStringLiteral("Chyba v zadání PSČ"));
+}
+
+bool fm_Dog::CheckOwner() {
+    if (owner_->NameBox().text().isEmpty())
+        return Refuse(QStringLiteral("Jméno  majitele musí být vyplněno"));
+    // A name typed over the boxes of nobody would leave the dog without an owner.
+    return owner_->HasOwner() ||
+           Refuse(QStringLiteral("Pes nemá majitele. Vyberte ho v seznamu, nebo ho zadejte po "
+                                 "stisku tlačítka „Přidat nového“."));
 }
 
 Psi fm_Dog::DogFromBoxes() const {
@@ -120,7 +115,7 @@ Psi fm_Dog::DogFromBoxes() const {
 }
 
 void fm_Dog::OK() {
-    if (!CheckPostCode() || !CheckOwnerName())
+    if (!CheckPostCode() || !CheckOwner())
         return;
     SaveDog({Module().IsAddingDog, DogFromBoxes(), owner_->Boxes(), owner_->IsNewOwner()});
     accept();

@@ -34,8 +34,10 @@ class fm_Dog : public Form {
     void ShowDog(const Psi& dog);
     void UpdateClasses();
     void UpdateOKButton();
+    /// Shows why the dog can't be stored; false.
+    bool Refuse(const QString& reason) const;
     bool CheckPostCode();
-    bool CheckOwnerName();
+    bool CheckOwner();
     Psi DogFromBoxes() const;
     void OK();
 

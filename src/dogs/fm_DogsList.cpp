@@ -10,7 +10,9 @@
 #include "forms/report_list.h"
 #include "office/dogs/dog_counts_line.h"
 #include "office/dogs/dog_list_figures.h"
-#include "office/dogs/totals_line.h"
+#include "office/texts/colours.h"
+#include "office/texts/dog_texts.h"
+#include "office/texts/money_texts.h"
 #include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -29,43 +31,31 @@ namespace {
 
 enum Column { kPrice = 7, kCompetitionFees = 9, kAwards = 10, kPaid = 11, kBalance = 12 };
 
-constexpr QColor kArrearsColour(255, 0, 0);
-constexpr QColor kOverpaidColour(0, 160, 0);
-
 QStringList Headings() {
     return {u"Jméno"_s,   u"Pohlaví"_s,  u"Majitel"_s, u"Plemeno"_s, u"Poznámka"_s,
             u"Výstava"_s, u"Uzávěrka"_s, u"Cena"_s,    u"Soutěže"_s, u"Soutěže"_s,
             u"Ocenění"_s, u"Uhrazeno"_s, u"Bilance"_s};
 }
 
-std::optional<QColor> BalanceColour(Currency balance) {
-    if (balance.IsZero())
-        return {};
-    return balance.IsNegative() ? kArrearsColour : kOverpaidColour;
-}
-
-/// An amount as these cells show it: no fixed decimals.
-QString PriceText(Currency amount) {
-    return PlainAmount(amount) + u' ' + Module().MainCurrency;
-}
-
 ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures, AmountTexts& prices) {
-    const QString id = QString::number(dog.IDPsa);
+    const Account& account = figures.account;
+    const std::optional<Currency> fee = account.LastFee();
+    const Currency balance = account.Balance();
     return {NodeKey::Dog(dog.IDPsa).ToText(),
-            id,
-            {{dog.Jmeno + u' ' + dog.ChovnaStanice},
-             {dog.PohlaviPes ? u"Pes"_s : u"Fena"_s},
+            QString::number(dog.IDPsa),
+            {{FullName(dog)},
+             {SexText(dog.PohlaviPes)},
              {dog.JmenoMajitele},
-             {dog.NazevPlemene.isEmpty() ? dog.NazevOrig : dog.NazevPlemene},
+             {BreedName(dog.NazevPlemene, dog.NazevOrig)},
              {dog.Poznamka},
              {figures.shows},
-             {dog.PrvniUzaverka ? u"I"_s : u"II"_s},
-             {figures.lastFee ? prices.Of(*figures.lastFee) : QString()},
+             {ClosingText(dog.PrvniUzaverka)},
+             {fee ? prices.Of(*fee) : QString()},
              {figures.competitions},
-             {prices.Of(figures.competitionFees)},
+             {prices.Of(account.CompetitionFees())},
              {figures.awards},
-             {prices.Of(figures.paid)},
-             {prices.Of(figures.Balance()), BalanceColour(figures.Balance())}}};
+             {prices.Of(account.paid)},
+             {prices.Of(balance), BalanceColour(balance, kOverpaidInDogList)}}};
 }
 
 std::vector<MenuEntry> AwardsMenu(int psiID) {
@@ -120,17 +110,15 @@ void fm_DogsList::FillList() {
     const DogListTables tables;
     std::vector<ReportRow> rows;
     rows.reserve(dogs.size());
-    Currency fees;
-    Currency paid;
+    AccountTotals totals;
     AmountTexts prices(PriceText);
     for (const DogListRow& dog : dogs) {
         const DogListFigures figures = tables.Of(dog);
-        fees += figures.fees;
-        paid += figures.paid;
+        totals.Add(figures.account);
         rows.push_back(RowOf(dog, figures, prices));
     }
     lvwList->SetRows(std::move(rows));
-    sbDogs->SetPanel(2, TotalsLine(fees, paid));
+    sbDogs->SetPanel(2, TotalsLine(totals.owed, totals.paid));
 }
 
 void fm_DogsList::JumpToDog(int position) {

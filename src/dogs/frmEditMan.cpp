@@ -3,12 +3,12 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "office/texts/post_code.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/majitele.h"
 
 #include <QVBoxLayout>
-#include <algorithm>
 
 namespace lorvo {
 
@@ -20,18 +20,6 @@ enum Box { kName, kStreet, kTown, kPostCode, kTelephone, kEmail, kCountry };
 
 /// What the box of an address holds as long as there is none.
 const QString kNoEmail = u"@"_s;
-
-constexpr qsizetype kPostCodeDigits = 5;
-
-/// The number that a typed post code means, blanks in it or not; 0 for none. Nullopt when it is no
-/// post code.
-std::optional<int> PostCodeOf(QString text) {
-    text.remove(u' ');
-    if (text.isEmpty() || text == u"0")
-        return 0;
-    const bool digits = std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return digits && text.size() == kPostCodeDigits ? std::optional(text.toInt()) : std::nullopt;
-}
 
 } // namespace
 
@@ -55,20 +43,18 @@ frmEditMan::frmEditMan(QWidget* parent) : Form("frmEditMan", u"Majitel"_s, Borde
 }
 
 void frmEditMan::Load() {
-    const auto owner = OwnerByID(Module().CurrentOwner);
-    if (!owner)
-        return;
-    txtItem[kName]->setText(owner->Jmeno);
-    txtItem[kStreet]->setText(owner->Ulice);
-    txtItem[kTown]->setText(owner->Mesto);
-    txtItem[kPostCode]->setText(PostCodeText(owner->PSC));
-    txtItem[kTelephone]->setText(owner->Telefon);
-    txtItem[kEmail]->setText(owner->Email.isEmpty() ? kNoEmail : owner->Email);
-    txtItem[kCountry]->setText(owner->Stat.value_or(QString()));
+    const Majitele owner = ExistingOwner(Module().CurrentOwner);
+    txtItem[kName]->setText(owner.Jmeno);
+    txtItem[kStreet]->setText(owner.Ulice);
+    txtItem[kTown]->setText(owner.Mesto);
+    txtItem[kPostCode]->setText(PostCodeText(owner.PSC));
+    txtItem[kTelephone]->setText(owner.Telefon);
+    txtItem[kEmail]->setText(owner.Email.isEmpty() ? kNoEmail : owner.Email);
+    txtItem[kCountry]->setText(owner.Stat.value_or(QString()));
 }
 
 void frmEditMan::Store() {
-    const auto postCode = PostCodeOf(txtItem[kPostCode]->text());
+    const auto postCode = PostCodeFromText(txtItem[kPostCode]->text());
     if (!postCode) {
         ThePlatform().messages->Show(u"Chyba v zadání PSČ"_s, MessageIcon::Stop, MessageButtons::Ok,
                                      windowTitle());

@@ -1,8 +1,8 @@
 #include "dogs/frmPsiVSoutezi.h"
 
-#include "app/module_values.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "store/data_module.h"
 #include "store/psi_lists.h"
@@ -76,18 +76,25 @@ QWidget* frmPsiVSoutezi::MakeSecondDogPanel() {
 }
 
 void frmPsiVSoutezi::Load() {
-    Module().CurrentCompetitionID = soutezID_;
     lvwDogs1->ClearRows();
-    const auto competition = CompetitionByID(soutezID_);
-    if (!competition)
-        return;
-    for (const QString& parameter : {competition->NazevPar1, competition->NazevPar2})
+    const Souteze competition = ExistingCompetition(soutezID_);
+    for (const QString& parameter : {competition.NazevPar1, competition.NazevPar2})
         if (!parameter.isEmpty())
             lvwDogs1->InsertColumn(lvwDogs1->ColumnCount(), parameter);
-    if (competition->Parova) {
+    if (competition.Parova) {
         picSecondDog->show();
         resize(width() + kSecondDogWidth, height());
     }
+}
+
+bool frmPsiVSoutezi::QueryUnload() {
+    if (picSecondDog->isHidden())
+        return true;
+    // What is stored is the width without the second dogs, to which the next pair adds them again.
+    picSecondDog->hide();
+    layout()->activate();
+    resize(width() - kSecondDogWidth, height());
+    return true;
 }
 
 void frmPsiVSoutezi::ListPartners(int position) {
@@ -99,7 +106,7 @@ void frmPsiVSoutezi::ListPartners(int position) {
         return;
     std::vector<ReportRow> rows;
     for (const Psi& bitch : BitchesOfBreeder(dog->Chovatel))
-        rows.push_back({u"P"_s + QString::number(bitch.ID), {}, {{bitch.Jmeno}, {bitch.Chovatel}}});
+        rows.push_back({NodeKey::Dog(bitch.ID).ToText(), {}, {{bitch.Jmeno}, {bitch.Chovatel}}});
     lvwDogs2->SetRows(std::move(rows));
 }
 
@@ -107,8 +114,9 @@ void frmPsiVSoutezi::ChoosePartner(int position) {
     for (int other = 0; other < lvwDogs2->RowCount(); ++other)
         if (other != position)
             lvwDogs2->SetChecked(other, false);
-    if (const int dog = lvwDogs1->SelectedRow(); dog >= 0)
-        partners_[lvwDogs1->Row(dog).tag] = lvwDogs2->Row(position).key;
+    const auto partner = NodeKey::FromText(lvwDogs2->Row(position).key);
+    if (const int dog = lvwDogs1->SelectedRow(); partner && dog >= 0)
+        partners_[lvwDogs1->Row(dog).tag] = partner->id;
 }
 
 void frmPsiVSoutezi::PassCheck(QStandardItem& changed) {
@@ -130,7 +138,7 @@ void frmPsiVSoutezi::Store() {
         const QString tag = dog.data(kTagRole).toString();
         entered.push_back(tag.toInt());
         if (partners_.contains(tag))
-            entered.push_back(partners_[tag].mid(1).toInt());
+            entered.push_back(partners_[tag]);
     }
     EditRun run(TheDataModule().Conn1); // the entries before must not go alone
     DeleteDogsOfCompetition(soutezID_);

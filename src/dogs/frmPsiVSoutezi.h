@@ -21,7 +21,9 @@ class frmPsiVSoutezi : public Form {
     frmPsiVSoutezi(int soutezID, QWidget* parent);
 
   protected:
+    /// StoreError when the competition is gone.
     void Load() override;
+    bool QueryUnload() override;
 
   private:
     void BuildControls();
@@ -39,7 +41,7 @@ class frmPsiVSoutezi : public Form {
     ReportList* lvwDogs1;
     QWidget* picSecondDog;
     ReportList* lvwDogs2;
-    QHash<QString, QString> partners_; ///< key of the second dog by the first one's tag
+    QHash<QString, int> partners_; ///< ID of the second dog by the first one's tag
 };
 
 } // namespace lorvo

@@ -7,8 +7,9 @@
 #include "dogs/totals_bar.h"
 #include "forms/controls.h"
 #include "forms/report_list.h"
-#include "office/dogs/exhibitor_figures.h"
-#include "office/dogs/totals_line.h"
+#include "office/fees/owner_accounts.h"
+#include "office/texts/colours.h"
+#include "office/texts/money_texts.h"
 #include "office/tree/node_key.h"
 #include "payments/frmUhrady.h"
 #include "platform/failure_guard.h"
@@ -43,13 +44,11 @@ enum Column {
 /// Number of the menu's last entry; a positive one is a dog's ID.
 constexpr int kShowPaymentsNumber = -3;
 
-std::optional<QColor> BalanceColour(Currency balance) {
-    if (balance.IsZero())
-        return {};
-    return balance.IsNegative() ? QColor(255, 0, 0) : QColor(0, 180, 0);
+std::optional<QColor> ColourOf(Currency balance) {
+    return BalanceColour(balance, kOverpaidInExhibitors);
 }
 
-ReportRow RowOf(const Majitele& owner, const ExhibitorFigures& figures) {
+ReportRow RowOf(const Majitele& owner, const AccountTotals& account) {
     const QString id = QString::number(owner.ID);
     return {u"M"_s + id,
             id,
@@ -60,10 +59,10 @@ ReportRow RowOf(const Majitele& owner, const ExhibitorFigures& figures) {
              {owner.Stat.value_or(QString())},
              {owner.Telefon},
              {owner.Email},
-             {QString::number(figures.dogs)},
-             {AmountText(figures.fees)},
-             {AmountText(figures.paid)},
-             {AmountText(figures.Balance()), BalanceColour(figures.Balance())}}};
+             {QString::number(account.dogs)},
+             {AmountText(account.owed)},
+             {AmountText(account.paid)},
+             {AmountText(account.Balance()), ColourOf(account.Balance())}}};
 }
 
 /// Moves the bar in whole percents: a row's worth of it would only be repainting.
@@ -85,13 +84,6 @@ std::vector<MenuEntry> MenuOf(int ownerID) {
     payments.number = kShowPaymentsNumber;
     payments.text = u"Zobrazit platby"_s;
     return menu;
-}
-
-Currency PaidForDogsOf(int ownerID) {
-    Currency paid;
-    for (const Psi& dog : DogsOfOwner(ownerID, DogOrder::ByID))
-        paid += PaidForDog(dog.ID);
-    return paid;
 }
 
 } // namespace
@@ -145,21 +137,20 @@ void frmVystavovatele::Load() {
 void frmVystavovatele::FillList() {
     const ReadRun run(TheDataModule().Conn1);
     const std::vector<Majitele> owners = OwnersByName();
-    const ExhibitorTables tables;
+    const OwnerAccounts accounts;
     const int count = static_cast<int>(owners.size());
     sb->SetPanel(1, u"Celkem %1 vystavovatelů."_s.arg(count));
     pbMain->setRange(0, count + 1);
     std::vector<ReportRow> rows;
     rows.reserve(owners.size());
-    ExhibitorFigures totals;
+    AccountTotals totals;
     for (const Majitele& owner : owners) {
-        const ExhibitorFigures figures = tables.Of(owner.ID);
-        totals.fees += figures.fees;
-        totals.paid += figures.paid;
-        rows.push_back(RowOf(owner, figures));
+        const AccountTotals account = accounts.Of(owner.ID);
+        totals.Add(account);
+        rows.push_back(RowOf(owner, account));
         ShowProgress(*pbMain, static_cast<int>(rows.size()));
     }
-    sb->SetPanel(2, TotalsLine(totals.fees, totals.paid));
+    sb->SetPanel(2, TotalsLine(totals.owed, totals.paid));
     lvwList->SetRows(std::move(rows));
 }
 
@@ -167,16 +158,14 @@ void frmVystavovatele::EditOwner(int position) {
     Module().CurrentOwner = lvwList->Row(position).tag.toInt();
     frmEditMan editor(this);
     OpenModal(editor);
-    const auto owner = OwnerByID(Module().CurrentOwner);
-    if (!owner)
-        return;
-    lvwList->SetCell(position, kName, owner->Jmeno);
-    lvwList->SetCell(position, kStreet, owner->Ulice);
-    lvwList->SetCell(position, kTown, owner->Mesto);
-    lvwList->SetCell(position, kPostCode, QString::number(owner->PSC));
-    lvwList->SetCell(position, kCountry, owner->Stat.value_or(QString()));
-    lvwList->SetCell(position, kTelephone, owner->Telefon);
-    lvwList->SetCell(position, kEmail, owner->Email);
+    const Majitele owner = ExistingOwner(Module().CurrentOwner);
+    lvwList->SetCell(position, kName, owner.Jmeno);
+    lvwList->SetCell(position, kStreet, owner.Ulice);
+    lvwList->SetCell(position, kTown, owner.Mesto);
+    lvwList->SetCell(position, kPostCode, QString::number(owner.PSC));
+    lvwList->SetCell(position, kCountry, owner.Stat.value_or(QString()));
+    lvwList->SetCell(position, kTelephone, owner.Telefon);
+    lvwList->SetCell(position, kEmail, owner.Email);
 }
 
 // Whether an owner may go hangs on the text "0" in the cell of the e-mail address.
@@ -222,7 +211,7 @@ void frmVystavovatele::ShowPayments(int position) {
     const Currency balance = paid - AmountFromText(owed);
     lvwList->SetCell(position, kFees, AmountText(paid));
     lvwList->SetCell(position, kPaid, AmountText(balance));
-    lvwList->SetCellColour(position, kPaid, BalanceColour(balance));
+    lvwList->SetCellColour(position, kPaid, ColourOf(balance));
 }
 
 } // namespace lorvo

@@ -1,6 +1,8 @@
 #pragma once
 // What every window but the main one is made of.
 
+#include "store/text_width.h"
+
 #include <QDialog>
 
 namespace lorvo {
@@ -30,7 +32,7 @@ class Form : public QDialog {
 
     /// How many characters the window's boxes take where they set no limit of their own: what a
     /// text field of the store takes. A window whose texts go elsewhere may take more.
-    virtual int LongestTypedText() const { return 255; }
+    virtual int LongestTypedText() const { return kLongestText; }
 
     /// Every road out of the window (button, close box, Esc) ends here.
     void done(int result) override;

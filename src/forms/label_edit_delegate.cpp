@@ -1,6 +1,7 @@
 #include "forms/label_edit_delegate.h"
 
 #include "platform/failure_guard.h"
+#include "store/text_width.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -13,8 +14,7 @@
 namespace lorvo {
 
 namespace {
-constexpr int kRowAir = 5;        ///< pixels that a row is higher than its text
-constexpr int kLongestText = 255; ///< as much as a text field of the store takes
+constexpr int kRowAir = 5; ///< pixels that a row is higher than its text
 /// Lives as long as the editor.
 class EditWatch : public QObject {
   public:

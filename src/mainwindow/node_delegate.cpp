@@ -1,14 +1,11 @@
 #include "mainwindow/node_delegate.h"
 
 #include "platform/failure_guard.h"
+#include "store/text_width.h"
 
 #include <QLineEdit>
 
 namespace lorvo {
-
-namespace {
-constexpr int kLongestName = 255;
-}
 
 void NodeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
@@ -22,7 +19,7 @@ QWidget* NodeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
         if (auto* line = qobject_cast<QLineEdit*>(editor)) {
             line->setObjectName(QStringLiteral("tvwMain.editor"));
-            line->setMaxLength(kLongestName);
+            line->setMaxLength(kLongestText);
         }
         return editor;
     });

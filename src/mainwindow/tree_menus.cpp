@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "mainwindow/window_opener.h"
+#include "office/texts/dog_texts.h"
 #include "office/tree/tree_nodes.h"
 #include "store/plemena.h"
 #include "store/psi.h"
@@ -24,8 +25,7 @@ std::vector<MenuEntry> FciMenu(const Plemena& breed) {
     std::vector<MenuEntry> entries;
     for (int number = kFciNone; number <= kFciLast; ++number) {
         const int fci = number - kFciNone;
-        const QString text =
-            fci ? QStringLiteral("FCI %1").arg(fci) : QStringLiteral("-nezařazeno-");
+        const QString text = fci ? QStringLiteral("FCI %1").arg(fci) : UnassignedText();
         entries.push_back(Entry(number, text, breed.Vlastni, breed.FCI == fci));
     }
     return entries;

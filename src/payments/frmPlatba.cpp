@@ -5,6 +5,7 @@
 #include "forms/controls.h"
 #include "office/payments/conversion.h"
 #include "office/payments/payment_lookups.h"
+#include "office/texts/dog_texts.h"
 #include "payments/auto_complete_box.h"
 #include "payments/price_box.h"
 #include "platform/failure_guard.h"
@@ -86,7 +87,7 @@ void frmPlatba::ConnectControls() {
 
 void frmPlatba::Load() {
     const Psi dog = CurrentDog();
-    setWindowTitle(windowTitle() + u" - "_s + dog.Jmeno + u' ' + dog.ChovnaStanice);
+    setWindowTitle(windowTitle() + u" - "_s + FullName(dog));
     for (const QString& mode : Module().PaymentModes)
         cmbZpusob->addItem(mode);
     const DateValue last = Module().LastPaymentDate;
@@ -117,10 +118,7 @@ bool frmPlatba::eventFilter(QObject* watched, QEvent* event) {
 }
 
 Meny frmPlatba::ChosenCurrency() const {
-    const int menaID = cmbMena->currentData().toInt();
-    if (const auto currency = CurrencyByID(menaID))
-        return *currency;
-    throw StoreError("V tabulce Meny není řádek s číslem " + std::to_string(menaID) + '.');
+    return ExistingCurrency(cmbMena->currentData().toInt());
 }
 
 void frmPlatba::ShowConverted() {

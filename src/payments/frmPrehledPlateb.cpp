@@ -5,6 +5,7 @@
 #include "forms/controls.h"
 #include "forms/report_list.h"
 #include "office/payments/payment_lookups.h"
+#include "office/texts/dog_texts.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/data_module.h"
@@ -31,7 +32,7 @@ constexpr int kNotPrintedIcon = 2;
 constexpr int kPrintedIcon = 3;
 
 ReportCell PrintedCell(bool printed) {
-    return {printed ? u"Ano"_s : u"Ne"_s, {}, printed ? kPrintedIcon : kNotPrintedIcon};
+    return {YesNo(printed), {}, printed ? kPrintedIcon : kNotPrintedIcon};
 }
 
 /// What many rows share.
@@ -47,7 +48,7 @@ ReportRow RowOf(const PaymentRow& payment, SharedTexts& texts) {
             id,
             {{payment.MajX},
              {payment.Jmeno},
-             {payment.Datum ? ThePlatform().locale->DateText(*payment.Datum) : QString()},
+             {DateOrEmpty(payment.Datum)},
              {texts.inMainCurrency.Of(payment.Kc)},
              PrintedCell(payment.Printed),
              {PaymentModeText(payment.Uhrada)},

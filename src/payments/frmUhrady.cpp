@@ -4,6 +4,7 @@
 #include "app/module_values.h"
 #include "forms/controls.h"
 #include "office/payments/payment_lookups.h"
+#include "office/texts/dog_texts.h"
 #include "payments/frmPlatba.h"
 #include "payments/price_box.h"
 #include "platform/failure_guard.h"
@@ -166,7 +167,7 @@ ReportRow frmUhrady::RowOf(const Uhrady& payment, const Psi& dog,
         {PlainAmount(payment.Castka) + u' ' + looked([&] { return currencies.Of(payment.Mena); }),
          {},
          0},
-        {payment.Datum ? ThePlatform().locale->DateText(*payment.Datum) : QString()},
+        {DateOrEmpty(payment.Datum)},
         {AmountText(payment.Kc)},
         {looked([&] { return PaymentModeText(payment.Uhrada); })},
         {payment.Ucet}};

@@ -1,5 +1,6 @@
 #include "setup/breed_register.h"
 
+#include "office/texts/dog_texts.h"
 #include "store/data_module.h"
 #include "store/kruhy.h"
 #include "store/plemena.h"
@@ -24,11 +25,11 @@ class RegisterReader {
     std::unique_ptr<BreedNode> Read(const Plemena& breed) const {
         auto node = MakeBreedNode(breed);
         node->cells[kBreedRing] =
-            breed.ID_Kruhu == 0 ? u"-nezařazeno-"_s : rings_.value(breed.ID_Kruhu);
+            breed.ID_Kruhu == 0 ? UnassignedText() : rings_.value(breed.ID_Kruhu);
         const auto dogs = dogs_.find(breed.ID);
         node->cells[kBreedDogs] = QString::number(dogs == dogs_.end() ? 0 : dogs->second);
-        node->cells[kBreedUsed] = YesNoText(breed.Pouzivat);
-        node->cells[kBreedOwn] = YesNoText(breed.Vlastni);
+        node->cells[kBreedUsed] = YesNo(breed.Pouzivat);
+        node->cells[kBreedOwn] = YesNo(breed.Vlastni);
         node->checked = breed.Pouzivat;
         node->inUse = breed.Pouzivat;
         return node;
@@ -40,7 +41,7 @@ class RegisterReader {
 };
 
 std::vector<MenuEntry> FciEntries(const BreedNode& node, int current) {
-    const bool own = node.cells[kBreedOwn] != YesNoText(false);
+    const bool own = node.cells[kBreedOwn] != YesNo(false);
     std::vector<MenuEntry> entries;
     for (int fci = 0; fci <= kFciGroups; ++fci) {
         MenuEntry entry;
@@ -94,7 +95,7 @@ QString RegisterStatus(int breeds, int used) {
 
 std::vector<MenuEntry> RegisterMenu(const BreedNode& node) {
     const auto breed = BreedByID(node.ID);
-    const bool own = node.cells[kBreedOwn] != YesNoText(false);
+    const bool own = node.cells[kBreedOwn] != YesNo(false);
     MenuEntry fci, ring, remove, jump;
     fci.text = u"Zařadit do FCI"_s;
     fci.submenu = FciEntries(node, breed ? breed->FCI : -1);
@@ -107,10 +108,6 @@ std::vector<MenuEntry> RegisterMenu(const BreedNode& node) {
     jump.text = u"Přejít na plemeno ve stromečku"_s;
     jump.enabled = node.checked;
     return {fci, ring, remove, jump};
-}
-
-QString YesNoText(bool value) {
-    return value ? u"Ano"_s : u"Ne"_s;
 }
 
 QString RingName(int kruhID) {

@@ -22,8 +22,6 @@ QString RegisterStatus(int breeds, int used);
 
 std::vector<MenuEntry> RegisterMenu(const BreedNode& node);
 
-/// "Ano" or "Ne".
-QString YesNoText(bool value);
 /// Name of a ring; empty when there is none of that ID.
 QString RingName(int kruhID);
 

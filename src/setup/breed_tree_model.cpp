@@ -1,5 +1,6 @@
 #include "setup/breed_tree_model.h"
 
+#include "office/texts/dog_texts.h"
 #include "platform/failure_guard.h"
 #include "store/plemena.h"
 
@@ -179,7 +180,7 @@ QString BreedTitle(const QString& nazev, const QString& nazevOrig) {
 }
 
 QString FciText(int fci) {
-    return fci == 0 ? u"-nezařazeno-"_s : QString::number(fci);
+    return fci == 0 ? UnassignedText() : QString::number(fci);
 }
 
 std::unique_ptr<BreedNode> MakeBreedNode(const Plemena& breed) {

@@ -3,6 +3,7 @@
 #include "app/module_values.h"
 #include "forms/command_collection.h"
 #include "forms/controls.h"
+#include "office/texts/dog_texts.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/breed_register.h"
@@ -120,7 +121,7 @@ void fm_Plemena::Tick(int ID) {
         return;
     }
     if (SetBreedUsed(ID, node.checked)) {
-        model.SetCell(node, kBreedUsed, YesNoText(node.checked));
+        model.SetCell(node, kBreedUsed, YesNo(node.checked));
         model.SetInUse(node, node.checked);
         Module().BreedsDirty = true;
     }
@@ -135,8 +136,8 @@ void fm_Plemena::AddSubgroup() {
     auto node = std::make_unique<BreedNode>();
     node->ID = InsertSubgroup(breed->ID, name);
     node->cells[kBreedName] = name;
-    node->cells[kBreedRing] = u"-nezařazeno-"_s;
-    node->cells[kBreedFci] = QString::number(BreedByID(node->ID)->FCI);
+    node->cells[kBreedRing] = UnassignedText();
+    node->cells[kBreedFci] = QString::number(ExistingBreed(node->ID).FCI);
     node->cells[kBreedDogs] = u"0"_s;
     node->blue = true;
     const BreedNode& added = *tvwPlemena->Model().AddChild(*breed, std::move(node));
@@ -191,7 +192,7 @@ void fm_Plemena::ShowHelp() {
 }
 
 void fm_Plemena::RefuseBaseBreed(const BreedNode& node, bool* cancel) {
-    if (node.cells[kBreedOwn] != YesNoText(false))
+    if (node.cells[kBreedOwn] != YesNo(false))
         return;
     *cancel = true;
     Inform(u"Toto plemeno nelze přejmenovat, název je převzat z FCI."_s);

@@ -201,9 +201,10 @@ void fm_Settings::LoadSettings() {
 void fm_Settings::LoadDates() {
     // The date decides the classes of the dogs already entered.
     dtMeeting->setEnabled(CountDogs() == 0);
-    if (!ShowWideValues())
+    const std::optional<Ostatni> values = ShowWideValues();
+    if (!values)
         SetShowDate(kUnknownShowDate);
-    const DateValue stored = ShowWideValues()->DatumVystavy.value_or(DateValue());
+    const DateValue stored = values ? values->DatumVystavy.value_or(DateValue()) : kUnknownShowDate;
     SetPickedDate(*dtMeeting, stored.IsZero() ? kUnknownShowDate : stored);
 
     const std::vector<Vystavy> shows = Shows();

@@ -3,6 +3,7 @@
 // dogs.
 
 #include "store/czech_order.h"
+#include "store/majitele.h"
 #include "store/psi_lists.h"
 #include "store/rows.h"
 
@@ -39,13 +40,6 @@ PlacedDog ReadPlacedDog(const Query& row) {
     dog.Poznamka = row.Text(9);
     std::string key = CzechKey(dog.Jmeno.toStdString());
     return {std::move(dog), !row.IsNull(4), std::move(key)};
-}
-
-std::unordered_map<int, QString> OwnerNames() {
-    std::unordered_map<int, QString> names;
-    for (Query query(TheDataModule().Conn1, "SELECT ID, Jmeno FROM Majitele"); query.Next();)
-        names.emplace(query.Int(0), query.Text(1));
-    return names;
 }
 
 std::unordered_map<int, BreedNames> NamesOfBreeds() {

@@ -2,6 +2,7 @@
 
 #include "platform/values/errors.h"
 #include "store/database_file.h"
+#include "store/text_width.h"
 
 #include <limits>
 #include <sqlite3.h>

@@ -10,9 +10,6 @@ struct sqlite3_stmt;
 
 namespace lorvo {
 
-/// Longest text that a field takes.
-constexpr int kLongestText = 255;
-
 /// `value` as a field of `type` keeps it: any non-zero is true, a text of digits is a number, a
 /// number is a date by its days, and an empty text is Null where a text can't be. Raises StoreError
 /// or RangeError that names `field` when the value doesn't fit.

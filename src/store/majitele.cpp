@@ -51,6 +51,10 @@ std::optional<Majitele> OwnerByID(int majitelID) {
     return std::move(owners.front());
 }
 
+Majitele ExistingOwner(int majitelID) {
+    return Existing(OwnerByID(majitelID), "Majitele", majitelID);
+}
+
 std::vector<Majitele> OwnersByName() {
     return ReadOwners("ORDER BY Jmeno ASC");
 }

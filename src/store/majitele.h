@@ -31,6 +31,8 @@ struct OwnerName {
 };
 
 std::optional<Majitele> OwnerByID(int majitelID);
+/// The same; StoreError when the owner is gone.
+Majitele ExistingOwner(int majitelID);
 /// All owners in Czech order of Jmeno.
 std::vector<Majitele> OwnersByName();
 /// All owners in Czech order of Jmeno, then of Prijmeni.

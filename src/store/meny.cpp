@@ -35,6 +35,10 @@ std::optional<Meny> CurrencyByID(int menaID) {
     return ReadFirst(Table(), "SELECT * FROM Meny WHERE ID = " + Number(menaID), ReadMeny);
 }
 
+Meny ExistingCurrency(int menaID) {
+    return Existing(CurrencyByID(menaID), "Meny", menaID);
+}
+
 std::vector<Meny> Currencies() {
     return ReadRows(Table(), "SELECT * FROM Meny", ReadMeny);
 }

@@ -19,6 +19,8 @@ struct Meny {
 };
 
 std::optional<Meny> CurrencyByID(int menaID);
+/// The same; StoreError when the currency is gone.
+Meny ExistingCurrency(int menaID);
 /// All currencies in ID order.
 std::vector<Meny> Currencies();
 /// Currencies marked as the main one, in ID order; meant to be one.

@@ -16,10 +16,6 @@ Oceneni ReadOceneni(const RecordSet& row) {
 
 } // namespace
 
-std::optional<Oceneni> AwardByID(int oceneniID) {
-    return ReadFirst(Table(), "SELECT * FROM Oceneni WHERE ID = " + Number(oceneniID), ReadOceneni);
-}
-
 std::vector<Oceneni> Awards() {
     return ReadRows(Table(), "SELECT * FROM Oceneni", ReadOceneni);
 }

@@ -13,7 +13,6 @@ struct Oceneni {
     QString Nazev;
 };
 
-std::optional<Oceneni> AwardByID(int oceneniID);
 /// All awards in ID order.
 std::vector<Oceneni> Awards();
 /// All awards in Czech order of Nazev.

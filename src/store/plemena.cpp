@@ -41,6 +41,10 @@ std::optional<Plemena> BreedByID(int plemenoID) {
     return ReadFirst(Table(), "SELECT * FROM Plemena WHERE ID = " + Number(plemenoID), ReadPlemena);
 }
 
+Plemena ExistingBreed(int plemenoID) {
+    return Existing(BreedByID(plemenoID), "Plemena", plemenoID);
+}
+
 std::vector<Plemena> UsedBreedsOutsideRings() {
     return Breeds("WHERE ID_Kruhu = 0 AND Pouzivat = true ORDER BY Nazev");
 }
@@ -51,10 +55,6 @@ std::vector<Plemena> BreedsOfRing(int kruhID) {
 
 std::vector<Plemena> BreedsByRing() {
     return Breeds("WHERE ID_Kruhu <> 0 ORDER BY ID_Kruhu, Nazev");
-}
-
-std::vector<Plemena> UsedBreedsOfRing(int kruhID) {
-    return Breeds("WHERE ID_Kruhu = " + Number(kruhID) + " AND Pouzivat = TRUE ORDER BY Nazev ASC");
 }
 
 std::vector<Plemena> UsedBreedsByName() {

@@ -24,14 +24,14 @@ struct Plemena {
 enum class BreedFilter { All, Used };
 
 std::optional<Plemena> BreedByID(int plemenoID);
+/// The same; StoreError when the breed is gone.
+Plemena ExistingBreed(int plemenoID);
 /// Breeds in use that are in no ring, in Czech order of Nazev.
 std::vector<Plemena> UsedBreedsOutsideRings();
 /// All breeds of a ring, in use or not, in Czech order of Nazev.
 std::vector<Plemena> BreedsOfRing(int kruhID);
 /// The breeds of all rings, by ID_Kruhu, and within a ring as BreedsOfRing has them.
 std::vector<Plemena> BreedsByRing();
-/// Breeds of a ring that are in use, in Czech order of Nazev.
-std::vector<Plemena> UsedBreedsOfRing(int kruhID);
 /// All breeds in use, in Czech order of Nazev.
 std::vector<Plemena> UsedBreedsByName();
 /// Breeds in use of an FCI group, in ID order.

@@ -61,12 +61,12 @@ std::optional<Psi> DogByID(int psiID) {
     return std::move(dogs.front());
 }
 
-std::vector<Psi> DogsOfOwner(int majitelID, DogOrder order) {
-    return ReadDogs("WHERE MajitelID = " + Number(majitelID) + OrderClause(order));
+Psi ExistingDog(int psiID) {
+    return Existing(DogByID(psiID), "Psi", psiID);
 }
 
-std::vector<Psi> DogsOfBreed(int plemenoID) {
-    return ReadDogs("WHERE PlemenoID = " + Number(plemenoID) + " ORDER BY " + kOrderInBreed);
+std::vector<Psi> DogsOfOwner(int majitelID, DogOrder order) {
+    return ReadDogs("WHERE MajitelID = " + Number(majitelID) + OrderClause(order));
 }
 
 std::vector<Psi> DogsByBreed() {

@@ -50,11 +50,11 @@ struct TreeDog {
 enum class DogOrder { ByID, ByName, ByNameDescending };
 
 std::optional<Psi> DogByID(int psiID);
+/// The same; StoreError when the dog is gone.
+Psi ExistingDog(int psiID);
 /// Dogs of an owner; names in Czech order.
 std::vector<Psi> DogsOfOwner(int majitelID, DogOrder order = DogOrder::ByName);
-/// Dogs of a breed: males first, then by class, then by name.
-std::vector<Psi> DogsOfBreed(int plemenoID);
-/// All dogs, by PlemenoID, and within a breed as DogsOfBreed has them.
+/// All dogs, by PlemenoID, and within a breed as TreeDogsOfBreed has them.
 std::vector<Psi> DogsByBreed();
 /// Dogs of a breed as the tree shows them: males first, then by class, then by name.
 std::vector<TreeDog> TreeDogsOfBreed(int plemenoID);

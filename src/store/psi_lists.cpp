@@ -12,7 +12,7 @@ RecordSet& Table() {
 }
 
 DogFeeRow ReadDogFeeRow(const Query& row) {
-    return {row.Int(0), row.Int(1), row.Int(2), row.Bool(3), row.Bool(4)};
+    return {row.Int(0), row.Int(1), row.Int(2), row.Int(3), row.Bool(4), row.Bool(5)};
 }
 
 int CountWhere(const std::string& condition) {
@@ -22,7 +22,8 @@ int CountWhere(const std::string& condition) {
 } // namespace
 
 std::vector<DogFeeRow> DogFeeRows() {
-    return ReadMany("SELECT ID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi", ReadDogFeeRow);
+    return ReadMany("SELECT ID, PlemenoID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi",
+                    ReadDogFeeRow);
 }
 
 std::vector<Psi> DogsByNumber() {
@@ -43,10 +44,6 @@ std::vector<Psi> DogsBySex() {
 
 std::vector<Psi> MalesByClass() {
     return ReadDogs("WHERE PohlaviPes ORDER BY Trida, Jmeno ASC");
-}
-
-std::vector<Psi> DogsOfBreedByName(int plemenoID) {
-    return ReadDogs("WHERE Psi!PlemenoID = " + Number(plemenoID) + " ORDER BY Jmeno");
 }
 
 std::vector<Psi> DogsOfFather(const QString& otec) {

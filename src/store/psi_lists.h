@@ -28,6 +28,7 @@ struct DogListRow {
 /// What the fee of a dog depends on.
 struct DogFeeRow {
     int ID = 0;
+    int PlemenoID = 0;
     int MajitelID = 0;
     int Trida = 0;
     bool PrvniUzaverka = false;
@@ -49,8 +50,6 @@ std::vector<Psi> DogsByName();
 std::vector<Psi> DogsBySex();
 /// Males by class, in Czech order of Jmeno.
 std::vector<Psi> MalesByClass();
-/// Dogs of a breed in Czech order of Jmeno.
-std::vector<Psi> DogsOfBreedByName(int plemenoID);
 /// Dogs whose father or mother bears exactly this name, in Czech order of Jmeno.
 std::vector<Psi> DogsOfFather(const QString& otec);
 std::vector<Psi> DogsOfMother(const QString& matka);

@@ -1,5 +1,7 @@
 #include "store/rows.h"
 
+#include "platform/values/errors.h"
+
 namespace lorvo {
 
 namespace {
@@ -28,6 +30,11 @@ std::vector<int> ReadNumbers(const std::string& statement) {
 
 std::vector<QString> ReadTexts(const std::string& statement) {
     return ReadMany(statement, [](const Query& row) { return row.Text(0); });
+}
+
+void ThrowNoRow(const char* table, int ID) {
+    throw StoreError(std::string("V tabulce ") + table + " není řádek s číslem " + Number(ID) +
+                     '.');
 }
 
 int InsertRow(RecordSet& set, const std::string& table, const Assignments& fields) {

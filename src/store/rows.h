@@ -33,6 +33,16 @@ template<class Reader> auto ReadFirst(RecordSet& set, const std::string& stateme
     return row;
 }
 
+/// StoreError that names a row which is gone.
+[[noreturn]] void ThrowNoRow(const char* table, int ID);
+
+/// The row of `table` with this ID, where only a damaged show can lack it. StoreError without one.
+template<class Row> Row Existing(std::optional<Row> row, const char* table, int ID) {
+    if (!row)
+        ThrowNoRow(table, ID);
+    return *std::move(row);
+}
+
 /// All rows of `statement`, each read by `read(const Query&)`: for tables that hold many rows.
 template<class Reader> auto ReadMany(const std::string& statement, Reader read) {
     Query query(TheDataModule().Conn1, statement);

@@ -37,6 +37,10 @@ std::optional<Souteze> CompetitionByID(int soutezID) {
     return ReadFirst(Table(), "SELECT * FROM Souteze WHERE ID = " + Number(soutezID), ReadSouteze);
 }
 
+Souteze ExistingCompetition(int soutezID) {
+    return Existing(CompetitionByID(soutezID), "Souteze", soutezID);
+}
+
 std::vector<Souteze> CompetitionsByName() {
     return ReadRows(Table(), "SELECT * FROM Souteze ORDER BY Nazev ASC", ReadSouteze);
 }

@@ -21,6 +21,8 @@ struct Souteze {
 };
 
 std::optional<Souteze> CompetitionByID(int soutezID);
+/// The same; StoreError when the competition is gone.
+Souteze ExistingCompetition(int soutezID);
 /// All competitions in Czech order of Nazev.
 std::vector<Souteze> CompetitionsByName();
 /// All competitions in ID order.

@@ -16,18 +16,9 @@ std::vector<int> CompetitionsOfDog(int psiID) {
     return ReadNumbers("SELECT ID_Souteze FROM Vazby_Souteze WHERE ID_Psa = " + Number(psiID));
 }
 
-bool IsDogInCompetition(int psiID, int soutezID) {
-    return ReadCount(Table(), "SELECT COUNT (*) FROM Vazby_Souteze WHERE ID_Psa = " +
-                                  Number(psiID) + " AND ID_Souteze = " + Number(soutezID)) > 0;
-}
-
 int CountDogsInCompetition(int soutezID) {
     return ReadCount(Table(),
                      "SELECT COUNT(*) FROM Vazby_Souteze WHERE ID_Souteze = " + Number(soutezID));
-}
-
-std::unordered_map<int, int> DogCountsByCompetition() {
-    return CountEach("SELECT ID_Souteze FROM Vazby_Souteze");
 }
 
 std::unordered_map<int, std::vector<int>> CompetitionsByDog() {

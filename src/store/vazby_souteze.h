@@ -9,12 +9,9 @@ namespace lorvo {
 
 /// ID_Souteze of each row of the dog, in row order.
 std::vector<int> CompetitionsOfDog(int psiID);
-bool IsDogInCompetition(int psiID, int soutezID);
 
 /// Rows of a competition.
 int CountDogsInCompetition(int soutezID);
-/// The same for all competitions that have any.
-std::unordered_map<int, int> DogCountsByCompetition();
 /// ID_Souteze of each row by the dog's ID, in row order.
 std::unordered_map<int, std::vector<int>> CompetitionsByDog();
 

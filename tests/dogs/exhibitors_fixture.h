@@ -3,14 +3,18 @@
 // reckons each owner's figures dog by dog with the statements for one row.
 
 #include "app/module_values.h"
-#include "office/dogs/exhibitor_figures.h"
+#include "office/fees/account.h"
 #include "store/majitele.h"
+#include "store/psi.h"
 #include "store/psi_ve_vystavach.h"
 #include "store/routines_fixture.h"
 #include "store/souteze.h"
 #include "store/uhrady.h"
 #include "store/vazby_souteze.h"
+#include "store/vystavy.h"
 #include "support/recording_platform.h"
+
+#include <algorithm>
 
 namespace lorvo::test {
 
@@ -51,17 +55,18 @@ class ExhibitorsTest : public RoutinesTest {
     static void Pay(int dog, Currency kc) { Add("Uhrady", {{"ID_Psa", dog}, {"Kc", kc}}); }
 
     /// Figures of an owner, read dog by dog and row by row.
-    static ExhibitorFigures Walk(int owner) {
-        ExhibitorFigures figures;
+    static AccountTotals Walk(int owner) {
+        AccountTotals figures;
         for (const Psi& dog : DogsOfOwner(owner, DogOrder::ByID)) {
             ++figures.dogs;
             figures.paid += PaidForDog(dog.ID);
             for (const int show : ShowsOfDog(dog.ID))
-                figures.fees +=
+                figures.owed +=
                     ShowFee(show, FeeColumn(dog.PrvniUzaverka, dog.Trida, dog.PrvniPes));
+            const std::vector<int> entered = CompetitionsOfDog(dog.ID);
             for (const Souteze& competition : CompetitionsByName())
-                if (IsDogInCompetition(dog.ID, competition.ID))
-                    figures.fees += competition.Cena.value_or(Currency());
+                if (std::ranges::count(entered, competition.ID) > 0)
+                    figures.owed += competition.Cena.value_or(Currency());
         }
         return figures;
     }

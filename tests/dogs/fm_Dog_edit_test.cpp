@@ -124,6 +124,39 @@ TEST_F(EditDogTest, ADogWhoseOwnerIsGoneCantBeSaved) {
     });
 }
 
+TEST_F(EditDogTest, ANameTypedForAnOwnerWhoIsGoneLeavesTheDogAsItIs) {
+    const int dog = StoredDog({{"MajitelID", 99}});
+    platform.ExpectMessage(Text("Pes nemá majitele. Vyberte ho v seznamu, nebo ho zadejte po "
+                                "stisku tlačítka „Přidat nového“."));
+    EditDog(dog, [&](QWidget& window) {
+        Press(window, "cmdAddName");
+        Press(window, "cmdAddNameCancel");
+        Box(window, 7).setText(Text("Alena"));
+        Press(window, "cmd_OK");
+        EXPECT_TRUE(window.isVisible());
+    });
+    EXPECT_EQ(Dog("MajitelID", "Rex"), "99");
+}
+
+TEST_F(EditDogTest, APercentSignInTheNameStaysAPercentSign) {
+    const int dog = StoredDog({{"Cislo", 12}});
+    EditDog(dog, [&](QWidget& window) {
+        Box(window, 0).setText(Text("Sto %1 a %2"));
+        Press(window, "cmd_OK");
+    });
+    EXPECT_EQ(tree.NodeText(Node(dog)), Text("Sto %1 a %2 12"));
+}
+
+TEST_F(EditDogTest, ANodeThatIsNoDogsIsNotTakenForTheDogOfItsNumber) {
+    const int dog = StoredDog();
+    tree.selected = QStringLiteral("R%1").arg(dog);
+    Module().IsAddingDog = false;
+    fm_Dog window(nullptr);
+    WhileOpen([&] { OpenModal(window); },
+              [&](QWidget& open) { EXPECT_EQ(Box(open, 0).text(), QString()); });
+    EXPECT_EQ(Module().CurrentDogID, 0);
+}
+
 TEST_F(EditDogTest, ADogThatIsGoneFails) {
     EXPECT_THROW(EditDog(99, [](QWidget&) {}), StoreError);
 }

@@ -2,6 +2,7 @@
 #include "store/majitele.h"
 
 #include <QAbstractItemView>
+#include <QTest>
 
 namespace lorvo::test {
 namespace {
@@ -109,6 +110,66 @@ TEST_F(DogOwnerTest, ZpetWithNobodyChosenBeforeEmptiesTheBoxes) {
         Press(window, "cmd_OK");
     });
     EXPECT_EQ(CountDogs(), 0);
+}
+
+TEST_F(DogOwnerTest, ABlankWithinATypedNameSearchesOnAndDropsNothingDown) {
+    for (const char* name : {"Jan", "Jan Adam", "Jan Novák"})
+        Add("Majitele", {{"Jmeno", Text(name)}, {"Mesto", Text("Aš")}});
+    AddDog([&](QWidget& window) {
+        auto& owners = Control<QComboBox>(window, "cmbOwners");
+        owners.setFocus();
+        QTest::keyClicks(&owners, Text("jan nov"));
+        EXPECT_EQ(owners.currentText(), Text("Jan Novák  Aš"));
+        EXPECT_EQ(Box(window, 7).text(), Text("Jan Novák"));
+        EXPECT_FALSE(owners.view()->isVisible());
+    });
+}
+
+TEST_F(DogOwnerTest, ABlankThatBeginsNoNameDropsTheListDown) {
+    AddDog([&](QWidget& window) {
+        auto& owners = Control<QComboBox>(window, "cmbOwners");
+        owners.setFocus();
+        QTest::keyClick(&owners, Qt::Key_Space);
+        EXPECT_TRUE(owners.view()->isVisible());
+        owners.hidePopup();
+    });
+}
+
+TEST_F(DogOwnerTest, AnOrdinaryPhoneAndAddressFitTheirBoxesAndALongNameShowsItsBeginning) {
+    const QString phone = Text("+420 603 111 222, 777 123 456");
+    const QString address = Text("jaroslava.prochazkova@seznam-adres.cz");
+    const QString name = Text("Jaroslava Procházková-Nováková ze Starého Města pod Landštejnem");
+    Add("Majitele", {{"Jmeno", name}, {"Telefon", phone}, {"Email", address}});
+    AddDog([&](QWidget& window) {
+        ChooseOwner(window, (name + Text("  ")).toUtf8());
+        for (const int box : {6, 11}) {
+            const QLineEdit& field = Box(window, box);
+            EXPECT_LT(field.fontMetrics().horizontalAdvance(field.text()) + 8, field.width());
+        }
+        EXPECT_EQ(Box(window, 7).cursorPosition(), 0);
+        EXPECT_TRUE(Box(window, 7).toolTip().contains(name));
+        const QPalette palette = Box(window, 7).palette();
+        EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text),
+                  palette.color(QPalette::Active, QPalette::Text));
+    });
+}
+
+TEST_F(DogOwnerTest, ANameTypedWithNobodyChosenGivesTheDogNoOwnerAndIsRefused) {
+    platform.ExpectMessage(Text("Pes nemá majitele. Vyberte ho v seznamu, nebo ho zadejte po "
+                                "stisku tlačítka „Přidat nového“."),
+                           MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
+                           Text("Přidat psa"));
+    AddDog([&](QWidget& window) {
+        FillIn(window);
+        Control<QComboBox>(window, "cmbOwners").setCurrentIndex(-1);
+        Press(window, "cmdAddName");
+        Press(window, "cmdAddNameCancel");
+        QTest::keyClicks(&Box(window, 7), Text("Alena"));
+        Press(window, "cmd_OK");
+        EXPECT_TRUE(window.isVisible());
+    });
+    EXPECT_EQ(CountDogs(), 0);
+    EXPECT_EQ(Column("SELECT ID FROM Majitele").size(), 2u);
 }
 
 TEST_F(DogOwnerTest, ANewOwnerIsStoredAndOwnsTheDog) {

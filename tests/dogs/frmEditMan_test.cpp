@@ -113,6 +113,11 @@ TEST_F(OwnerEditorTest, StornoStoresNothing) {
     EXPECT_TRUE(IsNull("SELECT Stat FROM Majitele"));
 }
 
+TEST_F(OwnerEditorTest, AnOwnerWhoIsGoneFails) {
+    Module().CurrentOwner = 99;
+    EXPECT_THROW(Open([](QWidget&) {}), StoreError);
+}
+
 TEST_F(OwnerEditorTest, IsAWindowThatReadsWell) {
     frmEditMan window(nullptr);
     WalkWindow(window);

@@ -65,7 +65,6 @@ TEST_F(CompetitionEntriesTest, OpensWithoutRowsAndOKEmptiesTheCompetitionAlone) 
     const int competition = AddCompetition();
     OpenEntries(competition, [&](QWidget& window) {
         EXPECT_EQ(window.windowTitle(), u"Seznam psů v soutěži");
-        EXPECT_EQ(Module().CurrentCompetitionID, competition);
         EXPECT_EQ(List(window, "lvwDogs1").RowCount(), 0);
         EXPECT_EQ(Dogs(window).rowCount(), 0);
         EXPECT_FALSE(Control<QWidget>(window, "picSecondDog").isVisible());
@@ -95,6 +94,25 @@ TEST_F(CompetitionEntriesTest, NamedParametersBecomeColumns) {
                 [&](QWidget& window) { EXPECT_EQ(headings(window), u"Jméno|Jméno majitele|syn"); });
     OpenEntries(
         2, [&](QWidget& window) { EXPECT_EQ(headings(window), u"Jméno|Jméno majitele|otec|syn"); });
+}
+
+TEST_F(CompetitionEntriesTest, ACompetitionThatIsGoneFails) {
+    EXPECT_THROW(OpenEntries(77, [](QWidget&) {}), StoreError);
+}
+
+TEST_F(CompetitionEntriesTest, ThePairsWideningIsNeverStored) {
+    const int pair = AddCompetition({{"Parova", true}});
+    const int single = AddCompetition();
+    const auto widthOf = [](int competition) {
+        int width = 0;
+        OpenEntries(competition, [&width](QWidget& window) { width = window.width(); });
+        return width;
+    };
+    const int singleWidth = widthOf(single);
+    const int pairWidth = widthOf(pair);
+    EXPECT_GT(pairWidth, singleWidth);
+    EXPECT_EQ(widthOf(pair), pairWidth);
+    EXPECT_EQ(widthOf(single), singleWidth);
 }
 
 TEST_F(CompetitionEntriesTest, APairIsADogAndABitchOfOneBreeder) {

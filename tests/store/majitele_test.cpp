@@ -35,6 +35,7 @@ TEST_F(MajiteleTest, AStoredOwnerReadsBackWhole) {
     EXPECT_EQ(read.Email, owner.Email);
     EXPECT_FALSE(read.Stat);
     EXPECT_FALSE(OwnerByID(ID + 1));
+    EXPECT_THROW(ExistingOwner(ID + 1), StoreError);
 }
 
 TEST_F(MajiteleTest, AFieldThatIsNotGivenStaysAsItIs) {

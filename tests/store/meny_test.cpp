@@ -84,6 +84,7 @@ TEST_F(MenyTest, CurrenciesAreDeletedOneByOneOrAll) {
     DeleteCurrency(first);
     EXPECT_EQ(Nazvy(Currencies()), Texts{"b"});
     EXPECT_FALSE(CurrencyByID(first));
+    EXPECT_THROW(ExistingCurrency(first), StoreError);
     DeleteAllCurrencies();
     EXPECT_EQ(CountCurrencies(), 0);
 }

@@ -119,12 +119,11 @@ TEST_F(WholeListsTest, ShowEntriesWithTheirFees) {
 
 TEST_F(WholeListsTest, CompetitionEntries) {
     auto competitions = CompetitionsByDog();
-    auto counts = DogCountsByCompetition();
     for (const int ID : DogIDs())
         EXPECT_EQ(competitions[ID],
                   ReadNumbers("SELECT ID_Souteze FROM Vazby_Souteze WHERE ID_Psa = " + Number(ID)));
     for (int soutezID = 0; soutezID <= 6; ++soutezID)
-        EXPECT_EQ(counts[soutezID],
+        EXPECT_EQ(CountDogsInCompetition(soutezID),
                   First("SELECT COUNT(*) FROM Vazby_Souteze WHERE ID_Souteze = " + Number(soutezID))
                       .ToInt());
 }
@@ -163,7 +162,7 @@ TEST_F(WholeListsTest, DogsOfAllBreedsInOneOrder) {
     std::vector<Psi> byBreed = DogsByBreed();
     auto dog = byBreed.begin();
     for (int plemenoID = 1; plemenoID <= kBreeds + 1; ++plemenoID)
-        for (const Psi& ofBreed : DogsOfBreed(plemenoID)) {
+        for (const TreeDog& ofBreed : TreeDogsOfBreed(plemenoID)) {
             ASSERT_NE(dog, byBreed.end());
             EXPECT_EQ((dog++)->ID, ofBreed.ID);
         }

@@ -58,14 +58,12 @@ int CurrencyOf(const Town& town) {
     return country.empty() ? 0 : country == u"Polsko" ? 2 : 1;
 }
 
-/// An exhibitor of the exhibitor editor has its whole name in Jmeno and no Prijmeni.
+/// Papers print Jmeno alone, so the whole name stands there. The surname's box is left empty; an
+/// owner added by the editor's safety net has none at all.
 void SetName(Majitele& owner, const Person& person, Dice& dice) {
-    if (dice.Chance(3)) {
-        owner.Jmeno = person.firstName + u' ' + person.surname;
-    } else {
-        owner.Jmeno = person.firstName;
-        owner.Prijmeni = person.surname;
-    }
+    owner.Jmeno = person.firstName + u' ' + person.surname;
+    if (!dice.Chance(3))
+        owner.Prijmeni = QString();
 }
 
 EnteredOwner EnterOwner(int number, Dice& dice) {
@@ -147,12 +145,10 @@ std::vector<int> AnyOf(const std::vector<int>& all, int percent, Dice& dice) {
     return picked;
 }
 
-void EnterInShows(EnteredDog& entered, const ShowSetUp& setUp, Dice& dice) {
-    entered.shows = AnyShows(setUp.shows, dice);
-    AddDogToShows(entered.ID, entered.shows);
-    entered.competitions = AnyOf(setUp.competitions, 15, dice);
-    AddDogToCompetitions(entered.ID, entered.competitions);
-    AddAwardsToDog(entered.ID, AnyOf(setUp.awards, 5, dice));
+void EnterInShows(int psiID, const ShowSetUp& setUp, Dice& dice) {
+    AddDogToShows(psiID, AnyShows(setUp.shows, dice));
+    AddDogToCompetitions(psiID, AnyOf(setUp.competitions, 15, dice));
+    AddAwardsToDog(psiID, AnyOf(setUp.awards, 5, dice));
 }
 
 } // namespace
@@ -174,12 +170,12 @@ std::vector<EnteredDog> EnterDogs(const ShowSize& size, const ShowSetUp& setUp,
         EnteredDog entered;
         entered.owner = first ? i : dice.Below(size.owners);
         dog.MajitelID = owners[static_cast<std::size_t>(entered.owner)].ID;
-        entered.ID = InsertDog(dog);
-        entered.fee = {dog.Trida, dog.PrvniUzaverka, first, dog.PlemenoID == kSpecialBreedID};
+        entered.account = {InsertDog(dog), dog.Trida, dog.PrvniUzaverka, first,
+                           dog.PlemenoID == kSpecialBreedID};
         if (first)
-            MarkFirstDog(entered.ID);
-        EnterInShows(entered, setUp, dice);
-        dogs.push_back(std::move(entered));
+            MarkFirstDog(entered.account.ID);
+        EnterInShows(entered.account.ID, setUp, dice);
+        dogs.push_back(entered);
     }
     return dogs;
 }

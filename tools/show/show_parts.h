@@ -1,7 +1,7 @@
 #pragma once
 // The steps of filling a show, and what each hands on to the next.
 
-#include "office/fees/entry_fee.h"
+#include "office/fees/account.h"
 #include "platform/values/date_value.h"
 #include "show/dice.h"
 #include "show/show_size.h"
@@ -28,11 +28,8 @@ struct EnteredOwner {
 };
 
 struct EnteredDog {
-    int ID = 0;
+    AccountDog account;
     int owner = 0; ///< position among the owners
-    FeeDog fee;
-    std::vector<int> shows;
-    std::vector<int> competitions;
 };
 
 ShowSetUp SettleShow(const ShowSize& size, Dice& dice);

@@ -1,13 +1,9 @@
 // Payments: most dogs are paid in full, some in part, some too much, some not at all.
 
+#include "office/fees/ledger.h"
 #include "office/payments/conversion.h"
 #include "show/show_parts.h"
-#include "store/souteze.h"
 #include "store/uhrady.h"
-#include "store/vystavy.h"
-
-#include <array>
-#include <unordered_map>
 
 namespace lorvo::show {
 
@@ -15,27 +11,6 @@ namespace {
 
 constexpr int kWaysOfPayment = 3;
 constexpr int kPrintedPercent = 30;
-
-class Prices {
-  public:
-    Prices() {
-        for (const Souteze& competition : Competitions())
-            competitions_[competition.ID] = competition.Cena.value_or(Currency());
-    }
-
-    Currency OwedFor(const EnteredDog& dog) const {
-        Currency owed;
-        for (const int show : dog.shows)
-            owed += fees_.Fee(show, dog.fee.firstClosing, dog.fee.trida, dog.fee.firstDog);
-        for (const int competition : dog.competitions)
-            owed += competitions_.at(competition);
-        return owed;
-    }
-
-  private:
-    FeeTables fees_;
-    std::unordered_map<int, Currency> competitions_;
-};
 
 Currency AnyAmount(Currency owed, Dice& dice) {
     const int kind = dice.Below(100);
@@ -71,7 +46,7 @@ DateValue AnyMoment(DateValue day, Dice& dice) {
 void TakePayments(const ShowSize& size, const ShowSetUp& setUp,
                   const std::vector<EnteredOwner>& owners, const std::vector<EnteredDog>& dogs,
                   Dice& dice) {
-    const Prices prices;
+    const ShowLedger ledger;
     std::vector<EnteredDog> payers = dogs;
     dice.Shuffle(payers);
     payers.resize(static_cast<std::size_t>(size.payments) * 9 / 10);
@@ -80,10 +55,11 @@ void TakePayments(const ShowSize& size, const ShowSetUp& setUp,
         const EnteredDog& dog = at < payers.size() ? payers[at] : dice.Pick(payers);
         const EnteredOwner& owner = owners[static_cast<std::size_t>(dog.owner)];
         const Meny& currency = setUp.currencies[static_cast<std::size_t>(owner.currency)];
+        const Currency owed = AccountOf(dog.account, kExhibitorRules, ledger).Owed();
         Uhrady payment;
-        payment.ID_Psa = dog.ID;
+        payment.ID_Psa = dog.account.ID;
         payment.Datum = AnyMoment(setUp.day, dice);
-        SetPaid(payment, InCurrency(AnyAmount(prices.OwedFor(dog), dice), currency), currency);
+        SetPaid(payment, InCurrency(AnyAmount(owed, dice), currency), currency);
         const int way = dice.Below(kWaysOfPayment);
         payment.Uhrada = way;
         payment.Ucet = AnyAccount(way, dice);

@@ -1,20 +1,14 @@
 #pragma once
 // What the dog and owner cards are made of: texts with a colour, and lines of check lists.
 
-#include <QColor>
+#include "office/texts/colours.h"
+
 #include <QString>
 #include <array>
 #include <optional>
 #include <vector>
 
 namespace lorvo {
-
-inline constexpr QColor kMaleColour(0, 0, 255);
-inline constexpr QColor kFemaleColour(255, 0, 0);
-inline constexpr QColor kNoteColour(255, 0, 0);
-inline constexpr QColor kArrearsColour(255, 0, 0);
-/// A price that counts nowhere: of a show or competition that the dog isn't entered in.
-inline constexpr QColor kIdlePriceColour(190, 190, 190);
 
 /// A text and the colour that carries its meaning; without one it has the window's own.
 struct InkedText {
@@ -23,19 +17,6 @@ struct InkedText {
 
     bool operator==(const InkedText&) const = default;
 };
-
-/// The sex of a dog as the colour of its name.
-inline QColor SexColour(bool male) {
-    return male ? kMaleColour : kFemaleColour;
-}
-
-/// A balance: red below 0, `overpaid` above, the window's own colour at 0.
-template<typename Amount>
-std::optional<QColor> BalanceColour(const Amount& balance, QColor overpaid) {
-    if (balance.IsZero())
-        return std::nullopt;
-    return balance.IsNegative() ? kArrearsColour : overpaid;
-}
 
 /// The small icon of a line, which alone tells shows and competitions apart.
 enum class LineIcon { None = 0, Show = 1, Competition = 2 };

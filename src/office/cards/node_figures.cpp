@@ -1,23 +1,11 @@
 #include "office/cards/node_figures.h"
 
 #include "app/common_routines.h"
-#include "platform/values/errors.h"
 #include "store/data_module.h"
 #include "store/plemena.h"
 #include "store/psi.h"
 
 namespace lorvo {
-
-namespace {
-
-Plemena ExistingBreed(int breedID) {
-    const std::optional<Plemena> breed = BreedByID(breedID);
-    if (!breed)
-        throw StoreError("V tabulce Plemena není řádek s číslem " + std::to_string(breedID) + ".");
-    return *breed;
-}
-
-} // namespace
 
 RingFigures FiguresOfRing(int ringID) {
     const ReadRun run(TheDataModule().Conn1);

@@ -27,8 +27,7 @@ QString Counted(const Forms& forms, int count) {
 
 QString DogCountsLine(int males, int females) {
     return QStringLiteral("V seznamu  %1 a %2, celkem %3.")
-        .arg(Counted(kMales, males), Counted(kFemales, females))
-        .arg(males + females);
+        .arg(Counted(kMales, males), Counted(kFemales, females), QString::number(males + females));
 }
 
 } // namespace lorvo

@@ -1,27 +1,17 @@
 #pragma once
 // What each dog of the dog list stands in, has won, owes and has paid, for all dogs at once.
 
-#include "platform/values/money.h"
-#include "store/psi_lists.h"
-#include "store/souteze.h"
-#include "store/vystavy.h"
+#include "office/fees/ledger.h"
 
 #include <QStringList>
-#include <optional>
-#include <unordered_map>
-#include <vector>
 
 namespace lorvo {
 
 struct DogListFigures {
-    QString shows;                   ///< names, a blank between
-    std::optional<Currency> lastFee; ///< of the show entered last; nullopt without a show
-    QString competitions;            ///< names, ", " between
-    Currency competitionFees;
-    QString awards;                                  ///< names, ", " between
-    Currency fees;                                   ///< of shows and competitions
-    Currency paid;                                   ///< in the main currency
-    Currency Balance() const { return paid - fees; } ///< negative means arrears
+    QString shows;        ///< names, a blank between
+    QString competitions; ///< names, ", " between
+    QString awards;       ///< names, ", " between
+    Account account;
 };
 
 /// The dog's award names as a cell shows them.
@@ -33,22 +23,15 @@ class DogListTables {
   public:
     DogListTables();
 
-    /// Entries stand in the order in which they were made. The class goes into the fee column as it
-    /// stands, in the special breed too; a competition counts as often as it is entered, one that
-    /// is gone not at all. Raises StoreError when a price is Null or a fee's column or show is
-    /// missing, and RangeError on overflow.
+    /// Entries stand in the order in which they were made. Raises as ShowLedger::Of does.
     DogListFigures Of(const DogListRow& dog) const;
 
   private:
-    void AddShows(const DogListRow& dog, DogListFigures& figures) const;
-    void AddCompetitions(int psiID, DogListFigures& figures) const;
+    QString ShowNames(const Account& account) const;
+    QString CompetitionNames(const Account& account) const;
 
-    FeeTables fees_;
-    std::unordered_map<int, Souteze> competitions_;
-    std::unordered_map<int, std::vector<int>> showsByDog_;
-    std::unordered_map<int, std::vector<int>> competitionsByDog_;
+    ShowLedger ledger_;
     std::unordered_map<int, QStringList> awardsByDog_;
-    std::unordered_map<int, Currency> paidByDog_;
 };
 
 } // namespace lorvo

@@ -2,12 +2,11 @@
 
 #include "app/main_window_services.h"
 #include "app/module_values.h"
+#include "office/texts/dog_texts.h"
 #include "office/tree/node_key.h"
 #include "platform/values/left_text.h"
 #include "store/barvy.h"
 #include "store/psi_ve_vystavach.h"
-
-#include <algorithm>
 
 namespace lorvo {
 
@@ -46,8 +45,8 @@ void PatchNode(const Psi& dog, int cislo) {
     const QString node = window.SelectedNode();
     const QString name = LeftText(dog.Jmeno, kJmenoWidth);
     window.ShowNodeInfo(node);
-    window.SetItemTitle(name + u' ' + dog.ChovnaStanice);
-    window.SetNodeText(node, cislo > 0 ? QStringLiteral("%1 %2").arg(name).arg(cislo) : name);
+    window.SetItemTitle(FullName(name, dog.ChovnaStanice));
+    window.SetNodeText(node, cislo > 0 ? name + u' ' + QString::number(cislo) : name);
 }
 
 /// Sees to it that the name in the owner's box stands among the owners.
@@ -60,17 +59,6 @@ void AddMissingOwner(const Majitele& boxes) {
 }
 
 } // namespace
-
-QString CleanedPostCode(QString text) {
-    text.remove(u' ');
-    return text.isEmpty() ? QStringLiteral("0") : text;
-}
-
-bool IsPostCode(const QString& cleaned) {
-    const bool digits =
-        std::all_of(cleaned.begin(), cleaned.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return cleaned == u"0" || (cleaned.size() == 5 && digits);
-}
 
 int KeptColour(int barvaID) {
     if (barvaID == 0)

@@ -14,11 +14,6 @@ struct DogEntry {
     bool newOwner = false; ///< the boxes are an owner to be added, to whom the dog then belongs
 };
 
-/// A post code as it was typed, without its blanks; "0" when nothing is left.
-QString CleanedPostCode(QString text);
-/// Whether a cleaned post code is "0" or has exactly five digits.
-bool IsPostCode(const QString& cleaned);
-
 /// The colour that an edited dog keeps: its own while the colour has a name, otherwise 0.
 int KeptColour(int barvaID);
 

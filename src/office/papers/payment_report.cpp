@@ -6,6 +6,7 @@
 #include "office/papers/row_filler.h"
 #include "office/papers/run_progress.h"
 #include "office/payments/payment_lookups.h"
+#include "office/texts/dog_texts.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "store/uhrady.h"
@@ -15,11 +16,11 @@ namespace lorvo {
 namespace {
 
 QString DogOf(const PaymentRow& payment) {
-    return payment.Jmeno + u' ' + payment.ChovnaStanice;
+    return FullName(payment);
 }
 
 QString DateOf(const PaymentRow& payment) {
-    return payment.Datum ? ThePlatform().locale->DateText(*payment.Datum) : QString();
+    return DateOrEmpty(payment.Datum);
 }
 
 QString ModeOf(const PaymentRow& payment) {

@@ -1,39 +1,31 @@
 #include "office/papers/report_texts.h"
 
-#include "app/module_values.h"
-#include "platform/platform.h"
-#include "platform/values/errors.h"
+#include "office/texts/dog_texts.h"
 
 namespace lorvo {
 
 QString ClassNameOf(const Psi& dog) {
-    if (dog.Trida < 1 || dog.Trida > kTableSlots)
-        throw RangeError(QStringLiteral("Pes „%1“ má třídu %2, ale třídy jsou jen 1 až %3.")
-                             .arg(dog.Jmeno)
-                             .arg(dog.Trida)
-                             .arg(kTableSlots)
-                             .toStdString());
-    return Module().ClassNames.at(static_cast<std::size_t>(dog.Trida - 1));
+    return ClassName(dog.Trida, Module().ClassNames, dog.Jmeno);
 }
 
 QString FullNameOf(const Psi& dog) {
-    return dog.Jmeno + u' ' + dog.ChovnaStanice;
+    return FullName(dog);
 }
 
 QString NumberOf(const Psi& dog) {
-    return dog.Cislo ? QString::number(*dog.Cislo) : QString();
+    return NumberOrEmpty(dog.Cislo);
 }
 
 QString BirthDateOf(const Psi& dog) {
-    return dog.DatumNar ? ThePlatform().locale->DateText(*dog.DatumNar) : QString();
+    return DateOrEmpty(dog.DatumNar);
 }
 
 QString SexOf(const Psi& dog) {
-    return dog.PohlaviPes ? QStringLiteral("Pes") : QStringLiteral("Fena");
+    return SexText(dog.PohlaviPes);
 }
 
 QString BreedNameOf(const Plemena& breed) {
-    return breed.Nazev.isEmpty() ? breed.NazevOrig : breed.Nazev;
+    return BreedName(breed);
 }
 
 } // namespace lorvo

@@ -9,10 +9,7 @@ namespace lorvo {
 using namespace Qt::StringLiterals;
 
 Psi CurrentDog() {
-    const int dogID = Module().CurrentDogID;
-    if (const auto dog = DogByID(dogID))
-        return *dog;
-    throw StoreError("V tabulce Psi není řádek s číslem " + std::to_string(dogID) + '.');
+    return ExistingDog(Module().CurrentDogID);
 }
 
 const QString* FindPaymentMode(std::optional<int> uhrada) {

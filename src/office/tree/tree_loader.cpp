@@ -1,6 +1,7 @@
 #include "office/tree/tree_loader.h"
 
 #include "app/module_values.h"
+#include "office/texts/dog_texts.h"
 #include "platform/values/errors.h"
 #include "store/data_module.h"
 #include "store/kruhy.h"
@@ -39,7 +40,7 @@ std::span<const char16_t* const> ClassCaptions(bool specialBreed) {
 
 QString DetailText(const TreeDog& dog) {
     return QStringLiteral(" (%1. uzávěrka%2)")
-        .arg(dog.PrvniUzaverka ? QStringLiteral("I") : QStringLiteral("II"),
+        .arg(ClosingText(dog.PrvniUzaverka),
              dog.PrvniPes ? QStringLiteral(", 1.pes majitele") : QString());
 }
 
@@ -116,7 +117,7 @@ void LoadTree(TreeNodes& nodes) {
     for (const Kruhy& row : RingsByName()) {
         TreeNode* ring = nodes.AddRing(row.ID, row.Nazev);
         for (const Plemena& breed : RowsOf(breeds, &Plemena::ID_Kruhu, row.ID))
-            builder.Add(ring, breed, breed.Nazev.isEmpty() ? breed.NazevOrig : breed.Nazev, false);
+            builder.Add(ring, breed, BreedName(breed), false);
     }
 }
 

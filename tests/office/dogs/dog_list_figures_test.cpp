@@ -12,38 +12,44 @@
 namespace lorvo::test {
 namespace {
 
-DogListFigures FiguresByWalk(const DogListRow& dog) {
-    DogListFigures figures;
+std::string AmountOf(Currency amount) {
+    return amount.ToPlainText('.');
+}
+
+/// What a row of the list shows, reckoned with the statements for one dog.
+std::string DescribeByWalk(const DogListRow& dog) {
     QStringList shows;
+    std::string lastFee = "-";
+    Currency owed;
     for (const int show : ShowsOfDog(dog.IDPsa)) {
-        figures.lastFee = ShowFee(show, FeeColumn(dog.PrvniUzaverka, dog.Trida, dog.PrvniPes));
-        figures.fees += *figures.lastFee;
+        const Currency fee = ShowFee(show, FeeColumn(dog.PrvniUzaverka, dog.Trida, dog.PrvniPes));
+        lastFee = AmountOf(fee);
+        owed += fee;
         shows << ShowByID(show)->Nazev;
     }
     QStringList competitions;
+    Currency prices;
     for (const int entered : CompetitionsOfDog(dog.IDPsa)) {
         if (const auto competition = CompetitionByID(entered)) {
-            figures.competitionFees += competition->Cena.value();
+            prices += competition->Cena.value();
             competitions << competition->Nazev;
         }
     }
-    figures.fees += figures.competitionFees;
-    figures.shows = shows.join(u' ');
-    figures.competitions = competitions.join(QStringLiteral(", "));
-    figures.awards = AwardNamesOfDog(dog.IDPsa).join(QStringLiteral(", "));
-    figures.paid = PaidForDog(dog.IDPsa);
-    return figures;
+    owed += prices;
+    const Currency paid = PaidForDog(dog.IDPsa);
+    return shows.join(u' ').toStdString() + '|' + lastFee + '|' +
+           competitions.join(QStringLiteral(", ")).toStdString() + '|' + AmountOf(prices) + '|' +
+           AwardNamesOfDog(dog.IDPsa).join(QStringLiteral(", ")).toStdString() + '|' +
+           AmountOf(owed) + '|' + AmountOf(paid) + '|' + AmountOf(paid - owed);
 }
 
 std::string Describe(const DogListFigures& figures) {
-    const auto text = [](Currency amount) {
-        return amount.ToPlainText('.');
-    };
+    const Account& account = figures.account;
     return figures.shows.toStdString() + '|' +
-           (figures.lastFee ? text(*figures.lastFee) : std::string("-")) + '|' +
-           figures.competitions.toStdString() + '|' + text(figures.competitionFees) + '|' +
-           figures.awards.toStdString() + '|' + text(figures.fees) + '|' + text(figures.paid) +
-           '|' + text(figures.Balance());
+           (account.LastFee() ? AmountOf(*account.LastFee()) : "-") + '|' +
+           figures.competitions.toStdString() + '|' + AmountOf(account.CompetitionFees()) + '|' +
+           figures.awards.toStdString() + '|' + AmountOf(account.Owed()) + '|' +
+           AmountOf(account.paid) + '|' + AmountOf(account.Balance());
 }
 
 class DogListFiguresTest : public DogListsTest {
@@ -92,21 +98,27 @@ TEST_F(DogListFiguresTest, AreThoseOfAWalkDogByDog) {
     ASSERT_GT(rows.size(), 80U);
     ASSERT_LT(rows.size(), 150U) << "no dog is without its owner";
     for (const DogListRow& dog : rows)
-        EXPECT_EQ(Describe(tables.Of(dog)), Describe(FiguresByWalk(dog))) << "dog " << dog.IDPsa;
+        EXPECT_EQ(Describe(tables.Of(dog)), DescribeByWalk(dog)) << "dog " << dog.IDPsa;
 }
 
 TEST_F(DogListFiguresTest, FailWhereTheWalkFails) {
     const int dog = AddDog("Rex");
     Enter(dog, Add("Vystavy", {{"Nazev", Text("Bez ceníku")}}));
     const DogListRow row = DogsWithOwnersByName().front();
-    EXPECT_THROW(FiguresByWalk(row), StoreError);
+    EXPECT_THROW(DescribeByWalk(row), StoreError);
     EXPECT_THROW(DogListTables().Of(row), StoreError);
     DeleteShowsOfDog(dog);
     Enter(dog, 4711);
     EXPECT_THROW(DogListTables().Of(row), StoreError);
-    DeleteShowsOfDog(dog);
+}
+
+TEST_F(DogListFiguresTest, ACompetitionWithoutAPriceCostsNothing) {
+    const int dog = AddDog("Rex");
     Compete(dog, Add("Souteze", {{"Nazev", Text("Bez ceny")}}));
-    EXPECT_THROW(DogListTables().Of(row), StoreError);
+    Compete(dog, AddCompetition("Pár", 50));
+    const DogListFigures figures = DogListTables().Of(DogsWithOwnersByName().front());
+    EXPECT_EQ(figures.competitions, Text("Bez ceny, Pár"));
+    EXPECT_EQ(figures.account.Owed(), Currency::FromUnits(50));
 }
 
 } // namespace

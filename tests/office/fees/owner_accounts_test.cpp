@@ -1,9 +1,8 @@
-// The figures of all exhibitors at once, held against a walk dog by dog.
+// The accounts of all owners at once, held against a walk dog by dog.
 
-#include "office/dogs/exhibitor_figures.h"
+#include "office/fees/owner_accounts.h"
 
 #include "dogs/exhibitors_fixture.h"
-#include "office/dogs/totals_line.h"
 
 #include <random>
 
@@ -11,11 +10,11 @@ namespace lorvo::test {
 
 namespace {
 
-/// What the figures came to, or which failure.
-std::string Outcome(const std::function<ExhibitorFigures()>& figures) {
+/// What the account came to, or which failure.
+std::string Outcome(const std::function<AccountTotals()>& account) {
     try {
-        const ExhibitorFigures result = figures();
-        return std::to_string(result.dogs) + " dogs, fees " + result.fees.ToPlainText('.') +
+        const AccountTotals result = account();
+        return std::to_string(result.dogs) + " dogs, fees " + result.owed.ToPlainText('.') +
                ", paid " + result.paid.ToPlainText('.') + ", balance " +
                result.Balance().ToPlainText('.');
     } catch (const StoreError&) {
@@ -23,18 +22,18 @@ std::string Outcome(const std::function<ExhibitorFigures()>& figures) {
     }
 }
 
-class ExhibitorFiguresTest : public ExhibitorsTest {
+class OwnerAccountsTest : public ExhibitorsTest {
   protected:
     static std::string Figures(int owner) {
-        return Outcome([&] { return ExhibitorTables().Of(owner); });
+        return Outcome([&] { return OwnerAccounts().Of(owner); });
     }
 };
 
-TEST_F(ExhibitorFiguresTest, AnOwnerWithoutDogsOwesNothing) {
+TEST_F(OwnerAccountsTest, AnOwnerWithoutDogsOwesNothing) {
     EXPECT_EQ(Figures(AddOwner("Eva")), "0 dogs, fees 0, paid 0, balance 0");
 }
 
-TEST_F(ExhibitorFiguresTest, SumsAllShowsAndEachCompetitionOnce) {
+TEST_F(OwnerAccountsTest, SumsAllShowsAndEachCompetitionOnce) {
     const int owner = AddOwner("Eva");
     const int first = AddShow({{"PoplatkyIClass5D1", Currency::FromUnits(300)},
                                {"PoplatkyIIClass5D2", Currency::FromUnits(550)}});
@@ -54,7 +53,7 @@ TEST_F(ExhibitorFiguresTest, SumsAllShowsAndEachCompetitionOnce) {
     EXPECT_EQ(Figures(owner), "2 dogs, fees 1052.1, paid 1000.0001, balance -52.0999");
 }
 
-TEST_F(ExhibitorFiguresTest, ANullFeeAMissingShowAndAClassWithoutAColumnFail) {
+TEST_F(OwnerAccountsTest, ANullFeeAMissingShowAndAClassWithoutAColumnFail) {
     const int show = AddShow({{"PoplatkyIClass5D1", Currency::FromUnits(300)}});
     const int null = AddOwner("Null");
     Enter(AddDog("Rex", null), show);
@@ -66,7 +65,7 @@ TEST_F(ExhibitorFiguresTest, ANullFeeAMissingShowAndAClassWithoutAColumnFail) {
         EXPECT_EQ(Figures(owner), "failure");
 }
 
-class GeneratedShows : public ExhibitorFiguresTest, public ::testing::WithParamInterface<unsigned> {
+class GeneratedShows : public OwnerAccountsTest, public ::testing::WithParamInterface<unsigned> {
   protected:
     static constexpr int kOwners = 12;
     static constexpr int kShows = 3;
@@ -110,30 +109,14 @@ TEST_P(GeneratedShows, ComeToWhatTheWalkComesTo) {
         AddGeneratedDog();
     run.Finish();
 
-    const ExhibitorTables tables;
+    const OwnerAccounts accounts;
     for (const Majitele& owner : OwnersByName())
-        EXPECT_EQ(Outcome([&] { return tables.Of(owner.ID); }),
+        EXPECT_EQ(Outcome([&] { return accounts.Of(owner.ID); }),
                   Outcome([&] { return Walk(owner.ID); }))
             << "owner " << owner.ID;
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, GeneratedShows, ::testing::Range(1u, 13u));
-
-class TotalsLineTest : public ExhibitorsTest {};
-
-TEST_F(TotalsLineTest, AnOverpaymentHasAPlusAndArrearsTheirMinus) {
-    const auto units = [](int amount) {
-        return Currency::FromUnits(amount);
-    };
-    EXPECT_EQ(TotalsLine(units(1000), units(1250)),
-              Text("Poplatky celkem: 1 000,00 Kč, uhrazeno celkem: 1 250,00 Kč, "
-                   "bilance: + 250,00 Kč"));
-    EXPECT_EQ(TotalsLine(units(2500), units(0)),
-              Text("Poplatky celkem: 2 500,00 Kč, uhrazeno celkem:  0,00 Kč, "
-                   "bilance: -2 500,00 Kč"));
-    EXPECT_EQ(TotalsLine(units(5), units(5)),
-              Text("Poplatky celkem:  5,00 Kč, uhrazeno celkem:  5,00 Kč, bilance:  0,00 Kč"));
-}
 
 } // namespace
 
