@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing. Usage: install_packages.sh run|test|windows
+# Installs the Debian packages that are missing. Usage: install_packages.sh run|test|papers|windows
 # "run" is what building and starting the program takes, "test" adds what its tests and
-# measurements take, "windows" what the build for Windows, its proof under Wine and the packages
-# take. Quick when nothing is missing: it then asks the package database alone.
+# measurements take, "papers" what looking at the papers takes, "windows" what the build for
+# Windows, its proof under Wine and the packages take. Quick when nothing is missing: it then asks
+# the package database alone.
 set -euo pipefail
 
 packages=(
@@ -17,6 +18,9 @@ packages=(
 if [ "${1:-run}" = test ]; then
   packages+=(clang-format-14 libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
   packages+=(fonts-liberation fonts-urw-base35) # with DejaVu the three sets that papers are laid out with
+fi
+if [ "${1:-run}" = papers ]; then
+  packages+=(libreoffice-writer-nogui chromium poppler-utils fonts-liberation fonts-urw-base35)
 fi
 if [ "${1:-run}" = windows ]; then
   packages+=(
