@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "platform/platform.h"
+#include "platform/values/errors.h"
 #include "platform/values/format_number.h"
 
 namespace lorvo {
@@ -38,7 +39,10 @@ QString PlainAmount(Currency amount) {
 
 Currency AmountFromText(const QString& text) {
     const auto plain = ThePlatform().locale->PlainNumber(text);
-    return Currency::FromText(plain.value_or(text).toStdString());
+    if (!plain)
+        throw RangeError("Text „" + text.toStdString() +
+                         "“ není částka, zapište ji například jako 1234,50.");
+    return Currency::FromText(plain->toStdString());
 }
 
 QString PercentText(int part, int whole) {

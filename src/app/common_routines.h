@@ -22,8 +22,8 @@ QString ReadIniValue(const QString& section, const QString& key, const QString& 
 QString AmountText(Currency amount);
 /// An amount as the stored number, with the system's decimal sign and no fixed decimals.
 QString PlainAmount(Currency amount);
-/// The amount of a text that is numeric by the locale's rules, grouping and all, or is plain
-/// decimal text. Raises RangeError on any other text and on an amount out of range.
+/// The amount of a text that is numeric (LocaleInfo::PlainNumber). Raises RangeError on any other
+/// text and on an amount out of range.
 Currency AmountFromText(const QString& text);
 /// A share of a whole in the pattern "#0.00%"; 0 when the whole is 0.
 QString PercentText(int part, int whole);

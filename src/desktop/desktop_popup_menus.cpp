@@ -1,6 +1,7 @@
 #include "desktop/desktop_services.h"
 
 #include "platform/failure_guard.h"
+#include "platform/menu_place.h"
 
 #include <QAction>
 #include <QApplication>
@@ -43,7 +44,7 @@ int DesktopPopupMenus::TrackPopup(const std::vector<MenuEntry>& entries) {
     QMenu menu(QApplication::activeWindow());
     menu.setObjectName(QStringLiteral("popupMenu"));
     Fill(menu, entries);
-    const QAction* chosen = menu.exec(QCursor::pos());
+    const QAction* chosen = menu.exec(MenuPlace::Current().value_or(QCursor::pos()));
     RethrowFailure();
     return chosen ? chosen->data().toInt() : 0;
 }

@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/literal_caption.h"
 #include "office/dogs/class_eligibility.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -62,9 +63,8 @@ void DogClassBox::NameClasses() {
     const ModuleValues& module = Module();
     const TextTable& names = module.SpecialBreed ? module.SpecialClassNames : module.ClassNames;
     for (size_t i = 0; i < optClasses.size(); ++i) {
-        QString caption = names[i];
-        optClasses[i]->setText(caption.replace(u'&', QStringLiteral("&&")));
-        optClasses[i]->setHidden(caption.isEmpty());
+        optClasses[i]->setText(LiteralCaption(names[i]));
+        optClasses[i]->setHidden(names[i].isEmpty());
     }
 }
 

@@ -31,6 +31,7 @@ class fm_Dog : public Form {
     QWidget* MakeDogSide();
     QWidget* MakeOwnerSide();
     QWidget* MakeGenderRow(QWidget* parent);
+    void LimitTexts();
     void ShowDog(const Psi& dog);
     void UpdateClasses();
     void UpdateOKButton();

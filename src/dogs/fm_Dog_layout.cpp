@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QRadioButton>
 
 namespace lorvo {
@@ -46,10 +47,21 @@ fm_Dog::fm_Dog(QWidget* parent)
     layout->addStretch();
     layout->addLayout(ButtonRow({cmd_OK, cmdCancel}));
     resize(kDesignedWidth, sizeHint().height());
+    LimitTexts();
     Connect(txtbox[0], &QLineEdit::textChanged, this, &fm_Dog::UpdateOKButton);
     Connect(classes_, &DogClassBox::Clicked, this, &fm_Dog::UpdateOKButton);
     Connect(cmd_OK, &QPushButton::clicked, this, &fm_Dog::OK);
     Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+/// A box takes what the store keeps of its text and no more.
+void fm_Dog::LimitTexts() {
+    txtbox[0]->setMaxLength(kJmenoWidth);
+    for (QComboBox* parent : {icOtec, icMatka})
+        parent->lineEdit()->setMaxLength(kParentWidth);
+    icStanice->lineEdit()->setMaxLength(kDogTextWidth);
+    for (const std::size_t index : {1, 2, 3})
+        txtbox[index]->setMaxLength(kDogTextWidth);
 }
 
 QWidget* fm_Dog::MakeDogSide() {

@@ -22,10 +22,14 @@ namespace {
 constexpr QColor kFatherColour(0, 0, 255);
 constexpr QColor kMotherColour(255, 0, 0);
 
+QString ParentWord(QColor colour) {
+    return colour == kFatherColour ? u"otec"_s : u"matka"_s;
+}
+
 void AddNames(std::vector<ReportRow>& rows, const std::vector<QString>& names, QColor colour) {
     for (const QString& name : names)
         if (!name.isEmpty())
-            rows.push_back({{}, {}, {{name, colour}}});
+            rows.push_back({{}, {}, {{name, colour, -1, ParentWord(colour)}}});
 }
 
 std::vector<Psi> OffspringOf(const ReportCell& parent) {

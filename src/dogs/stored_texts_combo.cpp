@@ -28,6 +28,8 @@ QComboBox* StoredTextsCombo(const QString& name, QWidget* parent) {
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setModel(new QStringListModel(combo));
     PrepareForLongList(*combo);
+    // The box would put a stored text of other letter case in the place of the typed one.
+    QObject::disconnect(combo->lineEdit(), &QLineEdit::editingFinished, combo, nullptr);
     QCompleter* completer = combo->completer();
     completer->setCompletionMode(QCompleter::PopupCompletion);
     completer->setCaseSensitivity(Qt::CaseInsensitive);

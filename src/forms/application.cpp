@@ -1,5 +1,6 @@
 #include "forms/application.h"
 
+#include "forms/wheel_guard.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 
@@ -27,6 +28,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     QFont::insertSubstitutions(QStringLiteral("Tahoma"),
                                {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans"),
                                 QStringLiteral("Liberation Sans")});
+    installEventFilter(new WheelGuard(this));
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

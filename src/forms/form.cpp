@@ -1,7 +1,9 @@
 #include "forms/form.h"
 
+#include "forms/box_hints.h"
 #include "forms/form_settings.h"
 #include "forms/label_edit_delegate.h"
+#include "forms/report_list.h"
 #include "platform/failure_guard.h"
 
 #include <QLayout>
@@ -36,6 +38,13 @@ void ActivateWindowBelow() {
         mainWindowBelow->Activate();
 }
 
+/// A list that is what its window shows is named as the window, unless it has a name of its own.
+void NameLists(const Form& form) {
+    for (ReportList* list : form.findChildren<ReportList*>())
+        if (list->accessibleName().isEmpty())
+            list->setAccessibleName(form.windowTitle());
+}
+
 } // namespace
 
 Form::Form(const char* name, const QString& caption, Border border, QWidget* parent)
@@ -52,6 +61,7 @@ void Form::ShowModally() {
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     LoadFormSettings(*this, border_ == Border::Fixed);
     LimitTypedTexts();
+    NameLists(*this);
     Load();
     RethrowFailure();
     if (unloaded_)
@@ -67,6 +77,7 @@ void Form::LimitTypedTexts() {
     for (QLineEdit* box : findChildren<QLineEdit*>()) {
         if (box->maxLength() == unlimited)
             box->setMaxLength(LongestTypedText());
+        TellItsLimit(*box);
     }
 }
 

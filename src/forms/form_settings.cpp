@@ -8,7 +8,6 @@
 #include <QHeaderView>
 #include <QScreen>
 #include <QWidget>
-#include <map>
 #include <optional>
 
 namespace lorvo {
@@ -39,30 +38,25 @@ std::optional<int> StoredSize(const QString& key, const char* name) {
     return number && *number > 0 ? number : std::nullopt;
 }
 
-void RestoreColumnWidths(const QString& key, QHeaderView& header) {
-    for (int column = 0; column < header.count(); ++column) {
+void RestoreColumnWidths(const QString& key, ReportList& list) {
+    for (int column = 0; column < list.ColumnCount(); ++column) {
         const auto width = StoredNumber(key, QStringLiteral("ColWidth %1").arg(column + 1));
         if (width && *width >= 0)
-            header.resizeSection(column, *width);
+            list.DrawColumn(column, *width);
     }
 }
 
 void RestoreColumnPositions(const QString& key, QHeaderView& header) {
-    std::map<int, int> columnAt;
     for (int column = 0; column < header.count(); ++column) {
         const auto position = StoredNumber(key, QStringLiteral("ColPosition %1").arg(column + 1));
         if (position && *position >= 1 && *position <= header.count())
-            columnAt.emplace(*position, column);
+            header.moveSection(header.visualIndex(column), *position - 1);
     }
-    // From the first place to the last, so that no move disturbs a column that already stands.
-    for (const auto& [position, column] : columnAt)
-        header.moveSection(header.visualIndex(column), position - 1);
 }
 
 void RestoreList(const QWidget& window, ReportList& list) {
     QHeaderView& header = *list.header();
-    header.setSectionsMovable(true);
-    RestoreColumnWidths(ListKey("ColWidths\\", window, list), header);
+    RestoreColumnWidths(ListKey("ColWidths\\", window, list), list);
     RestoreColumnPositions(ListKey("ColPos\\", window, list), header);
     if (ReadRegValue(QStringLiteral("Sys"), QStringLiteral("ShowGrid")) == u"1")
         list.SetGridLines(true);
@@ -74,7 +68,7 @@ void SaveColumns(const QWidget& window, const ReportList& list) {
     const QString positions = ListKey("ColPos\\", window, list);
     for (int column = 0; column < header.count(); ++column) {
         WriteRegValue(widths, QStringLiteral("ColWidth %1").arg(column + 1),
-                      QString::number(header.sectionSize(column)));
+                      QString::number(list.ColumnWidth(column)));
         WriteRegValue(positions, QStringLiteral("ColPosition %1").arg(column + 1),
                       QString::number(header.visualIndex(column) + 1));
     }

@@ -1,5 +1,6 @@
 #include "forms/report_list.h"
 
+#include "forms/light_palette.h"
 #include "forms/report_list_model.h"
 #include "platform/failure_guard.h"
 
@@ -19,9 +20,7 @@ ReportList::ReportList(const char* name, const QStringList& headings, QWidget* p
     setAllColumnsShowFocus(true);
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
-    header()->setSectionsMovable(true);
-    header()->setStretchLastSection(false);
-    header()->setSectionsClickable(true);
+    InstallColumns();
     Connect(model_, &ReportListModel::Ticked, this, &ReportList::ItemCheck);
     Connect(this, &QTreeView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT ItemClick(index.row()); });
@@ -33,6 +32,17 @@ ReportList::~ReportList() = default;
 
 void ReportList::SetRows(std::vector<ReportRow> rows) {
     model_->SetRows(std::move(rows));
+    if (model_->HasColours())
+        KeepToldColours();
+    FitColumns();
+}
+
+/// A list with colours that mean something is light from then on.
+void ReportList::KeepToldColours() {
+    if (light_)
+        return;
+    light_ = true;
+    KeepLight(*this);
 }
 
 int ReportList::AddRow(ReportRow row) {
@@ -45,10 +55,13 @@ void ReportList::ClearRows() {
 
 void ReportList::RemoveRow(const QString& key) {
     if (const int position = FindRow(key); position >= 0)
-        model_->RemoveRow(position);
+        RemoveRowAt(position);
 }
 
 void ReportList::RemoveRowAt(int position) {
+    // The toolkit would choose the next row, which a second Delete then meant.
+    if (selectionModel()->isRowSelected(position) || currentIndex().row() == position)
+        selectionModel()->clear();
     model_->RemoveRow(position);
 }
 
@@ -85,14 +98,12 @@ void ReportList::SetCell(int position, int column, const QString& text) {
 
 void ReportList::SetCellColour(int position, int column, std::optional<QColor> colour) {
     model_->EditCell(position, column, [&](ReportCell& cell) { cell.colour = colour; });
+    if (colour)
+        KeepToldColours();
 }
 
 void ReportList::SetCellIcon(int position, int column, int icon) {
     model_->EditCell(position, column, [&](ReportCell& cell) { cell.icon = icon; });
-}
-
-void ReportList::SetBold(int position, bool bold) {
-    model_->EditRow(position, [&](ReportRow& row) { row.bold = bold; });
 }
 
 void ReportList::SetChecked(int position, bool checked) {
@@ -103,27 +114,14 @@ void ReportList::SetHeading(int column, const QString& text) {
     model_->SetHeading(column, text);
 }
 
-void ReportList::InsertColumn(int column, const QString& heading) {
-    model_->InsertHeading(column, heading);
-}
-
-void ReportList::RemoveColumn(int column) {
-    model_->RemoveHeading(column);
-}
-
 int ReportList::ColumnCount() const {
     return model_->columnCount();
-}
-
-void ReportList::SetColumnWidths(std::initializer_list<int> widths) {
-    int column = 0;
-    for (const int width : widths)
-        header()->resizeSection(column++, width);
 }
 
 void ReportList::AlignRight(std::initializer_list<int> columns) {
     for (const int column : columns)
         model_->AlignRight(column);
+    FitColumns();
 }
 
 HeaderPicture ReportList::PictureOf(int column) const {
@@ -173,10 +171,12 @@ void ReportList::SetIcons(std::vector<QIcon> icons) {
 }
 
 void ReportList::SetSorting(bool on) {
-    disconnect(header(), &QHeaderView::sectionClicked, this, nullptr);
+    sorts_ = on;
+    disconnect(sortClick_);
     if (on)
-        Connect(header(), &QHeaderView::sectionClicked, this,
-                [this](int column) { SortListColumn(*this, column); });
+        sortClick_ = Connect(header(), &QHeaderView::sectionClicked, this,
+                             [this](int column) { SortListColumn(*this, column); });
+    FitColumns();
 }
 
 } // namespace lorvo

@@ -15,7 +15,8 @@ namespace lorvo {
 struct ReportCell {
     QString text;
     std::optional<QColor> colour = {};
-    int icon = -1; ///< position in the list's icons, -1 for none
+    int icon = -1;       ///< position in the list's icons, -1 for none
+    QString spoken = {}; ///< what colour or icon say beside the text, for those who can't see them
 };
 
 struct ReportRow {
@@ -56,7 +57,6 @@ class ReportList : public QTreeView {
     void SetCell(int position, int column, const QString& text);
     void SetCellColour(int position, int column, std::optional<QColor> colour);
     void SetCellIcon(int position, int column, int icon);
-    void SetBold(int position, bool bold);
     void SetChecked(int position, bool checked); ///< without ItemCheck
 
     // Columns, from 0.
@@ -64,7 +64,12 @@ class ReportList : public QTreeView {
     void InsertColumn(int column, const QString& heading);
     void RemoveColumn(int column); ///< with its cells
     int ColumnCount() const;
+    /// The widths by design, from column 0 on; headings and amounts that need more get more.
     void SetColumnWidths(std::initializer_list<int> widths);
+    /// The width that the clerk has drawn, now or before.
+    void DrawColumn(int column, int width);
+    /// As designed, fitted or drawn; the last one shows wider where the list has room left.
+    int ColumnWidth(int column) const;
     /// Numbers and amounts stand at the right, heading and cells.
     void AlignRight(std::initializer_list<int> columns);
     HeaderPicture PictureOf(int column) const;
@@ -78,13 +83,16 @@ class ReportList : public QTreeView {
     // Looks and ways.
     void SetCheckBoxes(bool on);
     void SetGridLines(bool on);
-    bool GridLines() const { return gridLines_; }
     void SetIcons(std::vector<QIcon> icons);
     void SetLabelEdit(bool allowed); ///< in-place editing by F2 or a click on the selected text
     void SetSorting(bool on);        ///< SortListColumn on a click on a heading
     /// Whether an edit in which nothing was typed counts as one, as it does unless told otherwise.
     void SetUntouchedEdits(bool count);
     void StartLabelEdit(int position);
+
+    /// Puts the selected rows on the clipboard, cells parted by tabs and amounts as bare numbers;
+    /// without a selection all rows below their headings.
+    void CopyRows() const;
 
     /// Brings the row in sight, through scrolling areas that the list itself lies in too.
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -93,8 +101,10 @@ class ReportList : public QTreeView {
     /// The clerk ticked or unticked a row; its state has already changed.
     void ItemCheck(int position);
     void ItemClick(int position);
+    /// By the mouse, or by Enter on the selected row.
     void DoubleClick(int position);
     /// The right button was released, over no row when -1. The row has been selected by the press.
+    /// The key of the context menu gives the selected row, -1 when there is none.
     void RightClick(int position);
     void SelectionChanged();
     void DeletePressed();
@@ -109,9 +119,11 @@ class ReportList : public QTreeView {
   protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     void selectionChanged(const QItemSelection& selected,
@@ -119,10 +131,31 @@ class ReportList : public QTreeView {
 
   private:
     friend void SortListColumn(ReportList& list, int column);
+    struct Column {
+        int width = 0;
+        bool drawn = false; ///< by the clerk, now or before
+    };
+
     void InstallEditing();
     void DeliverEditedText(const QPersistentModelIndex& row, const QString& text);
+    bool TakeKey(QKeyEvent& key);
+    void OpenSelected();
+    void AskForMenu();
+    void InstallColumns();
+    void FitColumns();
+    void KeepToldColours();
+    int HeadingWidth(int column) const;
+    int ContentWidth(int column) const;
+    void ShowColumnWidths();
+    QString CopiedCell(int position, int column) const;
+    template<typename Cell> QString CopiedLine(Cell cell) const;
 
     ReportListModel* model_;
+    std::vector<Column> columns_;
+    bool showingWidths_ = false;
+    bool light_ = false;
+    bool sorts_ = false;
+    QMetaObject::Connection sortClick_;
     bool gridLines_ = false;
     Qt::SortOrder order_ = Qt::AscendingOrder;
     LabelEditDelegate* delegate_ = nullptr;

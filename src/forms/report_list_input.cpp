@@ -1,4 +1,5 @@
 // What the clerk does with a report list by keyboard and mouse.
+#include "forms/keyboard_menu.h"
 #include "forms/label_edit_delegate.h"
 #include "forms/report_list_model.h"
 #include "platform/failure_guard.h"
@@ -7,76 +8,54 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollArea>
-#include <utility>
 
 namespace lorvo {
 
-void ReportList::InstallEditing() {
-    delegate_ = new LabelEditDelegate(*this);
-    delegate_->mayEdit = [this](const QModelIndex& index) {
-        bool cancel = false;
-        Q_EMIT BeforeLabelEdit(index.row(), &cancel);
-        RethrowFailure();
-        return !cancel;
-    };
-    setItemDelegate(delegate_);
-}
-
-void ReportList::SetUntouchedEdits(bool count) {
-    delegate_->untouchedEdits = count;
-}
-
-void ReportList::SetLabelEdit(bool allowed) {
-    model_->editable = allowed;
-    setEditTriggers(allowed ? EditKeyPressed | SelectedClicked : NoEditTriggers);
-}
-
-void ReportList::StartLabelEdit(int position) {
-    SelectRow(position);
-    const bool allowed = std::exchange(model_->editable, true);
-    QTreeView::edit(model_->index(position, 0));
-    model_->editable = allowed;
-}
-
-bool ReportList::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
-    return GuardedAnswer(false, [&]() -> bool {
-        // F2 renames the row wherever in it the keyboard stands.
-        return QTreeView::edit(trigger == EditKeyPressed ? index.siblingAtColumn(0) : index,
-                               trigger, event);
-    });
-}
-
-void ReportList::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
-    Guarded([&] {
-        // Tab ends an edit as any loss of focus does and opens no other row.
-        QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-        const LabelEditDelegate::Edited edited = delegate_->TakeEdited();
-        if (edited.text && edited.index.isValid())
-            DeliverEditedText(edited.index, *edited.text);
-        else if (edited.index.isValid())
-            Q_EMIT LabelEditGivenUp(edited.index.row());
-    });
-}
-
-void ReportList::DeliverEditedText(const QPersistentModelIndex& row, const QString& text) {
-    bool cancel = false;
-    Q_EMIT AfterLabelEdit(row.row(), text, &cancel);
-    RethrowFailure();
-    delegate_->SetRefused(cancel);
-    if (!cancel && row.isValid())
-        SetCell(row.row(), 0, text);
-}
-
 void ReportList::keyPressEvent(QKeyEvent* event) {
     Guarded([&] {
-        const QModelIndex row = currentIndex().siblingAtColumn(0);
-        if (event->key() == Qt::Key_Delete)
-            Q_EMIT DeletePressed();
-        else if (event->key() == Qt::Key_Space && model_->checkBoxes && row.isValid())
-            model_->setData(row, Row(row.row()).checked ? Qt::Unchecked : Qt::Checked,
-                            Qt::CheckStateRole);
-        else
+        if (state() == EditingState)
+            event->accept(); // Enter ends the edit and nothing else
+        else if (!TakeKey(*event))
             QTreeView::keyPressEvent(event);
+    });
+}
+
+/// Whether the key is one that the list has a meaning of its own for.
+bool ReportList::TakeKey(QKeyEvent& key) {
+    const QModelIndex row = currentIndex().siblingAtColumn(0);
+    if (key.key() == Qt::Key_Delete)
+        Q_EMIT DeletePressed();
+    else if (key.key() == Qt::Key_Space && model_->checkBoxes && row.isValid())
+        model_->setData(row, Row(row.row()).checked ? Qt::Unchecked : Qt::Checked,
+                        Qt::CheckStateRole);
+    else if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
+        OpenSelected();
+    else if (AsksForMenu(key))
+        AskForMenu();
+    else if (key.matches(QKeySequence::Copy))
+        CopyRows();
+    else
+        return false;
+    key.accept();
+    return true;
+}
+
+/// Enter does what a double click does, and never what the window's default button would.
+void ReportList::OpenSelected() {
+    if (const int position = SelectedRow(); position >= 0)
+        Q_EMIT DoubleClick(position);
+}
+
+void ReportList::AskForMenu() {
+    OpenMenuByKey(*this, [this](const QModelIndex& row) { Q_EMIT RightClick(row.row()); });
+}
+
+void ReportList::focusInEvent(QFocusEvent* event) {
+    Guarded([&] {
+        QTreeView::focusInEvent(event);
+        // The toolkit makes the first row the current one, which looks like a choice.
+        if (!selectionModel()->hasSelection())
+            selectionModel()->clearCurrentIndex();
     });
 }
 
@@ -91,7 +70,7 @@ void ReportList::mouseReleaseEvent(QMouseEvent* event) {
 void ReportList::contextMenuEvent(QContextMenuEvent* event) {
     Guarded([&] {
         if (event->reason() == QContextMenuEvent::Keyboard)
-            Q_EMIT RightClick(SelectedRow());
+            AskForMenu();
         event->accept();
     });
 }

@@ -4,6 +4,7 @@
 #include "platform/failure_guard.h"
 
 #include <QFont>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -51,6 +52,10 @@ QVariant ReportListModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::TextAlignmentRole:
         return AlignmentOf(index.column());
+    case Qt::AccessibleTextRole:
+        return cell.text.isEmpty() || cell.spoken.isEmpty()
+                   ? cell.text + cell.spoken
+                   : cell.text + QStringLiteral(", ") + cell.spoken;
     case Qt::CheckStateRole:
         return first && checkBoxes ? QVariant(row.checked ? Qt::Checked : Qt::Unchecked)
                                    : QVariant();
@@ -186,8 +191,33 @@ void ReportListModel::AlignRight(int column) {
     rightAligned_.at(static_cast<size_t>(column)) = true;
 }
 
+bool ReportListModel::HasColours() const {
+    const auto isColoured = [](const ReportCell& cell) {
+        return cell.colour.has_value();
+    };
+    return std::any_of(rows_.begin(), rows_.end(), [&](const ReportRow& row) {
+        return std::any_of(row.cells.begin(), row.cells.end(), isColoured);
+    });
+}
+
+QStringList ReportListModel::LongestTexts(int column, int count) const {
+    QStringList texts;
+    for (int position = 0; position < rowCount(); ++position) {
+        const QString& text = Cell(position, column).text;
+        if (texts.size() == count && text.size() <= texts.back().size())
+            continue;
+        const auto place = std::find_if(texts.begin(), texts.end(), [&](const QString& other) {
+            return other.size() < text.size();
+        });
+        texts.insert(place, text);
+        if (texts.size() > count)
+            texts.removeLast();
+    }
+    return texts;
+}
+
 QVariant ReportListModel::AlignmentOf(int column) const {
-    const bool right = rightAligned_.at(static_cast<size_t>(column));
+    const bool right = IsRightAligned(column);
     return QVariant((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 

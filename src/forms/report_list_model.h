@@ -49,6 +49,12 @@ class ReportListModel : public QAbstractTableModel {
     void InsertHeading(int column, const QString& text);
     void RemoveHeading(int column);
     void AlignRight(int column);
+    bool IsRightAligned(int column) const {
+        return rightAligned_.at(static_cast<std::size_t>(column));
+    }
+    bool HasColours() const;
+    /// The longest texts of a column in letters, at most so many.
+    QStringList LongestTexts(int column, int count) const;
     HeaderPicture PictureOf(int column) const;
 
     /// Sorts by a column's texts in Czech order without regard to letter case, rows of equal text

@@ -17,12 +17,25 @@ QFont Bold(QFont font) {
     return font;
 }
 
+/// What the picture of a line says.
+QString IconWord(LineIcon icon) {
+    switch (icon) {
+    case LineIcon::Show:
+        return QStringLiteral("výstava");
+    case LineIcon::Competition:
+        return QStringLiteral("soutěž");
+    default:
+        return {};
+    }
+}
+
 ReportRow RowOf(const CheckLine& line) {
     ReportRow row;
     row.key = line.key;
     row.tag = line.tag;
     row.checked = line.checked;
-    row.cells.push_back({line.text, std::nullopt, static_cast<int>(line.icon) - 1});
+    row.cells.push_back(
+        {line.text, std::nullopt, static_cast<int>(line.icon) - 1, IconWord(line.icon)});
     for (const InkedText& text : line.subItems)
         row.cells.push_back({text.text, text.colour});
     return row;

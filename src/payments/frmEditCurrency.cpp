@@ -2,7 +2,9 @@
 
 #include "app/common_routines.h"
 #include "app/module_values.h"
+#include "forms/box_hints.h"
 #include "forms/controls.h"
+#include "forms/literal_caption.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
@@ -35,8 +37,7 @@ frmEditCurrency::frmEditCurrency(int menaID, std::function<void(bool)> onStored,
 }
 
 void frmEditCurrency::BuildControls() {
-    // A caption takes an ampersand as the mark of an access key; the currency's is a letter.
-    const QString rate = CurrencyRateCaption().replace(u'&', u"&&"_s);
+    const QString rate = LiteralCaption(CurrencyRateCaption());
     const QString captions[] = {u"Název"_s, u"Zkratka"_s, rate};
     auto* form = new QFormLayout;
     for (int i = 0; i < 3; ++i) {
@@ -44,6 +45,10 @@ void frmEditCurrency::BuildControls() {
         form->addRow(CaptionFor(txtEditCurr[i], captions[i], this), txtEditCurr[i]);
     }
     txtEditCurr[kName]->setMinimumWidth(220);
+    TellWhatFits(
+        *txtEditCurr[kRate],
+        [](const QString& text) { return ThePlatform().locale->IsNumeric(text); },
+        u"Kurs zapište jako číslo, například 25,50."_s);
     chkMainCurr = Named(new QCheckBox(u"Používat jako hlavní měnu"_s, this), u"chkMainCurr"_s);
     auto* note = new QLabel(
         u"Tuto volbu nelze změnit, pokud již byla přijata alespoň jedna platba."_s, this);

@@ -1,6 +1,8 @@
 #include "platform/real_services.h"
+#include "platform/values/number_text.h"
 #include "platform/values/qt_date.h"
 
+#include <algorithm>
 #include <array>
 
 namespace lorvo {
@@ -70,51 +72,12 @@ QString TimeText(DateValue value) {
         .Text();
 }
 
-/// Reads a number from the left, drops the grouping and writes it in plain form.
-class NumberReader {
-  public:
-    NumberReader(QString group, QString decimalSign)
-        : group_(std::move(group)), decimalSign_(std::move(decimalSign)) {}
-
-    std::optional<QString> Read(const QString& text) {
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            if (!Take(text.at(i), i == 0))
-                return std::nullopt;
-        }
-        return digits_ > 0 ? std::optional(plain_) : std::nullopt;
-    }
-
-  private:
-    bool Take(QChar c, bool first) {
-        if (first && (c == u'-' || c == u'+'))
-            return Append(c);
-        if (c >= u'0' && c <= u'9') {
-            ++digits_;
-            return Append(c);
-        }
-        if (!pastSign_ && c == decimalSign_) {
-            pastSign_ = true;
-            return Append(u'.');
-        }
-        return !pastSign_ && digits_ > 0 && IsGroup(c);
-    }
-
-    /// A locale that groups by some kind of blank takes the one from the keyboard as well.
-    bool IsGroup(QChar c) const {
-        return c == group_ || (c.isSpace() && !group_.isEmpty() && group_.at(0).isSpace());
-    }
-
-    bool Append(QChar c) {
-        plain_ += c;
-        return true;
-    }
-
-    QString group_;
-    QString decimalSign_;
-    QString plain_;
-    int digits_ = 0;
-    bool pastSign_ = false;
-};
+/// The locale's grouping sign, where it is one of those that people type; 0 for a blank, which
+/// groups everywhere.
+char GroupOf(const QLocale& locale) {
+    const QString group = locale.groupSeparator();
+    return group == u","_qs || group == u"."_qs ? group.at(0).toLatin1() : '\0';
+}
 
 class QtLocaleInfo final : public LocaleInfo {
   public:
@@ -135,8 +98,12 @@ class QtLocaleInfo final : public LocaleInfo {
     }
     QString ShortDatePattern() const override { return datePattern_; }
     std::optional<QString> PlainNumber(const QString& text) const override {
-        return NumberReader(locale_.groupSeparator(), QString(QLatin1Char(DecimalSign())))
-            .Read(text.trimmed());
+        // All kinds of blanks count as the keyboard's.
+        QString plain = text;
+        std::replace_if(
+            plain.begin(), plain.end(), [](QChar c) { return c.isSpace(); }, u' ');
+        const auto number = NumberFromText(plain.toStdString(), GroupOf(locale_));
+        return number ? std::optional(QString::fromStdString(*number)) : std::nullopt;
     }
 
   private:

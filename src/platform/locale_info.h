@@ -24,9 +24,9 @@ class LocaleInfo {
     virtual QString ShortDate(DateValue value) const = 0;
     /// The pattern of the short date as date pickers take it ("d.M.yyyy").
     virtual QString ShortDatePattern() const = 0;
-    /// A text that is a number by the locale's rules (sign, grouping, decimal sign; blanks around
-    /// don't count), rewritten without grouping and with a point as the decimal sign; nullopt for
-    /// any other text, the empty one among them.
+    /// A text that is a number (values/number_text.h, with the locale's grouping), rewritten
+    /// without grouping and with a point as the decimal sign; nullopt for any other text, the empty
+    /// one among them.
     virtual std::optional<QString> PlainNumber(const QString& text) const = 0;
 
     bool IsNumeric(const QString& text) const { return PlainNumber(text).has_value(); }

@@ -40,6 +40,7 @@ fm_Souteze::fm_Souteze(QWidget* parent)
                                 this)) {
     BuildControls();
     Connect(lvwSouteze, &ReportList::DoubleClick, this, &fm_Souteze::EditSelected);
+    Connect(lvwSouteze, &ReportList::SelectionChanged, this, &fm_Souteze::OfferEntries);
     Connect(lvwSouteze, &ReportList::DeletePressed, this, &fm_Souteze::RemoveSelected);
     Connect(lvwSouteze, &ReportList::AfterLabelEdit, this, &fm_Souteze::Rename);
 }
@@ -90,6 +91,11 @@ void fm_Souteze::Fill() {
     lvwSouteze->SetRows(std::move(rows));
     if (lvwSouteze->RowCount() > 0)
         lvwSouteze->SelectRow(0);
+}
+
+void fm_Souteze::OfferEntries() {
+    if (lvwSouteze->SelectedRow() >= 0)
+        logged_->setEnabled(true);
 }
 
 int fm_Souteze::CompetitionAt(int position) const {

@@ -28,6 +28,7 @@ class fm_Souteze : public Form {
     void RemoveSelected();
     /// Reads the list anew and comes back to the row of that text, if there still is one.
     void FillAndReselect(const QString& text);
+    void OfferEntries();
     int CompetitionAt(int position) const;
 
     QAction* logged_;

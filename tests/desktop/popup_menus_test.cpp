@@ -1,4 +1,5 @@
 #include "desktop/desktop_services.h"
+#include "platform/menu_place.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -39,6 +40,12 @@ TEST(PopupMenusTest, ReturnsTheNumberOfTheChosenEntry) {
 
 TEST(PopupMenusTest, LeavingTheMenuReturnsZero) {
     EXPECT_EQ(Track({Entry(601, "Přidat kruh")}, [](QMenu&) {}), 0);
+}
+
+TEST(PopupMenusTest, AMenuThatAKeyAskedForOpensWhereTheKeyboardStands) {
+    const MenuPlace place({123, 45});
+    Track({Entry(601, "Přidat kruh")}, [](QMenu& menu) { EXPECT_EQ(menu.pos(), QPoint(123, 45)); });
+    EXPECT_EQ(MenuPlace::Current(), QPoint(123, 45));
 }
 
 TEST(PopupMenusTest, ShowsMarksGreyingSeparatorsAndPlainTexts) {

@@ -127,6 +127,34 @@ TEST_F(DogWindowTest, TheListsOfEarlierEntriesHaveEachOnceAndNoEmptyOne) {
     });
 }
 
+TEST_F(DogWindowTest, BoxesTakeWhatTheStoreKeeps) {
+    AddDog([&](QWidget& window) {
+        QTest::keyClicks(&Box(window, 0), QString(60, u'x'));
+        EXPECT_EQ(Box(window, 0).text().size(), 50);
+        for (const char* combo : {"icOtec", "icMatka"})
+            EXPECT_EQ(Control<QComboBox>(window, combo).lineEdit()->maxLength(), 100) << combo;
+        EXPECT_EQ(Control<QComboBox>(window, "icStanice").lineEdit()->maxLength(), 150);
+        for (const int index : {1, 2, 3})
+            EXPECT_EQ(Box(window, index).maxLength(), 150) << index;
+    });
+}
+
+TEST_F(DogWindowTest, WhatIsTypedKeepsItsLettersBesideStoredTexts) {
+    StoredDog({{"ChovnaStanice", Text("z Lhoty")}, {"Otec", Text("rex")}, {"Matka", Text("Bára")}});
+    AddDog([&](QWidget& window) {
+        const std::pair<const char*, const char*> typed[] = {
+            {"icStanice", "Z LHOTY"}, {"icOtec", "REX"}, {"icMatka", "bára"}};
+        for (const auto& [name, text] : typed) {
+            auto& combo = Control<QComboBox>(window, name);
+            combo.setFocus();
+            QTest::keyClicks(&combo, Text(text));
+            QTest::keyClick(&combo, Qt::Key_Tab);
+            Box(window, 0).setFocus();
+            EXPECT_EQ(combo.currentText(), Text(text));
+        }
+    });
+}
+
 TEST_F(DogWindowTest, ATypedEntryIsOfferedTheNextTime) {
     AddDog([&](QWidget& window) {
         FillIn(window);

@@ -1,12 +1,14 @@
 #include "forms/form_settings.h"
 
 #include "forms/report_list.h"
+#include "support/grid_lines.h"
 #include "support/recording_platform.h"
 
 #include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace lorvo {
@@ -45,7 +47,7 @@ TEST_F(FormSettingsTest, AFreshMachineKeepsTheDesign) {
     EXPECT_EQ(window.geometry(), QRect(40, 50, 300, 200));
     EXPECT_EQ(window.windowState(), Qt::WindowNoState);
     EXPECT_EQ(window.lvwDogs->columnWidth(0), 100);
-    EXPECT_FALSE(window.lvwDogs->GridLines());
+    EXPECT_FALSE(test::ShowsGridLines(*window.lvwDogs));
 }
 
 TEST_F(FormSettingsTest, SetsTheFontOfAllControls) {
@@ -103,6 +105,41 @@ TEST_F(FormSettingsTest, RestoresWidthsAndPositionsOfColumns) {
     EXPECT_TRUE(header.sectionsMovable());
 }
 
+/// The columns in the order in which they stand, from 1.
+std::vector<int> Order(const ReportList& list) {
+    std::vector<int> order;
+    for (int place = 0; place < list.ColumnCount(); ++place)
+        order.push_back(list.header()->logicalIndex(place) + 1);
+    return order;
+}
+
+TEST_F(FormSettingsTest, StoredPlacesAreTakenColumnByColumn) {
+    window.lvwDogs->InsertColumn(3, QStringLiteral("Čtvrtý"));
+    Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 1", "3");
+    Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 2", "2");
+    LoadFormSettings(window, false);
+    EXPECT_EQ(Order(*window.lvwDogs), (std::vector<int>{3, 2, 1, 4}));
+}
+
+TEST_F(FormSettingsTest, EveryOrderOfColumnsComesBack) {
+    std::vector<int> order = {0, 1, 2};
+    do {
+        for (int place = 0; place < 3; ++place) {
+            QHeaderView& header = *window.lvwDogs->header();
+            header.moveSection(header.visualIndex(order[static_cast<std::size_t>(place)]), place);
+        }
+        SaveFormSettings(window);
+        WindowWithList again;
+        LoadFormSettings(again, false);
+        EXPECT_EQ(Order(*again.lvwDogs), Order(*window.lvwDogs));
+    } while (std::next_permutation(order.begin(), order.end()));
+}
+
+TEST_F(FormSettingsTest, TheFirstColumnMovesToo) {
+    LoadFormSettings(window, false);
+    EXPECT_TRUE(window.lvwDogs->header()->isFirstSectionMovable());
+}
+
 TEST_F(FormSettingsTest, AColumnThatNoLongerExistsHasNoEffect) {
     Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 4", "1");
     Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 1", "9");
@@ -114,11 +151,11 @@ TEST_F(FormSettingsTest, GridLinesAreSwitchedOnAndNeverOff) {
     window.lvwDogs->SetGridLines(true);
     Store("Sys\\ShowGrid", "0");
     LoadFormSettings(window, false);
-    EXPECT_TRUE(window.lvwDogs->GridLines());
+    EXPECT_TRUE(test::ShowsGridLines(*window.lvwDogs));
     window.lvwDogs->SetGridLines(false);
     Store("Sys\\ShowGrid", "1");
     LoadFormSettings(window, false);
-    EXPECT_TRUE(window.lvwDogs->GridLines());
+    EXPECT_TRUE(test::ShowsGridLines(*window.lvwDogs));
 }
 
 TEST_F(FormSettingsTest, StoresWhatItReads) {

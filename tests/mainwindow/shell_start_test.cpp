@@ -2,6 +2,7 @@
 #include "mainwindow/shell_fixture.h"
 #include "platform/values/errors.h"
 #include "store/vystavy.h"
+#include "support/grid_lines.h"
 
 #include <QSplitter>
 #include <QToolBar>
@@ -126,7 +127,7 @@ TEST_F(ShellStart, GridLinesFollowThePreferenceBothWays) {
         Setting(u"Sys\\ShowGrid"_qs) = shown ? u"1"_qs : u"0"_qs;
         Start();
         for (const QString& name : {u"lvwSouteze"_qs, u"lvwOceneni"_qs, u"lvwDogs"_qs})
-            EXPECT_EQ(Control<ReportList>(name).GridLines(), shown) << name.toStdString();
+            EXPECT_EQ(test::ShowsGridLines(Control<ReportList>(name)), shown) << name.toStdString();
         window_.reset();
     }
 }

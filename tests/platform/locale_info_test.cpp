@@ -51,8 +51,9 @@ TEST(LocaleInfo, NumbersByCzechRules) {
     EXPECT_EQ(czech->PlainNumber(u"1\u00a0234,50"_qs), u"1234.50"_qs);
     EXPECT_EQ(czech->PlainNumber(u"+,5"_qs), u"+.5"_qs);
     EXPECT_EQ(czech->PlainNumber(u"7,"_qs), u"7."_qs);
+    EXPECT_EQ(czech->PlainNumber(u"1.5"_qs), u"1.5"_qs);
     for (const QString& text :
-         {u""_qs, u" "_qs, u"-"_qs, u","_qs, u"1.5"_qs, u"1,2,3"_qs, u"1,2 3"_qs, u"12a"_qs,
+         {u""_qs, u" "_qs, u"-"_qs, u","_qs, u"1.234,5"_qs, u"1,2,3"_qs, u"1,2 3"_qs, u"12a"_qs,
           u"1e5"_qs, u"--1"_qs, u"1-"_qs, u"12 Kč"_qs, u"٣"_qs})
         EXPECT_FALSE(czech->IsNumeric(text)) << text.toStdString();
 }
@@ -60,8 +61,8 @@ TEST(LocaleInfo, NumbersByCzechRules) {
 TEST(LocaleInfo, NumbersByOtherRules) {
     const auto english = MakeLocaleInfo(QLocale(QLocale::English, QLocale::UnitedStates));
     EXPECT_EQ(english->PlainNumber(u"1,234.5"_qs), u"1234.5"_qs);
-    EXPECT_FALSE(english->IsNumeric(u"1 234"_qs));
-    EXPECT_FALSE(english->IsNumeric(u",5"_qs));
+    EXPECT_EQ(english->PlainNumber(u"12,5"_qs), u"12.5"_qs);
+    EXPECT_EQ(english->PlainNumber(u"1,234"_qs), u"1234"_qs);
 }
 
 } // namespace

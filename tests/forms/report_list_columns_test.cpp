@@ -1,0 +1,73 @@
+#include "forms/report_list.h"
+
+#include <QHeaderView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+class ReportListColumnsTest : public ::testing::Test {
+  protected:
+    ReportListColumnsTest() {
+        list.SetColumnWidths({150, 60});
+        list.resize(600, 300);
+        list.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&list));
+    }
+    int Shown(int column) { return list.header()->sectionSize(column); }
+    static ReportRow Row(const QString& amount) {
+        return {QStringLiteral("P1"), {}, {{QStringLiteral("Rex")}, {amount}}};
+    }
+
+    ReportList list{"lvwTest", {QStringLiteral("Jméno"), QStringLiteral("Uhrazeno")}, nullptr};
+};
+
+TEST_F(ReportListColumnsTest, TheLastColumnFillsTheWidthAndIsKeptAsDesigned) {
+    EXPECT_EQ(Shown(0) + Shown(1), list.viewport()->width());
+    list.resize(500, 300);
+    EXPECT_EQ(Shown(0) + Shown(1), list.viewport()->width());
+    EXPECT_EQ(list.ColumnWidth(0), 150);
+    EXPECT_LT(list.ColumnWidth(1), 150);
+}
+
+TEST_F(ReportListColumnsTest, AMovedColumnTakesItsOwnWidthAgain) {
+    list.header()->moveSection(0, 1);
+    EXPECT_EQ(Shown(1), list.ColumnWidth(1));
+    EXPECT_EQ(Shown(0) + Shown(1), list.viewport()->width());
+    EXPECT_EQ(list.ColumnWidth(0), 150);
+}
+
+TEST_F(ReportListColumnsTest, HeadingsHaveRoomForTheSortPicture) {
+    ReportList sorted("lvwSorted", {QStringLiteral("Uhrazeno"), QStringLiteral("Bilance")},
+                      nullptr);
+    sorted.SetSorting(true);
+    sorted.SetColumnWidths({10, 10});
+    SortListColumn(sorted, 0);
+    for (const int column : {0, 1})
+        EXPECT_GE(sorted.ColumnWidth(column), sorted.header()->sectionSizeHint(column)) << column;
+}
+
+TEST_F(ReportListColumnsTest, AmountsWidenTheirColumnUntilTheClerkDrawsIt) {
+    list.InsertColumn(2, QStringLiteral("Účet"));
+    list.AlignRight({1});
+    const QString amount = QStringLiteral("1234 567,50 Kč a ještě něco");
+    list.SetRows({Row(amount)});
+    EXPECT_GE(list.ColumnWidth(1), list.fontMetrics().horizontalAdvance(amount));
+    list.header()->resizeSection(1, 40);
+    list.SetRows({Row(amount)});
+    EXPECT_EQ(list.ColumnWidth(1), 40);
+    EXPECT_EQ(Shown(1), 40);
+}
+
+TEST_F(ReportListColumnsTest, AnInsertedColumnLeavesTheOthersTheirWidths) {
+    list.InsertColumn(1, QStringLiteral("Pes"));
+    EXPECT_EQ(list.ColumnWidth(0), 150);
+    const int last = list.ColumnWidth(2);
+    list.RemoveColumn(1);
+    EXPECT_EQ(list.ColumnWidth(1), last);
+    EXPECT_EQ(list.ColumnCount(), 2);
+}
+
+} // namespace
+} // namespace lorvo
