@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/keyboard_menu.h"
 #include "mainwindow/node_delegate.h"
 #include "office/tree/tree_loader.h"
 #include "platform/failure_guard.h"
@@ -232,12 +233,27 @@ void MainTree::keyPressEvent(QKeyEvent* event) {
         BringCurrentInSight();
         if (GoesToFirstNode(*event))
             SelectNode(nodes_.First());
+        else if (AsksForMenu(*event))
+            AskForMenu();
         else if (!signal || event->key() == Qt::Key_Home)
             QTreeView::keyPressEvent(event);
         if (signal)
             Q_EMIT(this->*signal)();
         Q_EMIT KeyDone();
     });
+}
+
+void MainTree::contextMenuEvent(QContextMenuEvent* event) {
+    Guarded([&] {
+        if (event->reason() == QContextMenuEvent::Keyboard)
+            AskForMenu();
+        event->accept();
+    });
+}
+
+void MainTree::AskForMenu() {
+    OpenMenuByKey(*this,
+                  [this](const QModelIndex& row) { Q_EMIT RightClick(TreeModel::NodeAt(row)); });
 }
 
 void MainTree::mousePressEvent(QMouseEvent* event) {

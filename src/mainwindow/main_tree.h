@@ -79,10 +79,12 @@ class MainTree : public QTreeView {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
+    void AskForMenu();
     using Signal = void (MainTree::*)();
     static Signal SignalOf(const QKeyEvent& event);
     TreeNode* NodeUnder(const QPoint& point) const;

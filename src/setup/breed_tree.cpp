@@ -1,6 +1,7 @@
 #include "setup/breed_tree.h"
 
 #include "app/start_up.h"
+#include "forms/keyboard_menu.h"
 #include "forms/label_edit_delegate.h"
 #include "platform/failure_guard.h"
 
@@ -63,7 +64,9 @@ void BreedTree::keyPressEvent(QKeyEvent* event) {
             setExpanded(currentIndex(), !isExpanded(currentIndex()));
             break;
         default:
-            if (!IsTyped(*event))
+            if (AsksForMenu(*event))
+                AskForMenu();
+            else if (!IsTyped(*event))
                 QTreeView::keyPressEvent(event);
         }
     });
@@ -108,9 +111,16 @@ void BreedTree::mouseReleaseEvent(QMouseEvent* event) {
 
 void BreedTree::contextMenuEvent(QContextMenuEvent* event) {
     Guarded([&] {
-        if (event->reason() == QContextMenuEvent::Keyboard && SelectedNode())
-            Q_EMIT RightClick();
+        if (event->reason() == QContextMenuEvent::Keyboard)
+            AskForMenu();
         event->accept();
+    });
+}
+
+void BreedTree::AskForMenu() {
+    OpenMenuByKey(*this, [this](const QModelIndex& row) {
+        if (row.isValid())
+            Q_EMIT RightClick();
     });
 }
 

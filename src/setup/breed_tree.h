@@ -45,6 +45,7 @@ class BreedTree : public QTreeView {
                  const QModelIndex& index) const override;
 
   private:
+    void AskForMenu();
     /// Takes a key that belongs to a name being typed.
     bool IsTyped(const QKeyEvent& event);
     void JumpToLetter(QChar letter);
