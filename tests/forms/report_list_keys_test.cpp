@@ -52,7 +52,8 @@ class ReportListKeysTest : public ::testing::Test {
         return {list.viewport()->mapToGlobal(row.topLeft()), row.size()};
     }
     void PressMenuKey() {
-        QContextMenuEvent key(QContextMenuEvent::Keyboard, list.rect().center());
+        const QPoint middle = list.rect().center();
+        QContextMenuEvent key(QContextMenuEvent::Keyboard, middle, list.mapToGlobal(middle));
         QApplication::sendEvent(&list, &key);
     }
     static QString Copied() { return QGuiApplication::clipboard()->text(); }

@@ -14,7 +14,7 @@ inline bool ShowsGridLines(ReportList& list) {
     const QColor painted =
         list.viewport()->grab().toImage().pixelColor(row.center().x(), row.bottom());
     list.RemoveRowAt(position);
-    return painted == list.palette().color(QPalette::Midlight);
+    return painted.rgb() == list.palette().color(QPalette::Midlight).rgb();
 }
 
 } // namespace lorvo::test
