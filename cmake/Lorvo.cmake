@@ -21,7 +21,8 @@ endfunction()
 
 # lorvo_test(NAME SOURCES file... LINKS target...)
 # A GoogleTest program that runs as one entry of ctest. It prepares its surroundings itself, so that
-# it runs the same when started by hand from anywhere.
+# it runs the same when started by hand from anywhere. Not an entry for each case: one start costs
+# 15 to 45 ms of a core, eight times what the case itself costs, and the output names what failed.
 function(lorvo_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
