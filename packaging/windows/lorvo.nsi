@@ -2,7 +2,7 @@
 ; program keeps its data beside itself. Quiet with /S, into another folder with /D=C:\Folder.
 ; What the clerk works on is never touched: not the database, not a changed template, not what was
 ; printed. The uninstaller leaves it too and says where it is.
-;   makensis -INPUTCHARSET UTF8 -DVERSION=1.1.0 -DSTAGE=folder -DOUT=setup.exe lorvo.nsi
+;   tools/windows/installer.sh makes it.
 Unicode true
 Target amd64-unicode
 !include "MUI2.nsh"
@@ -102,14 +102,7 @@ FunctionEnd
 Section "Lorvo"
   !insertmacro RefuseWhileRunning
   SetOutPath "$INSTDIR"
-  File "${STAGE}/*.exe"
-  File "${STAGE}/*.dll"
-  File "${STAGE}/qt.conf"
-  File "${STAGE}/Lorvo.chm"
-  File /r "${STAGE}/platforms"
-  File /r "${STAGE}/styles"
-  File /r "${STAGE}/translations"
-  File /r "${STAGE}/Licence"
+  File /r /x data.mdb /x Šablony "${STAGE}/*"
   ${IfNot} ${FileExists} "$INSTDIR\data.mdb"
     File "${STAGE}/data.mdb"
   ${EndIf}
@@ -138,14 +131,7 @@ SectionEnd
 ; Only what was installed, by name; the folder itself goes when nothing of the clerk's is in it.
 Section "Uninstall"
   !insertmacro RefuseWhileRunning
-  Delete "$INSTDIR\Lorvo.exe"
-  Delete "$INSTDIR\*.dll"
-  Delete "$INSTDIR\qt.conf"
-  Delete "$INSTDIR\Lorvo.chm"
-  RMDir /r "$INSTDIR\platforms"
-  RMDir /r "$INSTDIR\styles"
-  RMDir /r "$INSTDIR\translations"
-  RMDir /r "$INSTDIR\Licence"
+  !include "${REMOVED}" ; a line for each file and folder that was installed
   RMDir /r "$INSTDIR\Šablony\Dodané"
   Delete "$INSTDIR\Odinstalovat.exe"
   Delete "$SMPROGRAMS\Lorvo.lnk"

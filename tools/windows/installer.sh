@@ -5,5 +5,17 @@ set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=tools/windows/folders.sh
 . "$here/folders.sh" "$1"
-makensis -V2 -INPUTCHARSET UTF8 "-DVERSION=$2" "-DSTAGE=$3" "-DOUT=$4" \
+stage=$3
+
+# What the uninstaller removes, by name: all that is staged but the clerk's own.
+removed=$(mktemp)
+trap 'rm -f "$removed"' EXIT
+lines() { sed 's|^\./||; s|/|\\|g; s|.*|  '"$1"' "$INSTDIR\\&"|'; }
+{
+  cd "$stage"
+  find . -type f ! -path ./data.mdb ! -path './Šablony/*' | lines Delete
+  find . -mindepth 1 -depth -type d ! -path ./Šablony | lines RMDir
+} > "$removed"
+
+makensis -V2 -INPUTCHARSET UTF8 "-DVERSION=$2" "-DSTAGE=$stage" "-DREMOVED=$removed" "-DOUT=$4" \
   "-DICON=$here/../../build/windows/packaging/lorvo.ico" "$here/../../packaging/windows/lorvo.nsi"
