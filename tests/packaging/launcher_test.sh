@@ -16,6 +16,7 @@ faults=0
 deliver() { # deliver VERSION: what a package of that version holds
   printf '#!/bin/sh\necho "started %s in $(dirname "$0")"\n' "$1" > "$work/usr/libexec/lorvo/Lorvo"
   chmod +x "$work/usr/libexec/lorvo/Lorvo"
+  cp "$work/usr/libexec/lorvo/Lorvo" "$work/usr/libexec/lorvo/Another"
   echo "breeds of $1" > "$share/data.mdb"
   for name in "Diplomy.html" "Seznam psů.html"; do echo "$name of $1" > "$share/Šablony/$name"; done
   mkdir -p "$share/napoveda"
@@ -57,6 +58,7 @@ expect "new template to look at" "Diplomy.html of 2" "$(cat "$folder/Šablony/Do
 expect "untouched template after an update" "Seznam psů.html of 2" "$(cat "$folder/Šablony/Seznam psů.html")"
 expect "output after an update" "printed" "$(cat "$folder/Šablony/Výstup.html")"
 expect "help after an update" "help of 2" "$(cat "$folder/napoveda/index.html")"
+expect "every program after an update" "started 2 in $folder" "$("$folder/Another")"
 expect "nothing half written" "" "$(find "$folder" -name '*.nový')"
 
 rm "$folder/Šablony/Seznam psů.html"
