@@ -3,8 +3,12 @@
 #include "platform/values/errors.h"
 
 #include <QDir>
+#include <QFileDevice>
 #include <cerrno>
 #include <system_error>
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 namespace lorvo {
 
@@ -45,6 +49,29 @@ QString CauseOfFailure(int error) {
     }
     return QStringLiteral("systém operaci odmítl (%1)")
         .arg(QString::fromLocal8Bit(std::generic_category().message(error).c_str()));
+}
+
+QString CauseOfFailure(const QFileDevice& file) {
+    // A file keeps the system's text and not its number.
+    for (const Cause& cause : kCauses) {
+        if (qt_error_string(cause.error) == file.errorString())
+            return QString::fromUtf16(cause.text);
+    }
+    return QStringLiteral("systém operaci odmítl (%1)").arg(file.errorString());
+}
+
+QString CauseOfSystemFailure(int code) {
+    const auto condition = std::system_category().default_error_condition(code);
+    return CauseOfFailure(condition.category() == std::generic_category() ? condition.value()
+                                                                          : code);
+}
+
+QString CauseOfLastFailure() {
+#ifdef Q_OS_WIN
+    return CauseOfSystemFailure(static_cast<int>(GetLastError()));
+#else
+    return CauseOfFailure(errno);
+#endif
 }
 
 void FailOnFile(const QString& what, const QString& path, int error) {

@@ -3,11 +3,19 @@
 
 #include <QString>
 
+class QFileDevice;
+
 namespace lorvo {
 
 /// The cause in Czech, for the end of a sentence ("na disku není volné místo"). `error` is errno's
 /// value; one that has no text of its own is told with the system's words in brackets.
 QString CauseOfFailure(int error);
+/// The same for what the file's last operation failed on.
+QString CauseOfFailure(const QFileDevice& file);
+/// The same for the system's own number, which isn't errno's everywhere.
+QString CauseOfSystemFailure(int code);
+/// The same for the system's call that has just returned.
+QString CauseOfLastFailure();
 
 /// Raises PlatformError: "WHAT „PATH“: CAUSE".
 [[noreturn]] void FailOnFile(const QString& what, const QString& path, int error);

@@ -1,8 +1,9 @@
 #include "platform/ini_text.h"
 #include "platform/real_services.h"
+#include "platform/values/errors.h"
+#include "platform/whole_file.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace lorvo {
 
@@ -33,11 +34,12 @@ class ProfileFiles final : public IniFiles {
         if (!ini || !IsOneLine(section + key + text))
             return false;
         ini->SetValue(section, key, text);
-        const QByteArray bytes = ini->ToBytes();
-        QSaveFile file(path);
-        file.setDirectWriteFallback(true);
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-               file.commit();
+        try {
+            ReplaceFile(path, ini->ToBytes());
+            return true;
+        } catch (const PlatformError&) { // the caller says that it wasn't stored
+            return false;
+        }
     }
 };
 

@@ -1,6 +1,6 @@
 #include "store/database_file.h"
 
-#include "platform/system_reason.h"
+#include "platform/file_failure.h"
 #include "platform/values/errors.h"
 #include "store/leftover_journal.h"
 
@@ -40,7 +40,7 @@ qint64 PromisedLength(const QByteArray& header) {
 QByteArray ReadHeader(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + FileReason(file)));
+        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + CauseOfFailure(file)));
     return file.read(kHeaderSize);
 }
 
@@ -65,7 +65,7 @@ void RequireRoom(const QString& path) {
                          file.flush();
     if (!hasRoom)
         throw DiskError(
-            AboutFile(path, u"do složky souboru nelze zapisovat: "_qs + FileReason(file)) +
+            AboutFile(path, u"do složky souboru nelze zapisovat: "_qs + CauseOfFailure(file)) +
             " Uvolněte na disku místo a povolte do složky zápis.");
 }
 

@@ -1,6 +1,6 @@
 #include "store/engine_failure.h"
 
-#include "platform/system_reason.h"
+#include "platform/file_failure.h"
 #include "platform/values/errors.h"
 #include "store/database_file.h"
 
@@ -59,7 +59,7 @@ Cause CauseOf(int code) {
 /// statement.
 QString Details(const Cause& cause, int systemCode, const char* message) {
     if (cause.kind == Kind::Disk && systemCode != 0)
-        return u": "_qs + SystemReason(systemCode);
+        return u": "_qs + CauseOfSystemFailure(systemCode);
     if (cause.kind == Kind::Statement)
         return u" (%1)"_qs.arg(QString::fromUtf8(message));
     return {};

@@ -1,6 +1,6 @@
 #include "store/leftover_journal.h"
 
-#include "platform/system_reason.h"
+#include "platform/file_failure.h"
 #include "platform/values/errors.h"
 #include "store/database_file.h"
 #include "store/journal_pages.h"
@@ -30,7 +30,7 @@ QString RollbackOf(const QString& path) {
 QByteArray ReadWhole(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + FileReason(file)));
+        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + CauseOfFailure(file)));
     return file.readAll();
 }
 

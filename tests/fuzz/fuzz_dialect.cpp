@@ -1,6 +1,8 @@
 // Any bytes as a statement: the translator gives a statement that SQLite prepares with the columns
 // it promised, or an error.
 
+#include "fuzz/fuzz_target.h"
+
 #include "platform/values/errors.h"
 #include "store/dialect_translator.h"
 #include "store/sql_functions.h"
@@ -32,7 +34,7 @@ void RequireColumns(SQLite::Database& database, const lorvo::Translation& transl
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static SQLite::Database database = MakeDatabase();
     static const lorvo::Schema schema = lorvo::ReadSchema(database);
     try {

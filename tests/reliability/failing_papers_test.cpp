@@ -1,0 +1,91 @@
+// What is written beside the database, on a disk whose n-th call fails: each routine says so or has
+// written all, and what stood there before isn't torn.
+
+#include "platform/real_services.h"
+#include "platform/values/errors.h"
+#include "platform/whole_file.h"
+#include "support/watched_disk.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <cerrno>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace lorvo::test {
+namespace {
+
+QByteArray ContentOf(const QString& path) {
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return file.readAll();
+}
+
+/// Runs `write` in fresh folders with its call number 1, 2, ... failing, until it passes.
+void FailEachCall(const std::function<void(const QString& folder)>& prepare,
+                  const std::function<void(const QString& folder)>& write,
+                  const std::function<void(const QString& folder, bool failed)>& look) {
+    for (const int code : {ENOSPC, EIO}) {
+        for (int fails = 1, calls = 1; fails <= calls; ++fails) {
+            const QTemporaryDir folder;
+            prepare(folder.path());
+            WatchedDisk disk(folder.path());
+            disk.before = [=](int number, const DiskCall&) {
+                return number == fails ? code : 0;
+            };
+            bool failed = false;
+            try {
+                write(folder.path());
+            } catch (const Error&) {
+                failed = true;
+            }
+            calls = disk.Calls();
+            disk.before = nullptr;
+            look(folder.path(), failed);
+        }
+    }
+}
+
+const QByteArray kReport(100000, 'x');
+const QByteArray kEarlier(300, 'y');
+
+QString ReportIn(const QString& folder) {
+    return folder + QStringLiteral("/Seznam.html");
+}
+
+TEST(FailingPapers, AnExportIsWholeOrTheEarlierOneStands) {
+    FailEachCall([](const QString& folder) { ReplaceFile(ReportIn(folder), kEarlier); },
+                 [](const QString& folder) { ReplaceFile(ReportIn(folder), kReport); },
+                 [](const QString& folder, bool failed) {
+                     const QByteArray content = ContentOf(ReportIn(folder));
+                     EXPECT_TRUE(content == kReport || (failed && content == kEarlier));
+                 });
+}
+
+TEST(FailingPapers, ADocumentIsWholeOrNotThere) {
+    FailEachCall([](const QString&) {},
+                 [](const QString& folder) {
+                     (void)WriteNewFile(folder, QStringLiteral("Katalog"), QStringLiteral("docx"),
+                                        kReport);
+                 },
+                 [](const QString& folder, bool failed) {
+                     const QString path = folder + QStringLiteral("/Katalog.docx");
+                     EXPECT_TRUE(QFile::exists(path) ? ContentOf(path) == kReport : failed);
+                 });
+}
+
+TEST(FailingPapers, SettingsAreTheEarlierOrTheNewOnes) {
+    const auto write = [](const QString& folder, const QString& text) {
+        MakeSettingsTree(folder)->Write(QStringLiteral("Sys"), QStringLiteral("ShowGrid"), text);
+    };
+    FailEachCall([&](const QString& folder) { write(folder, QStringLiteral("1")); },
+                 [&](const QString& folder) { write(folder, QStringLiteral("0")); },
+                 [](const QString& folder, bool) {
+                     const QString text = MakeSettingsTree(folder)->Read(
+                         QStringLiteral("Sys"), QStringLiteral("ShowGrid"));
+                     EXPECT_TRUE(text == u"0" || text == u"1") << text.toStdString();
+                 });
+}
+
+} // namespace
+} // namespace lorvo::test
