@@ -95,7 +95,7 @@ TEST(FullDisk, IsSaidWhenTheFileIsOpenedAndTouchesNothing) {
     EXPECT_THROW(connection.Open(path), DiskError);
     const std::string failure = FailureOf([&] { connection.Open(path); });
     EXPECT_NE(failure.find(path.toStdString()), std::string::npos) << failure;
-    EXPECT_NE(failure.find("na disku není místo"), std::string::npos) << failure;
+    EXPECT_NE(failure.find("na disku není volné místo"), std::string::npos) << failure;
     EXPECT_EQ(test::FilesOf(folder.path()), before);
 }
 
