@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing. Usage: install_packages.sh run|test|papers|windows
+# Installs the Debian packages that are missing. Usage: install_packages.sh
+#   run|test|papers|release|windows
 # "run" is what building and starting the program takes, "test" adds what its tests and
-# measurements take, "papers" what looking at the papers takes, "windows" what the build for
-# Windows, its proof under Wine and the packages take. Quick when nothing is missing: it then asks
-# the package database alone.
+# measurements take, "papers" what looking at the papers takes, "release" the packages for Linux,
+# "windows" what the build for Windows and its proof under Wine take. Quick when nothing is missing:
+# it then asks the package database alone.
 set -euo pipefail
 
 packages=(
@@ -22,10 +23,13 @@ fi
 if [ "${1:-run}" = papers ]; then
   packages+=(libreoffice-writer-nogui chromium poppler-utils fonts-liberation fonts-urw-base35)
 fi
+if [ "${1:-run}" = release ]; then
+  packages+=(dpkg-dev lintian desktop-file-utils appstream) # what packs, and what judges it
+fi
 if [ "${1:-run}" = windows ]; then
   packages+=(
     g++-mingw-w64-x86-64-posix libz-mingw-w64-dev make dpkg-dev patch tcl python3 icu-devtools
-    qt6-base-dev-tools nsis wine wine64 fonts-wine xvfb xauth xdotool scrot icoutils zip
+    qt6-base-dev-tools nsis wine wine64 fonts-wine xvfb xauth xdotool scrot icoutils zip unzip
     desktop-file-utils appstream lintian debootstrap
   )
 fi

@@ -20,7 +20,7 @@ version=$(sed -n 's/^project(Lorvo VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
 export SOURCE_DATE_EPOCH
 
-tools/install_packages.sh run
+tools/install_packages.sh release
 git archive --prefix "lorvo-$version/" HEAD | gzip --best --no-name > "$out/lorvo-$version-source.tar.gz"
 
 # Linux: compiled as the distribution compiles its own packages.
