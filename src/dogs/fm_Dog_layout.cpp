@@ -60,7 +60,7 @@ void fm_Dog::LimitTexts() {
     for (QComboBox* parent : {icOtec, icMatka})
         parent->lineEdit()->setMaxLength(kParentWidth);
     icStanice->lineEdit()->setMaxLength(kDogTextWidth);
-    for (const std::size_t index : {1, 2, 3})
+    for (const std::size_t index : {1U, 2U, 3U})
         txtbox[index]->setMaxLength(kDogTextWidth);
 }
 
