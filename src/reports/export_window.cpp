@@ -130,7 +130,7 @@ void ExportWindow::RunDocument() {
         TypeDocument(*word);
         document = word->Show();
     }
-    TellWhenNotOpened(document, windowTitle());
+    TellWhenNotOpened(document, traits_.caption);
 }
 
 void ExportWindow::ShowFailure(const QString& reason) {

@@ -253,7 +253,7 @@ TEST_F(ExportWindowFrame, ADocumentThatNothingOpensIsNamedInAMessage) {
         u"Dokument je uložen v souboru „%1/Tisky/Vzorek.docx“, ale na tomto počítači jej nemá co "
         u"otevřít. Otevřete jej na kterémkoli počítači s textovým procesorem (Microsoft Word, "
         u"LibreOffice Writer)."_qs.arg(platform.ProgramFolder()),
-        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, {},
+        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Export"_qs,
         [&] { EXPECT_EQ(platform.waitCursorDepth, 0) << "the run is over"; });
     window.ClickStart();
     EXPECT_EQ(window.windowTitle(), u"Export vzorků");

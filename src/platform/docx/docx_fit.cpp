@@ -104,7 +104,7 @@ void SheetFitter::ShrinkTexts(int percent, int fromLines) {
 void FitParagraph(Paragraph& paragraph, const LineRoom& room) {
     if (CountLines(paragraph, room, FontWidths::Widest, 100) == 1)
         return;
-    for (int percent = 100; percent >= kNarrowestPercent; percent -= kStep) {
+    for (int percent = 100; percent >= kNarrowestPercent; --percent) {
         if (CountLines(paragraph, room, FontWidths::Narrowest, percent) ==
             CountLines(paragraph, room, FontWidths::Widest, percent)) {
             NarrowLetters(paragraph, percent);

@@ -4,8 +4,9 @@ namespace lorvo::docx {
 
 namespace {
 
-/// What programs differ by in spacing letters.
-constexpr double kTolerance = 0.01;
+/// What programs differ by in spacing letters: kerning draws them together.
+constexpr double kTightest = 0.97;
+constexpr double kLoosest = 1.01;
 
 class LineCounter {
   public:
@@ -78,8 +79,8 @@ class LineCounter {
 } // namespace
 
 int CountLines(const Paragraph& paragraph, const LineRoom& room, FontWidths widths, int percent) {
-    const double tolerance = widths == FontWidths::Widest ? 1 + kTolerance : 1 - kTolerance;
-    const double factor = percent / 100.0 * tolerance;
+    const double spacing = widths == FontWidths::Widest ? kLoosest : kTightest;
+    const double factor = percent / 100.0 * spacing;
     LineCounter counter(paragraph.format, room);
     qsizetype at = 0;
     for (const Run& run : paragraph.runs) {
