@@ -1,5 +1,8 @@
 #include "platform/real_services.h"
+#include "platform/values/errors.h"
+#include "platform/whole_file.h"
 
+#include <QFile>
 #include <QSettings>
 
 namespace lorvo {
@@ -9,7 +12,14 @@ namespace {
 class StoredSettings final : public SettingsTree {
   public:
     StoredSettings(const QString& place, QSettings::Format format)
-        : settings_(place, format), writable_(settings_.isWritable()) {}
+        : settings_(place, format), writable_(settings_.isWritable()) {
+        if (format != QSettings::NativeFormat)
+            earlier_ = Content();
+    }
+    ~StoredSettings() override {
+        settings_.sync();
+        RestoreEmptied();
+    }
 
     QString Read(const QString& key, const QString& name) override {
         const QVariant value = settings_.value(PathOf(key, name));
@@ -25,6 +35,22 @@ class StoredSettings final : public SettingsTree {
     }
 
   private:
+    QByteArray Content() const {
+        QFile file(settings_.fileName());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// On a full disk the toolkit takes no notice of the failed write and puts an empty file in the
+    /// place of the settings.
+    void RestoreEmptied() {
+        if (earlier_.isEmpty() || !Content().isEmpty())
+            return;
+        try {
+            ReplaceFile(settings_.fileName(), earlier_);
+        } catch (const PlatformError&) { // there is no room even for what stood there
+        }
+    }
+
     static QString PathOf(const QString& key, const QString& name) {
         QString path = key + u'\\' + name;
         return path.replace(u'\\', u'/');
@@ -32,6 +58,7 @@ class StoredSettings final : public SettingsTree {
 
     QSettings settings_;
     bool writable_;
+    QByteArray earlier_; ///< the file's content when it was opened
 };
 
 } // namespace

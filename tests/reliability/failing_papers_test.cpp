@@ -29,10 +29,15 @@ void FailEachCall(const std::function<void(const QString& folder)>& prepare,
         for (int fails = 1, calls = 1; fails <= calls; ++fails) {
             const QTemporaryDir folder;
             prepare(folder.path());
+            std::string failedCall;
             WatchedDisk disk(folder.path());
-            disk.before = [=](int number, const DiskCall& call) {
+            disk.before = [&](int number, const DiskCall& call) {
                 const bool isLock = call.path.endsWith(u".lock"); // holds nothing of a clerk's
-                return number == fails && !isLock ? code : 0;
+                if (number != fails || isLock)
+                    return 0;
+                failedCall = std::to_string(static_cast<int>(call.kind)) + ' ' +
+                             call.path.toStdString() + ' ' + call.newPath.toStdString();
+                return code;
             };
             bool failed = false;
             try {
@@ -42,6 +47,7 @@ void FailEachCall(const std::function<void(const QString& folder)>& prepare,
             }
             calls = disk.Calls();
             disk.before = nullptr;
+            SCOPED_TRACE("failed: " + failedCall);
             look(folder.path(), failed);
         }
     }
