@@ -3,7 +3,7 @@
 # Either way each include that goes up is named by file and line.
 set(LORVO_FLOORS
   platform=1 store=2 app=3 office=4 forms=5 desktop=5 dogs=5 setup=5 payments=5 reports=5
-  mainwindow=6)
+  mainwindow=6 manager=6)
 # What each floor must not see of the toolkit, as pattern; widgets begin on floor 5.
 set(LORVO_WIDGET_HEADERS
   "<Q(Abstract(Button|ItemView|ItemDelegate|ScrollArea|SpinBox)|Application|Box|Calendar|Check|Combo|Completer|Date(Time)?Edit|Dialog|DockWidget|File(Dialog)|Form|Frame|Graphics|Grid|Group|Header|Label>|Layout|Line(Edit)|List(View|Widget)|MainWindow|Menu|Message|Plain|Progress|Push|Radio|Scroll|Shortcut>|Spin|Splitter|Stack|Status|Styl|Tab|Text(Browser|Edit)|Tool|Tree|Widget|Wizard)")

@@ -2,48 +2,36 @@
 
 #include "app/start_up.h"
 #include "app/version.h"
-#include "desktop/desktop_services.h"
+#include "desktop/real_platform.h"
 #include "desktop/termination.h"
 #include "forms/application.h"
 #include "forms/controls.h"
+#include "mainwindow/copy_keeper.h"
 #include "mainwindow/fm_main.h"
+#include "office/copies/background_copy.h"
 #include "platform/console.h"
-#include "platform/docx/docx_word_processor.h"
 #include "platform/platform.h"
 #include "platform/program_lock.h"
-#include "platform/real_services.h"
+#include "platform/values/errors.h"
 
 #include <QDir>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
+#include <QStatusBar>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace {
 
-void InstallPlatform(lorvo::Platform& platform) {
-    platform.programFolder = QCoreApplication::applicationDirPath();
-    platform.messages = std::make_unique<lorvo::DesktopMessageBoxes>();
-    platform.menus = std::make_unique<lorvo::DesktopPopupMenus>();
-    platform.ui = std::make_unique<lorvo::DesktopUserInterface>();
-    platform.opener = lorvo::MakeOpenService();
-    platform.settings = lorvo::MakeSettingsTree(platform.programFolder);
-    platform.iniFiles = lorvo::MakeIniFiles();
-    platform.locale = lorvo::MakeLocaleInfo();
-    platform.clock = lorvo::MakeClock();
-    platform.wordProcessors = std::make_unique<lorvo::DocxWordProcessors>(
-        *platform.opener, *platform.clock, platform.programFolder + QStringLiteral("/Tisky"));
-}
-
-/// Calendars and the menus of text boxes speak Czech as the rest of the program does.
-void SpeakCzech(QTranslator& toolkitTexts) {
-    const QLocale czech(QLocale::Czech, QLocale::CzechRepublic);
-    QLocale::setDefault(czech);
-    if (toolkitTexts.load(czech, QStringLiteral("qtbase"), QStringLiteral("_"),
-                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&toolkitTexts);
+/// A database that can't be trusted is never written to; the message says what to put in its place.
+void OpenDatabaseOrNameACopy() {
+    using namespace lorvo;
+    try {
+        OpenDatabase();
+    } catch (const CorruptStoreError& damage) {
+        const CopyOutcome outcome =
+            CopyAfterDamage(damage, ThePlatform().programFolder, ThePlatform().clock->Now());
+        throw CorruptStoreError(DamageText(outcome).toStdString());
+    }
 }
 
 /// Told without a screen and without data, as packagers and scripts ask for it.
@@ -69,9 +57,8 @@ int main(int argc, char** argv) {
         return 0;
     }
     lorvo::Application application(argc, argv);
-    QTranslator toolkitTexts;
-    SpeakCzech(toolkitTexts);
-    InstallPlatform(lorvo::ThePlatform());
+    lorvo::SpeakCzech();
+    lorvo::InstallRealPlatform();
     lorvo::CloseOnTermination();
     lorvo::Application::setWindowIcon(lorvo::ProgramIcon(QStringLiteral("lorvo")));
 
@@ -80,8 +67,9 @@ int main(int argc, char** argv) {
         return SayThatItRuns();
     std::unique_ptr<lorvo::fm_main> mainWindow;
     return application.Run([&mainWindow] {
-        lorvo::OpenDatabase();
+        OpenDatabaseOrNameACopy();
         mainWindow = std::make_unique<lorvo::fm_main>();
         mainWindow->Start();
+        (new lorvo::CopyKeeper(*mainWindow->statusBar()))->Begin();
     });
 }

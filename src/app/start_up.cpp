@@ -38,6 +38,13 @@ void MarkSomeCurrency() {
         SkipFailure([&] { SetMainMark(money->ID, true); });
 }
 
+/// Puts the first main currency's name where amounts find it; returns all that are marked.
+std::vector<Meny> NameMainCurrency() {
+    std::vector<Meny> marked = RowsIfReadable(MainCurrencies);
+    Module().MainCurrency = marked.empty() ? QStringLiteral("Kč") : marked.front().Zkratka;
+    return marked;
+}
+
 } // namespace
 
 void OpenDatabase() {
@@ -57,11 +64,14 @@ void EnsureShow() {
         InsertShow(QStringLiteral("Hlavní výstava"));
 }
 
+void ReadMainCurrency() {
+    NameMainCurrency();
+}
+
 void EnsureMainCurrency() {
     if (RowsIfReadable(MainCurrencies).empty())
         MarkSomeCurrency();
-    const std::vector<Meny> marked = RowsIfReadable(MainCurrencies);
-    Module().MainCurrency = marked.empty() ? QStringLiteral("Kč") : marked.front().Zkratka;
+    const std::vector<Meny> marked = NameMainCurrency();
     for (const Meny& money : marked)
         if (money.Zkratka != Module().MainCurrency)
             SkipFailure([&] { SetMainMark(money.ID, false); });

@@ -19,6 +19,10 @@ bool ShowGridPreferred();
 /// Gives a database without shows its main one, "Hlavní výstava". Raises StoreError.
 void EnsureShow();
 
+/// Puts the abbreviation of the main currency into the module value `MainCurrency`, "Kč" when there
+/// is no main one. A failing statement counts as none.
+void ReadMainCurrency();
+
 /// Sees to exactly one main currency and puts its abbreviation into the module value
 /// `MainCurrency`, "Kč" when there is no currency at all. Of several marked ones the first wins;
 /// rows that bear the winner's abbreviation keep their mark. Failing statements are skipped.

@@ -1,6 +1,7 @@
 #pragma once
 // The desktop's services that are made of widgets.
 
+#include "platform/file_choice.h"
 #include "platform/message_boxes.h"
 #include "platform/popup_menus.h"
 #include "platform/user_interface.h"
@@ -16,6 +17,13 @@ class DesktopMessageBoxes : public MessageBoxes {
 class DesktopPopupMenus : public PopupMenus {
   public:
     int TrackPopup(const std::vector<MenuEntry>& entries) override;
+};
+
+class DesktopFileChoice : public FileChoice {
+  public:
+    QString Open(const QString& title, const QString& filter) override;
+    QString Save(const QString& title, const QString& suggestedPath,
+                 const QString& filter) override;
 };
 
 class DesktopUserInterface : public UserInterface {

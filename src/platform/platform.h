@@ -3,6 +3,7 @@
 // services, a test with recording ones.
 
 #include "platform/clock.h"
+#include "platform/file_choice.h"
 #include "platform/ini_files.h"
 #include "platform/locale_info.h"
 #include "platform/message_boxes.h"
@@ -22,6 +23,7 @@ struct Platform {
 
     std::unique_ptr<MessageBoxes> messages;
     std::unique_ptr<PopupMenus> menus;
+    std::unique_ptr<FileChoice> files;
     std::unique_ptr<OpenService> opener;
     std::unique_ptr<SettingsTree> settings;
     std::unique_ptr<IniFiles> iniFiles;

@@ -6,6 +6,7 @@
 #include "forms/controls.h"
 #include "office/numbers/catalogue_numbers.h"
 #include "payments/currency_list.h"
+#include "office/copies/sweep_copy.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/frmCisteniDB.h"
@@ -255,6 +256,7 @@ void fm_Settings::GenerateNumbers() {
     if (!Confirm(u"Určitě vygenerovat pořadová čísla psů?"_s))
         return;
     const WaitCursor waiting(*ThePlatform().ui);
+    CopyBeforeSweep();
     GenerateCatalogueNumbers(TheMainWindow().Nodes());
     SetNumbered(true);
 }
@@ -265,6 +267,7 @@ void fm_Settings::RemoveNumbers() {
     const WaitCursor waiting(*ThePlatform().ui);
     if (CountDogs() == 0)
         return;
+    CopyBeforeSweep();
     RemoveDogNumbers();
     SetNumbered(false);
     TheMainWindow().LoadData();

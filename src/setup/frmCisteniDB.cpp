@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "office/copies/sweep_copy.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/barvy.h"
@@ -142,6 +143,7 @@ void frmCisteniDB::Clear() {
 
 void frmCisteniDB::ClearTables() {
     const WaitCursor waiting(*ThePlatform().ui);
+    CopyBeforeSweep();
     DeleteAllDogs();
     DeleteAllRings();
     DeleteAllCompetitionEntries();

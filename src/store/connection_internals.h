@@ -18,6 +18,7 @@ struct Connection::Impl {
     int readRuns = 0;
     int editRuns = 0;
     int editsSinceCommit = 0;
+    bool isWhole = false; ///< the edits under way wait for one commit, however many they are
 
     /// All raise StoreError; also when the connection is shut.
     sqlite3* Handle() const;

@@ -103,6 +103,11 @@ int CountPaymentsInCurrency(int menaID) {
     return ReadCount(Table(), "SELECT COUNT(*) FROM Uhrady WHERE Mena = " + Number(menaID));
 }
 
+int CountPaymentsWithAccount() {
+    return ReadCount(Table(),
+                     "SELECT COUNT(*) FROM Uhrady WHERE NOT( Ucet IS NULL) AND Ucet <> ''");
+}
+
 int InsertPayment(const Uhrady& payment) {
     return InsertRow(Table(), "Uhrady",
                      {{"Datum", FromOptional(payment.Datum)},
@@ -121,6 +126,10 @@ void SetPaymentPrinted(int uhradaID, bool printed) {
 
 void MarkAllPaymentsPrinted() {
     ChangeRows(Table(), "SELECT Printed FROM Uhrady", {{"Printed", true}});
+}
+
+void EmptyAccounts() {
+    ChangeRows(Table(), "SELECT Ucet FROM Uhrady", {{"Ucet", QString()}});
 }
 
 void DeletePayment(int uhradaID) {

@@ -57,12 +57,16 @@ std::vector<PaymentRow> PaymentsWithOwners();
 std::vector<QString> AccountsOfOwner(int majitelID);
 int CountPayments();
 int CountPaymentsInCurrency(int menaID);
+/// Payments whose Ucet is neither Null nor empty.
+int CountPaymentsWithAccount();
 
 /// Stores a new payment and returns its ID. Printed is left at false; payment.ID is not looked at.
 int InsertPayment(const Uhrady& payment);
 void SetPaymentPrinted(int uhradaID, bool printed);
 /// Sets Printed on every payment, row by row.
 void MarkAllPaymentsPrinted();
+/// Empties Ucet of every payment, row by row.
+void EmptyAccounts();
 void DeletePayment(int uhradaID);
 void DeleteAllPayments();
 

@@ -90,6 +90,25 @@ struct RecordingPlatform::Doubles {
         RecordingPlatform& owner_;
     };
 
+    class Files : public FileChoice {
+      public:
+        explicit Files(RecordingPlatform& owner) : owner_(owner) {}
+        QString Open(const QString&, const QString&) override { return Next(); }
+        QString Save(const QString&, const QString& suggested, const QString&) override {
+            owner_.suggestedFiles << suggested;
+            return Next();
+        }
+
+      private:
+        QString Next() {
+            if (owner_.chosenFiles.isEmpty()) {
+                ADD_FAILURE() << "nobody expected the choice of a file";
+                return {};
+            }
+            return owner_.chosenFiles.takeFirst();
+        }
+        RecordingPlatform& owner_;
+    };
     class Menus final : public PopupMenus {
       public:
         explicit Menus(RecordingPlatform& owner) : owner_(owner) {}
@@ -200,6 +219,7 @@ RecordingPlatform::RecordingPlatform() : outer_(std::move(ThePlatform())) {
     platform.programFolder = folder_.path();
     platform.messages = std::make_unique<Doubles::Messages>(*this);
     platform.menus = std::make_unique<Doubles::Menus>(*this);
+    platform.files = std::make_unique<Doubles::Files>(*this);
     platform.opener = std::make_unique<Doubles::Opener>(*this);
     platform.settings = std::make_unique<Doubles::Settings>(*this);
     platform.iniFiles = MakeIniFiles();

@@ -49,6 +49,8 @@ class RecordingPlatform {
     /// without a number is its text alone.
     QStringList LastMenuLines() const;
 
+    QStringList chosenFiles;    ///< what the next choices of a file answer, in turn; empty for none
+    QStringList suggestedFiles; ///< what was suggested for saving
     QStringList openedFiles;
     QStringList openedAddresses;
     std::map<QString, QString> settings; ///< "Sys\\ShowClasses" below the program's key -> text

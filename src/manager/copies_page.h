@@ -1,0 +1,47 @@
+#pragma once
+// The page of copies: listed, made, compared, put back.
+
+#include "office/copies/show_copies.h"
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+namespace lorvo {
+
+class ReportList;
+
+class CopiesPage : public QWidget {
+    Q_OBJECT
+  public:
+    explicit CopiesPage(QWidget* parent);
+
+    /// Lists the folder anew; each copy is checked whole.
+    void Refill();
+
+    ReportList* lvwZalohy; ///< the first row is the present state
+    QPushButton* cmdMake;
+    QPushButton* cmdCompare;
+    QPushButton* cmdPutBack;
+    QLabel* lblPorovnani;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void LayOut();
+    void ConnectControls();
+    void AddRows();
+    void Enable();
+    void Make();
+    void Compare();
+    void PutBack();
+    /// Path of a row's file.
+    QString PathOf(int position) const;
+
+    std::vector<ShowCopy> copies_;
+    bool filled_ = false;
+};
+
+} // namespace lorvo

@@ -1,0 +1,41 @@
+#pragma once
+// The page that hands lists out to other programs.
+
+#include "office/exchange/office_lists.h"
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+namespace lorvo {
+
+class ReportList;
+
+class ListsPage : public QWidget {
+    Q_OBJECT
+  public:
+    explicit ListsPage(QWidget* parent);
+
+    /// Reads the chosen list anew and shows its rows and totals.
+    void ShowList();
+
+    ReportList* lvwSeznamy;
+    QPushButton* cmdCsv;
+    QPushButton* cmdSheet;
+
+  private:
+    void LayOut();
+    void ShowRows();
+    void SaveCsv();
+    void SaveSheet();
+    /// Asks where to, and puts the bytes there.
+    void Save(const QString& filter, const QString& ending,
+              const std::function<QByteArray(const ListTable&)>& bytes);
+
+    ReportList* rows_ = nullptr;
+    QLabel* totals_;
+    ListTable table_;
+};
+
+} // namespace lorvo

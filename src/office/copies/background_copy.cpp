@@ -1,0 +1,61 @@
+#include "office/copies/background_copy.h"
+
+#include "office/copies/show_copies.h"
+#include "platform/values/errors.h"
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+CopyOutcome Failed(const Error& failure, bool isDamaged, const QString& folder, DateValue now) {
+    CopyOutcome outcome{QString::fromUtf8(failure.what()), isDamaged, {}, 0};
+    if (const auto good = NewestGoodCopy(folder)) {
+        outcome.newestGood = good->path.section(u'/', -1);
+        outcome.daysOld = now.Days() - good->moment.Days();
+    }
+    return outcome;
+}
+
+} // namespace
+
+CopyOutcome CopyAfterDamage(const CorruptStoreError& damage, const QString& programFolder,
+                            DateValue now) {
+    return Failed(damage, true, programFolder, now);
+}
+
+CopyOutcome TryCopy(const QString& programFolder, DateValue now) {
+    try {
+        MakeCopy(programFolder, now);
+        return {};
+    } catch (const CorruptStoreError& damage) {
+        return Failed(damage, true, programFolder, now);
+    } catch (const Error& failure) {
+        return Failed(failure, false, programFolder, now);
+    }
+}
+
+QString DamageText(const CopyOutcome& outcome) {
+    return outcome.failure + (outcome.newestGood.isEmpty()
+                                  ? u" Žádná dobrá kopie ve složce Zálohy není."_s
+                                  : u" Nejnovější dobrá kopie je Zálohy/"_s + outcome.newestGood +
+                                        u"; vrátíte ji ve Správci dat."_s);
+}
+
+BackgroundCopy::~BackgroundCopy() {
+    if (thread_.joinable())
+        thread_.join();
+}
+
+void BackgroundCopy::Begin(const QString& programFolder, DateValue now) {
+    if (thread_.joinable())
+        thread_.join();
+    thread_ = std::thread([this, programFolder, now] {
+        const CopyOutcome outcome = TryCopy(programFolder, now);
+        QMetaObject::invokeMethod(
+            this, [this, outcome] { Q_EMIT Ended(outcome); }, Qt::QueuedConnection);
+    });
+}
+
+} // namespace lorvo

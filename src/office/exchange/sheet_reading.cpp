@@ -1,0 +1,97 @@
+// Reading spreadsheets through liborcus.
+
+#include "office/exchange/csv_text.h"
+#include "office/exchange/sheet_files.h"
+#include "platform/values/errors.h"
+
+#ifdef LORVO_READS_SHEETS
+#include <orcus/orcus_ods.hpp>
+#include <orcus/orcus_xlsx.hpp>
+#include <orcus/spreadsheet/document.hpp>
+#include <orcus/spreadsheet/factory.hpp>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#endif
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+bool IsSheetName(const QString& path) {
+    return path.endsWith(u".xlsx"_s, Qt::CaseInsensitive) ||
+           path.endsWith(u".ods"_s, Qt::CaseInsensitive);
+}
+
+#ifdef LORVO_READS_SHEETS
+
+namespace {
+
+/// What a sheet of any office program may be as large as.
+constexpr orcus::spreadsheet::range_size_t kLargestSheet{1048576, 16384};
+
+QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw PlatformError("Soubor „" + path.toStdString() + "“ nejde otevřít.");
+    return file.readAll();
+}
+
+void Import(const QString& path, orcus::spreadsheet::document& document) {
+    const QByteArray bytes = BytesOf(path);
+    const std::string_view stream(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    orcus::spreadsheet::import_factory factory(document);
+    if (path.endsWith(u".ods"_s, Qt::CaseInsensitive))
+        orcus::orcus_ods(&factory).read_stream(stream);
+    else
+        orcus::orcus_xlsx(&factory).read_stream(stream);
+}
+
+/// The library puts each sheet into a file of its own; the first one is read back.
+QString FirstSheetAsCsv(const orcus::spreadsheet::document& document) {
+    if (document.get_sheet_count() == 0)
+        return {};
+    const QTemporaryDir folder;
+    document.dump_csv(folder.path().toStdString());
+    const std::string_view name = document.get_sheet_name(0);
+    QFile file(folder.filePath(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) +
+                               u".csv"_s));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+bool CanReadSheets() {
+    return true;
+}
+
+std::vector<QStringList> SheetRows(const QString& path) {
+    orcus::spreadsheet::document document(kLargestSheet);
+    try {
+        Import(path, document);
+    } catch (const PlatformError&) {
+        throw;
+    } catch (const std::exception& failure) {
+        throw PlatformError("Soubor „" + path.toStdString() +
+                            "“ není tabulka, kterou by šlo přečíst. Uložte ji jako CSV. (" +
+                            failure.what() + ")");
+    }
+    return CsvRows(FirstSheetAsCsv(document), u',');
+}
+
+#else
+
+bool CanReadSheets() {
+    return false;
+}
+
+std::vector<QStringList> SheetRows(const QString& path) {
+    throw PlatformError(
+        "Soubor „" + path.toStdString() +
+        "“ je tabulka, kterou tento program na tomto počítači neumí přečíst. Uložte ji jako CSV.");
+}
+
+#endif
+
+} // namespace lorvo

@@ -1,0 +1,140 @@
+// Copies of a database: made, thinned, compared, put back; and what comes of damage.
+
+#include "office/copies/show_copies.h"
+
+#include "office/copies/background_copy.h"
+#include "store/majitele.h"
+#include "store/routines_fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace lorvo::test {
+namespace {
+
+class ShowCopiesTest : public ::testing::Test {
+  protected:
+    QString Folder() const { return database.Folder(); }
+    QString Copy() { return MakeCopy(Folder(), now = now.PlusDays(1)); }
+    static void AddOwner(const char* name) {
+        Majitele owner;
+        owner.Jmeno = QString::fromUtf8(name);
+        InsertOwner(owner);
+    }
+    QStringList Files() const {
+        return QDir(CopiesFolder(Folder())).entryList(QDir::Files, QDir::Name);
+    }
+    /// Overwrites the middle of a file.
+    static void Damage(const QString& path) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.seek(4096);
+        file.write(QByteArray(static_cast<qsizetype>(file.size() - 4096), 'x'));
+    }
+
+    TempDatabase database;
+    DateValue now = DateValue::FromCalendar(2027, 5, 14).WithSecondOfDay(8 * 3600);
+};
+
+TEST_F(ShowCopiesTest, ACopyHoldsTheLatestEditsAndStandsAlone) {
+    AddOwner("Eva");
+    const QString copy = Copy();
+    EXPECT_EQ(Files(), QStringList{QStringLiteral("data 2027-05-15 08.00.00.mdb")});
+    EXPECT_EQ(FiguresOfDatabase(copy).owners, 1);
+    EXPECT_NO_THROW(RequireWholeDatabase(copy));
+}
+
+TEST_F(ShowCopiesTest, AnUnchangedDatabaseIsNotCopiedTwice) {
+    AddOwner("Eva");
+    const QString first = Copy();
+    EXPECT_EQ(Copy(), first);
+    EXPECT_EQ(Files().size(), 1);
+    AddOwner("Jan");
+    EXPECT_NE(Copy(), first);
+}
+
+TEST_F(ShowCopiesTest, TheRestOfACopyThatWasKilledIsTakenAway) {
+    AddOwner("Eva");
+    QDir().mkpath(CopiesFolder(Folder()));
+    QFile rest(CopiesFolder(Folder()) + QStringLiteral("/rozpracovaná kopie.tmp"));
+    ASSERT_TRUE(rest.open(QIODevice::WriteOnly));
+    rest.write("half");
+    rest.close();
+    Copy();
+    EXPECT_EQ(Files().size(), 1);
+}
+
+TEST_F(ShowCopiesTest, ComparisonCountsWhatCameWentAndChanged) {
+    AddOwner("Eva");
+    AddOwner("Jan");
+    const QString copy = Copy();
+    AddOwner("Ota");
+    DeleteOwner(1);
+    Majitele jan = *OwnerByID(2);
+    jan.Mesto = QStringLiteral("Brno");
+    UpdateOwner(jan);
+    EXPECT_EQ(CompareDatabases(copy, DatabasePath(Folder()))[1],
+              QStringLiteral("Vystavovatelé: přibylo 1, ubylo 1, změnilo se 1."));
+}
+
+TEST_F(ShowCopiesTest, PuttingBackCopiesThePresentStateFirst) {
+    AddOwner("Eva");
+    const QString copy = Copy();
+    AddOwner("Jan");
+    TheDataModule().Conn1.Close();
+    PutCopyBack(Folder(), copy, now.PlusDays(2));
+    EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 1);
+    EXPECT_EQ(FiguresOfDatabase(ListCopies(Folder(), true).front().path).owners, 2);
+    EXPECT_EQ(QDir(Folder()).entryList(QDir::Files), QStringList{QStringLiteral("data.mdb")});
+}
+
+TEST_F(ShowCopiesTest, ADamagedDatabaseGoesAsideWhenACopyIsPutBack) {
+    AddOwner("Eva");
+    const QString copy = Copy();
+    TheDataModule().Conn1.Close();
+    Damage(DatabasePath(Folder()));
+    PutCopyBack(Folder(), copy, now);
+    EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 1);
+    EXPECT_EQ(Files().filter(QStringLiteral("poškozená")).size(), 1);
+}
+
+TEST_F(ShowCopiesTest, ADamagedCopyIsRefusedAndNothingChanges) {
+    AddOwner("Eva");
+    const QString copy = Copy();
+    Damage(copy);
+    AddOwner("Jan");
+    TheDataModule().Conn1.Close();
+    EXPECT_THROW(PutCopyBack(Folder(), copy, now), StoreError);
+    EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 2);
+    EXPECT_FALSE(ListCopies(Folder(), true).front().fault.isEmpty());
+    EXPECT_FALSE(NewestGoodCopy(Folder()));
+}
+
+TEST_F(ShowCopiesTest, DamageNamesTheNewestGoodCopy) {
+    AddOwner("Eva");
+    Copy();
+    TheDataModule().Conn1.Close();
+    Damage(DatabasePath(Folder()));
+    const CopyOutcome outcome = TryCopy(Folder(), now.PlusDays(3));
+    EXPECT_TRUE(outcome.isDamaged) << outcome.failure.toStdString();
+    EXPECT_EQ(outcome.newestGood, QStringLiteral("data 2027-05-15 08.00.00.mdb"));
+    EXPECT_EQ(outcome.daysOld, 3);
+    EXPECT_EQ(Files().size(), 1);
+}
+
+TEST_F(ShowCopiesTest, NobodyWaitsForACopyInTheBackground) {
+    AddOwner("Eva");
+    BackgroundCopy copy;
+    std::vector<CopyOutcome> outcomes;
+    QObject::connect(&copy, &BackgroundCopy::Ended, &copy,
+                     [&outcomes](const CopyOutcome& outcome) { outcomes.push_back(outcome); });
+    copy.Begin(Folder(), now);
+    AddOwner("Jan"); // while the copy may be under way
+    QTRY_COMPARE(static_cast<int>(outcomes.size()), 1);
+    EXPECT_EQ(outcomes.front().failure, QString());
+    EXPECT_EQ(Files().size(), 1);
+}
+
+} // namespace
+} // namespace lorvo::test
