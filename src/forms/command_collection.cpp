@@ -1,6 +1,7 @@
 #include "forms/command_collection.h"
 
 #include "app/commands.h"
+#include "forms/command_tool_bar.h"
 #include "forms/controls.h"
 #include "platform/failure_guard.h"
 #include "platform/values/errors.h"
@@ -77,7 +78,7 @@ QToolBar* CommandCollection::MakeBar(const QString& bar, QWidget* parent) {
     const CommandBar* description = FindCommandBar(bar);
     if (!description)
         throw Error("Panel příkazů " + bar.toStdString() + " neexistuje.");
-    auto* toolBar = Named(new QToolBar(parent), bar);
+    auto* toolBar = new CommandToolBar(bar, parent);
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     toolBar->setMovable(false);
     toolBar->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -90,12 +91,14 @@ QToolBar* CommandCollection::MakeBar(const QString& bar, QWidget* parent) {
     return toolBar;
 }
 
-void CommandCollection::DropDown(const CommandBar& bar, const QString& key, QToolBar* toolBar) {
+void CommandCollection::DropDown(const CommandBar& bar, const QString& key,
+                                 CommandToolBar* toolBar) {
     QAction* button = Action(key);
     auto* menu = new QMenu(toolBar);
     for (const QStringView entry : bar.commands)
         menu->addAction(Action(entry.toString()));
     button->setMenu(menu);
+    Connect(menu, &QMenu::aboutToHide, toolBar, &CommandToolBar::LeaveBar);
     static_cast<QToolButton*>(toolBar->widgetForAction(button))
         ->setPopupMode(QToolButton::InstantPopup);
 }

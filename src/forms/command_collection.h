@@ -31,7 +31,7 @@ class CommandCollection : public QObject {
 
   private:
     QAction* MakeAction(const struct Command& command);
-    void DropDown(const struct CommandBar& bar, const QString& key, QToolBar* toolBar);
+    void DropDown(const struct CommandBar& bar, const QString& key, class CommandToolBar* toolBar);
 
     QMap<QString, QAction*> actions_;
 };

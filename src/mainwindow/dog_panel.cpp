@@ -12,12 +12,36 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace lorvo {
 
 namespace {
+
 /// Between two sections.
 constexpr int kGapUnits = 105;
+
+/// Scrolls up and down alone: it is never narrower than the sections and the scroll bar beside
+/// them. The keyboard goes to what lies in it and takes it along.
+class SectionsArea : public QScrollArea {
+  public:
+    explicit SectionsArea(QWidget* parent) : QScrollArea(parent) {
+        setObjectName(QStringLiteral("areaSections"));
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    QSize minimumSizeHint() const override {
+        QSize least = QScrollArea::minimumSizeHint();
+        if (widget())
+            least.setWidth(widget()->minimumSizeHint().width() +
+                           verticalScrollBar()->sizeHint().width());
+        return least;
+    }
+};
+
 } // namespace
 
 DogPanel::DogPanel(QWidget* parent)
@@ -36,10 +60,7 @@ DogPanel::DogPanel(QWidget* parent)
 }
 
 QScrollArea* DogPanel::Sections() {
-    auto* area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* area = new SectionsArea(this);
     auto* sections = new QWidget(area);
     fraPuvod = new OriginSection(sections);
     fraMajitel = new OwnerSection(sections);

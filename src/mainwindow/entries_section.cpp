@@ -51,8 +51,8 @@ QLayout* EntriesSection::Values() {
     ValueGrid grid(2, SectionCaptions());
     closing_ = grid.AddText(0, QStringLiteral("Uzávěrka:"));
     firstDog_ = grid.AddText(0, QStringLiteral("První pes:"));
-    price_ = grid.AddText(1, QStringLiteral("Cena celkem:"));
-    paid_ = grid.AddText(1, QStringLiteral("Uhrazeno:"));
+    price_ = grid.AddAmount(1, QStringLiteral("Cena celkem:"));
+    paid_ = grid.AddAmount(1, QStringLiteral("Uhrazeno:"));
     balance_ = ValueLabel(QStringLiteral("Rozdíl:"), nullptr);
     balanceWord_ = new QLabel;
     balanceWord_->setObjectName(QStringLiteral("lblBalanceWord"));

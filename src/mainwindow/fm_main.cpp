@@ -17,6 +17,8 @@
 #include "store/data_module.h"
 
 #include <QCloseEvent>
+#include <QPointer>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSplitter>
 #include <QToolBar>
@@ -77,6 +79,7 @@ void fm_main::MakeSplitter() {
     vbuSplit->setStretchFactor(1, 1);
     PlaceSplitter(*vbuSplit, kDesignedTreeWidth);
     setCentralWidget(vbuSplit);
+    tvwMain->setFocus();
     Connect(tvwMain, &MainTree::NodeClick, cmdBar, &MainCommandBar::NodeClicked);
 }
 
@@ -149,6 +152,9 @@ void fm_main::ShowGridLines(bool shown) {
 }
 
 void fm_main::Activate() {
+    // A panel that goes takes the keyboard away from what the clerk was at on it.
+    const auto end =
+        qScopeGuard([this, focus = QPointer<QWidget>(focusWidget())] { GiveFocusBack(focus); });
     ReadShowClasses();
     picDetails->RestoreCurrent();
     if (std::exchange(Module().PaymentsOwner, 0) != 0)
@@ -164,6 +170,13 @@ void fm_main::Activate() {
         ShowAgain(key);
     else
         SkipFailure([this] { picDetails->Refresh(); });
+}
+
+void fm_main::GiveFocusBack(QWidget* before) {
+    if (!before || before == focusWidget())
+        return;
+    QWidget* now = before->isVisible() && before->isEnabled() ? before : tvwMain;
+    now->setFocus();
 }
 
 // Another panel than the owner's may show the payments too.

@@ -71,6 +71,7 @@ class fm_main : public QMainWindow,
     void ShowGridLines(bool shown);
     void ShowAgain(const QString& key);
     void ReturnFromStatement();
+    void GiveFocusBack(QWidget* before);
 
     // CommandTarget
     void AddRing() override;

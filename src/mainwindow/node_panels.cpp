@@ -2,12 +2,14 @@
 
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/light_palette.h"
 #include "mainwindow/breed_panel.h"
 #include "mainwindow/card_actions.h"
 #include "mainwindow/class_panel.h"
 #include "mainwindow/dog_panel.h"
 #include "mainwindow/fci_panel.h"
 #include "mainwindow/main_tree.h"
+#include "mainwindow/node_title.h"
 #include "mainwindow/owner_panel.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/ring_panel.h"
@@ -24,15 +26,6 @@
 namespace lorvo {
 
 namespace {
-
-constexpr int kPictureSize = 32;
-
-QPushButton* HistoryButton(const QString& name, const QString& text, const QString& icon,
-                           QWidget* parent) {
-    auto* button = Named(new QPushButton(ProgramIcon(icon), text, parent), name);
-    button->setEnabled(false);
-    return button;
-}
 
 /// How many nodes the path to a node has, itself included.
 int PathLength(const TreeNode& node) {
@@ -55,13 +48,17 @@ int PathLength(const TreeNode& node) {
 
 NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& history, QWidget* parent)
     : QWidget(parent), tree_(tree), nodes_(tree.Nodes()), status_(status), history_(history),
+      title_(new NodeTitle(
+          history, [this](const QString& key) { ShowNodeInfo(key); }, this)),
       stack_(new QStackedWidget(this)), nothing_(new QWidget), picKruhInfo(new RingPanel(nullptr)),
       picPlemenoInfo(new BreedPanel(nullptr)), picTridaInfo(new ClassPanel(nullptr)),
       picFCIInfo(new FciPanel(nullptr)), picPesInfo(new DogPanel(nullptr)),
       picMajitelInfo(new OwnerPanel(nullptr)) {
     setObjectName(QStringLiteral("picDetails"));
+    KeepLight(*this);
+    setAutoFillBackground(true);
     auto* column = new QVBoxLayout(this);
-    column->addLayout(TitleRow());
+    column->addWidget(title_);
     column->addWidget(stack_, 1);
     for (QWidget* panel :
          std::initializer_list<QWidget*>{nothing_, picKruhInfo, picPlemenoInfo, picTridaInfo,
@@ -77,45 +74,6 @@ NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& histor
 
 NodePanels::~NodePanels() = default;
 
-QLayout* NodePanels::TitleRow() {
-    picMode = Named(new QLabel(this), QStringLiteral("picMode"));
-    picMode->setFixedSize(kPictureSize, kPictureSize);
-    lblItemTitle = Named(new QLabel(this), QStringLiteral("lblItemTitle"));
-    lblItemTitle->setTextFormat(Qt::PlainText);
-    lblItemTitle->setWordWrap(true);
-    TakeGivenWidth(*lblItemTitle);
-    QFont large = lblItemTitle->font();
-    large.setPointSizeF(large.pointSizeF() * 1.4);
-    large.setBold(true);
-    lblItemTitle->setFont(large);
-    cmdHistoryBack = HistoryButton(QStringLiteral("cmdHistoryBack"), QStringLiteral("Zpět"),
-                                   QStringLiteral("back"), this);
-    cmdHistoryFwd = HistoryButton(QStringLiteral("cmdHistoryFwd"), QStringLiteral("Vpřed"),
-                                  QStringLiteral("forward"), this);
-    const NodeHistory::Show show = [this](const QString& key) {
-        ShowNodeInfo(key);
-    };
-    Connect(cmdHistoryBack, &QPushButton::clicked, this, [this, show] {
-        history_.GoBack(show);
-        UpdateHistoryButtons();
-    });
-    Connect(cmdHistoryFwd, &QPushButton::clicked, this, [this, show] {
-        history_.GoForward(show);
-        UpdateHistoryButtons();
-    });
-    auto* row = new QHBoxLayout;
-    row->addWidget(picMode);
-    row->addWidget(lblItemTitle, 1);
-    row->addWidget(cmdHistoryBack);
-    row->addWidget(cmdHistoryFwd);
-    return row;
-}
-
-void NodePanels::UpdateHistoryButtons() {
-    cmdHistoryBack->setEnabled(history_.BackEnabled());
-    cmdHistoryFwd->setEnabled(history_.ForwardEnabled());
-}
-
 void NodePanels::ShowNodeInfo(const QString& key) {
     ShowNodeInfo(nodes_.Get(key));
 }
@@ -127,7 +85,7 @@ void NodePanels::ShowSelectedNode() {
 
 void NodePanels::ShowNodeInfo(const TreeNode& node) {
     history_.Record(node.Key());
-    UpdateHistoryButtons();
+    title_->UpdateButtons();
     ShowNode(node);
 }
 
@@ -281,11 +239,11 @@ void NodePanels::EditRing() {
 }
 
 void NodePanels::SetTitle(const QString& title) {
-    lblItemTitle->setText(title);
+    title_->SetText(title);
 }
 
 void NodePanels::SetPicture(const QIcon& icon) {
-    picMode->setPixmap(icon.pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+    title_->SetPicture(icon);
 }
 
 void NodePanels::AddPanel(QWidget* panel) {

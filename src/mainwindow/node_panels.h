@@ -9,8 +9,6 @@
 #include <QWidget>
 #include <memory>
 
-class QLabel;
-class QPushButton;
 class QStackedWidget;
 
 namespace lorvo {
@@ -22,6 +20,7 @@ class DogPanel;
 class FciPanel;
 class MainTree;
 class NodeHistory;
+class NodeTitle;
 class OwnerPanel;
 class RingPanel;
 class StatusPanels;
@@ -79,7 +78,6 @@ class NodePanels : public QWidget {
         int owner = 0;
     };
 
-    QLayout* TitleRow();
     void ShowNode(const TreeNode& node);
     void ShowPanelOf(const TreeNode& node);
     void ShowRing(const TreeNode& ring);
@@ -90,7 +88,6 @@ class NodePanels : public QWidget {
     void NoteCurrent();
     void Empty();
     void EmptyWithoutNode();
-    void UpdateHistoryButtons();
     void EditRing();
 
     MainTree& tree_;
@@ -98,10 +95,7 @@ class NodePanels : public QWidget {
     StatusPanels& status_;
     NodeHistory& history_;
 
-    QLabel* picMode;
-    QLabel* lblItemTitle;
-    QPushButton* cmdHistoryBack;
-    QPushButton* cmdHistoryFwd;
+    NodeTitle* title_;
     QStackedWidget* stack_;
     QWidget* nothing_; ///< in front when all panels are hidden
     RingPanel* picKruhInfo;

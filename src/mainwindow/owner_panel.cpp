@@ -78,11 +78,11 @@ QLayout* OwnerPanel::Lines() {
 }
 
 QLayout* OwnerPanel::Totals() {
-    ValueGrid grid(4);
-    Label19 = grid.AddText(0, QStringLiteral("Celkem psů:"), QStringLiteral("Label19"));
-    price_ = grid.AddText(1, QStringLiteral("Cena:"));
-    paid_ = grid.AddText(2, QStringLiteral("Uhrazeno:"));
-    balance_ = grid.AddText(3, QStringLiteral("Bilance:"));
+    ValueGrid grid(2);
+    Label19 = Named(grid.AddAmount(0, QStringLiteral("Celkem psů:")), QStringLiteral("Label19"));
+    price_ = grid.AddAmount(1, QStringLiteral("Cena:"));
+    paid_ = grid.AddAmount(0, QStringLiteral("Uhrazeno:"));
+    balance_ = grid.AddAmount(1, QStringLiteral("Bilance:"));
     return grid.Layout();
 }
 

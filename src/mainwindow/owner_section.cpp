@@ -1,6 +1,7 @@
 #include "mainwindow/owner_section.h"
 
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/window_opener.h"
 #include "platform/failure_guard.h"
@@ -28,7 +29,7 @@ QToolButton* Picture(const QString& name, const QString& icon, const QString& to
 void ShowNeighbour(QToolButton& picture, const DogCard::Neighbour& neighbour) {
     picture.setVisible(!neighbour.key.isEmpty());
     if (!neighbour.key.isEmpty())
-        picture.setToolTip(neighbour.name);
+        picture.setToolTip(PlainToolTip(neighbour.name));
 }
 
 } // namespace

@@ -2,6 +2,9 @@
 
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "mainwindow/elided_link.h"
+
+#include <algorithm>
 
 namespace lorvo {
 
@@ -39,6 +42,28 @@ ReportRow RowOf(const CheckLine& line) {
     for (const InkedText& text : line.subItems)
         row.cells.push_back({text.text, text.colour});
     return row;
+}
+
+bool HasRowsOf(const ReportList& list, const CheckLines& lines) {
+    if (list.RowCount() != std::ssize(lines))
+        return false;
+    int position = 0;
+    return std::ranges::all_of(
+        lines, [&](const CheckLine& line) { return list.Row(position++).key == line.key; });
+}
+
+/// Changes what differs, so that what the clerk has selected and scrolled to stays.
+void UpdateRow(ReportList& list, int position, const ReportRow& wanted) {
+    for (std::size_t i = 0; i < wanted.cells.size(); ++i) {
+        const int column = static_cast<int>(i);
+        const ReportCell shown = list.Row(position).cells[i];
+        if (shown.text != wanted.cells[i].text)
+            list.SetCell(position, column, wanted.cells[i].text);
+        if (shown.colour != wanted.cells[i].colour)
+            list.SetCellColour(position, column, wanted.cells[i].colour);
+    }
+    if (list.Row(position).checked != wanted.checked)
+        list.SetChecked(position, wanted.checked);
 }
 
 } // namespace
@@ -82,7 +107,7 @@ void ValueGrid::Add(int pair, const QString& caption, QWidget* value) {
 }
 
 LinkLabel* ValueGrid::AddLink(int pair, const QString& caption) {
-    auto* link = new LinkLabel(QString(), nullptr);
+    auto* link = new ElidedLink(nullptr);
     link->setAccessibleName(caption);
     link->setFont(Bold(link->font()));
     TakeGivenWidth(*link);
@@ -105,6 +130,14 @@ QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name
     return value;
 }
 
+QLabel* ValueGrid::AddAmount(int pair, const QString& caption) {
+    QLabel* value = ValueLabel(caption, nullptr);
+    value->setFont(Bold(value->font()));
+    value->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
+    Add(pair, caption, value);
+    return value;
+}
+
 void ShowText(QLabel& label, const InkedText& text) {
     label.setText(text.text);
     QPalette palette;
@@ -114,6 +147,11 @@ void ShowText(QLabel& label, const InkedText& text) {
 }
 
 void ShowLines(ReportList& list, const CheckLines& lines) {
+    if (HasRowsOf(list, lines)) {
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            UpdateRow(list, static_cast<int>(i), RowOf(lines[i]));
+        return;
+    }
     std::vector<ReportRow> rows;
     rows.reserve(lines.size());
     for (const CheckLine& line : lines)

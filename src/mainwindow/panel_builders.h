@@ -37,6 +37,10 @@ class ValueGrid {
     /// The same with a bold label of that name (none when empty), which is returned.
     QLabel* AddText(int pair, const QString& caption, const QString& name = {});
 
+    /// The same with a label that is always wide enough for its text: a number cut in the middle
+    /// would be another number.
+    QLabel* AddAmount(int pair, const QString& caption);
+
     /// Puts a row of controls below the last pair of column `pair`, across caption and value.
     void AddRow(int pair, QLayout* row);
 
@@ -53,7 +57,7 @@ class ValueGrid {
 /// Sets text and colour; without a colour the label has the window's own.
 void ShowText(QLabel& label, const InkedText& text);
 
-/// Replaces the rows of a list by the lines of a check list.
+/// Makes the rows of a list those of a check list; rows of the same records stay and change.
 void ShowLines(ReportList& list, const CheckLines& lines);
 
 } // namespace lorvo

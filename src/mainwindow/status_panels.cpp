@@ -1,6 +1,7 @@
 #include "mainwindow/status_panels.h"
 
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,9 +21,7 @@ StatusPanels::StatusPanels(const QString& name, QWidget* parent) : QStatusBar(pa
 
 StatusPanels::Panel StatusPanels::MakePanel(int number) {
     const QString name = QStringLiteral("%1(%2)").arg(objectName()).arg(number);
-    auto* text = Named(new QLabel(this), name);
-    // A name is shown as it is, whatever signs it holds.
-    text->setTextFormat(Qt::PlainText);
+    auto* text = Named(new ElidedLabel(this), name);
     // The panels share the bar: a long name is cut, and no other panel pays for it.
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     text->setAccessibleName(QStringLiteral("Cesta %1").arg(number));

@@ -162,6 +162,34 @@ TEST_F(DogPanelTest, AfterATickTheSelectedNodeIsShownAndFailuresAreSkipped) {
     EXPECT_EQ(Title(), u"Bára z Lhoty"_qs);
 }
 
+TEST_F(DogPanelTest, TickingByTheKeyboardKeepsTheRow) {
+    Start();
+    Show(u"P3"_qs);
+    auto& list = Get<ReportList>("lvwSouteze");
+    list.setFocus();
+    list.SelectRow(1);
+    for (int times = 0; times < 2; ++times)
+        QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_EQ(list.SelectedRow(), 1);
+    EXPECT_TRUE(list.hasFocus());
+    EXPECT_EQ(Ticked("lvwSouteze"), u"V2"_qs);
+    QTest::keyClick(&list, Qt::Key_Up);
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_EQ(ShowsOfDog(3), std::vector({1}));
+    EXPECT_EQ(Text(u"Cena celkem:"_qs), u"1 349,00 Kč"_qs);
+}
+
+TEST_F(DogPanelTest, NeverLiesUnderItsScrollBarNorTakesTheTabKeyForIt) {
+    window.resize(400, 300);
+    Start();
+    Show(u"P3"_qs);
+    QTest::qWait(0);
+    const auto& area = Get<QScrollArea>("areaSections");
+    EXPECT_LE(area.widget()->width(), area.viewport()->width());
+    EXPECT_GE(area.viewport()->width(), area.widget()->minimumSizeHint().width());
+    EXPECT_EQ(area.focusPolicy(), Qt::NoFocus);
+}
+
 TEST_F(DogPanelTest, TickingAwardsStoresThem) {
     Start();
     Show(u"P3"_qs);

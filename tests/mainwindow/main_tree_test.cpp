@@ -1,5 +1,6 @@
 #include "mainwindow/tree_host.h"
 
+#include <QContextMenuEvent>
 #include <QImage>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -100,6 +101,34 @@ TEST_F(MainTreeTest, TheKeyboardStaysWhereItStoodAfterAReload) {
     host.MakeNodeVisible(u"P1"_qs);
     Press(Qt::Key_Down);
     EXPECT_EQ(host.SelectedNode(), u"P2"_qs);
+}
+
+TEST_F(MainTreeTest, OpensTheMenuOfTheCurrentNodeByAKey) {
+    host.SelectNode(u"P1"_qs);
+    platform.ExpectMenu(0);
+    Press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Odstranit psa"_qs));
+    host.SelectNode(u"K1"_qs);
+    platform.ExpectMenu(0);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
+    QCoreApplication::sendEvent(Tree().viewport(), &key);
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Přejmenovat kruh"_qs));
+}
+
+TEST_F(MainTreeTest, OpensTheMenuOfTheCurrentNodeAfterAReload) {
+    host.SelectNode(u"P1"_qs);
+    Load();
+    host.MakeNodeVisible(u"P1"_qs);
+    platform.ExpectMenu(0);
+    Press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Odstranit psa"_qs));
+    EXPECT_EQ(host.SelectedNode(), u"P1"_qs);
+}
+
+TEST_F(MainTreeTest, OpensTheMenuOfTheEmptyPlaceByAKeyWhenNothingIsSelected) {
+    platform.ExpectMenu(0);
+    Press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Přidat kruh"_qs));
 }
 
 TEST_F(MainTreeTest, EndsEveryKeyByShowingTheSelectedNode) {

@@ -120,5 +120,18 @@ TEST_F(OwnerPanelTest, ADogOutsideTheTreeIsListedButCantBeSelected) {
     EXPECT_EQ(tree->SelectedNode()->Key(), u"P3"_qs);
 }
 
+TEST_F(OwnerPanelTest, TotalsAreNeverCutHoweverNarrowTheWindow) {
+    Run("UPDATE Uhrady SET Kc = 123456789012");
+    window.resize(300, 400);
+    Start();
+    ShowOwnerOf(u"P3"_qs);
+    QTest::qWait(0);
+    for (const auto& caption : {u"Cena:"_qs, u"Uhrazeno:"_qs, u"Bilance:"_qs, u"Celkem psů:"_qs}) {
+        const QLabel* total = Value(caption);
+        ASSERT_TRUE(total) << caption.toStdString();
+        EXPECT_GE(total->width(), total->sizeHint().width()) << caption.toStdString();
+    }
+}
+
 } // namespace
 } // namespace lorvo

@@ -139,6 +139,20 @@ TEST_F(ShellActivate, APanelThatFailsIsSkippedInSilence) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
+TEST_F(ShellActivate, TheKeyboardComesBackToWhatTheWindowWasOpenedFrom) {
+    StartOn(u"P100"_qs);
+    auto& link = Control<QWidget>(u"lblNovaPlatba"_qs);
+    link.setFocus();
+    OpenAndClose();
+    EXPECT_EQ(window_->focusWidget(), &link);
+    OpenAndClose([this] {
+        database_.Execute("DELETE FROM Psi WHERE ID = 100");
+        Module().TreeDirty = true;
+        window_->SelectNode(u"R10"_qs);
+    });
+    EXPECT_EQ(window_->focusWidget(), &Tree()) << "the link has gone";
+}
+
 TEST_F(ShellActivate, RunsWhenTheClerkComesBackFromAnotherProgram) {
     StartOn(u"R10"_qs);
     RenameBreed(10, "Knírač");

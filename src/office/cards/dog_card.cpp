@@ -145,13 +145,18 @@ void FillNeighbours(DogCard& card, int ownerID) {
     card.previous = {};
     card.next = {};
     const std::string title = SortKey(card.title);
-    // Each walk comes nearer to this dog, so that the last dog on its side is the neighbour.
-    for (const Psi& dog : DogsOfOwner(ownerID))
-        if (SortKey(FullName(dog)) < title)
+    // The last dog before this one is its neighbour, and of those behind it the last one that bears
+    // the first of their names.
+    std::optional<QString> nextName;
+    for (const Psi& dog : DogsOfOwner(ownerID)) {
+        const std::string name = SortKey(FullName(dog));
+        if (name < title) {
             card.previous = {NodeKey::Dog(dog.ID).ToText(), FullName(dog)};
-    for (const Psi& dog : DogsOfOwner(ownerID, DogOrder::ByNameDescending))
-        if (SortKey(FullName(dog)) > title)
+        } else if (name > title && dog.Jmeno == nextName.value_or(dog.Jmeno)) {
+            nextName = dog.Jmeno;
             card.next = {NodeKey::Dog(dog.ID).ToText(), FullName(dog)};
+        }
+    }
 }
 
 void FillMoney(DogCard& card, const Psi& dog) {

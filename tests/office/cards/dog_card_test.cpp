@@ -295,6 +295,17 @@ TEST_F(DogCardTest, NeighboursAreTheNearestNamesInCzechOrder) {
     EXPECT_EQ(card.next.key, QString());
 }
 
+TEST_F(DogCardTest, OfSeveralNeighboursOfOneNameItIsTheLast) {
+    AddDog(1, "Alík");
+    AddDog(2, "Bára");
+    AddDog(3, "Bára");
+    AddDog(4, "Cita");
+    Fill(1);
+    EXPECT_EQ(card.next.key, u"P3"_qs);
+    Fill(4);
+    EXPECT_EQ(card.previous.key, u"P3"_qs);
+}
+
 TEST_F(DogCardTest, ADogAloneAndOneOfTheSameFullNameHaveNoNeighbours) {
     AddDog(1, "Alík");
     Fill(1);

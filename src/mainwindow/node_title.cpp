@@ -1,0 +1,73 @@
+#include "mainwindow/node_title.h"
+
+#include "forms/controls.h"
+#include "mainwindow/panel_builders.h"
+#include "platform/failure_guard.h"
+
+#include <QHBoxLayout>
+
+namespace lorvo {
+
+namespace {
+
+constexpr int kPictureSize = 32;
+
+QLabel* TitleLabel(QWidget* parent) {
+    auto* label = Named(new QLabel(parent), QStringLiteral("lblItemTitle"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    TakeGivenWidth(*label);
+    QFont large = label->font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    large.setBold(true);
+    label->setFont(large);
+    return label;
+}
+
+QPushButton* HistoryButton(const QString& name, const QString& text, const QString& icon,
+                           QWidget* parent) {
+    auto* button = Named(new QPushButton(ProgramIcon(icon), text, parent), name);
+    button->setEnabled(false);
+    return button;
+}
+
+} // namespace
+
+NodeTitle::NodeTitle(NodeHistory& history, const NodeHistory::Show& show, QWidget* parent)
+    : QWidget(parent), history_(history),
+      picMode(Named(new QLabel(this), QStringLiteral("picMode"))), lblItemTitle(TitleLabel(this)),
+      cmdHistoryBack(HistoryButton(QStringLiteral("cmdHistoryBack"), QStringLiteral("Zpět"),
+                                   QStringLiteral("back"), this)),
+      cmdHistoryFwd(HistoryButton(QStringLiteral("cmdHistoryFwd"), QStringLiteral("Vpřed"),
+                                  QStringLiteral("forward"), this)) {
+    picMode->setFixedSize(kPictureSize, kPictureSize);
+    Connect(cmdHistoryBack, &QPushButton::clicked, this, [this, show] {
+        history_.GoBack(show);
+        UpdateButtons();
+    });
+    Connect(cmdHistoryFwd, &QPushButton::clicked, this, [this, show] {
+        history_.GoForward(show);
+        UpdateButtons();
+    });
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(picMode);
+    row->addWidget(lblItemTitle, 1);
+    row->addWidget(cmdHistoryBack);
+    row->addWidget(cmdHistoryFwd);
+}
+
+void NodeTitle::SetText(const QString& text) {
+    lblItemTitle->setText(text);
+}
+
+void NodeTitle::SetPicture(const QIcon& icon) {
+    picMode->setPixmap(icon.pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+}
+
+void NodeTitle::UpdateButtons() {
+    cmdHistoryBack->setEnabled(history_.BackEnabled());
+    cmdHistoryFwd->setEnabled(history_.ForwardEnabled());
+}
+
+} // namespace lorvo

@@ -1,0 +1,107 @@
+#include "forms/command_collection.h"
+
+#include "support/print_qt.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+class CommandToolBarTest : public ::testing::Test {
+  protected:
+    CommandToolBarTest() {
+        auto* column = new QVBoxLayout(&window_);
+        bar_ = commands_->MakeBar(u"STANDARD"_qs, &window_);
+        column->addWidget(bar_);
+        column->addWidget(below_);
+        window_.show();
+        below_->setFocus();
+        // NOLINTNEXTLINE(bugprone-unused-return-value)
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
+    }
+    static void Press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+    QWidget* Button(const QString& key) { return bar_->widgetForAction(commands_->Action(key)); }
+
+    QWidget window_;
+    CommandCollection* commands_ = new CommandCollection(
+        u"cmdBar"_qs, {u"ADD"_qs, u"TABLES"_qs, u"EXPORT"_qs, u"SETTINGS"_qs, u"HELP"_qs},
+        &window_);
+    QToolBar* bar_ = nullptr;
+    QLineEdit* below_ = new QLineEdit(&window_);
+};
+
+TEST_F(CommandToolBarTest, F10LeadsToTheFirstButtonAndArrowsAndTabAlong) {
+    Press(Qt::Key_F10);
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"ADD"_qs));
+    Press(Qt::Key_Right);
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"TABLES"_qs));
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"EXPORT"_qs));
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Left);
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"ADD"_qs));
+}
+
+TEST_F(CommandToolBarTest, PassesByAGreyedButton) {
+    commands_->Action(u"ADD"_qs)->setEnabled(false);
+    Press(Qt::Key_F10);
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"TABLES"_qs));
+}
+
+TEST_F(CommandToolBarTest, EscLeadsBack) {
+    Press(Qt::Key_F10);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), below_);
+}
+
+TEST_F(CommandToolBarTest, EnterAndSpaceChooseACommandWithTheKeyboardBackWhereItWas) {
+    QWidget* focusThen = nullptr;
+    QSignalSpy chosen(commands_, &CommandCollection::CommandClick);
+    QObject::connect(commands_, &CommandCollection::CommandClick, &window_,
+                     [&] { focusThen = QApplication::focusWidget(); });
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        Press(Qt::Key_F10);
+        Button(u"SETTINGS"_qs)->setFocus();
+        Press(Qt::Key_Down);
+        Press(key);
+        EXPECT_EQ(focusThen, below_);
+        focusThen = nullptr;
+    }
+    EXPECT_EQ(chosen.size(), 3) << "the down arrow chooses nothing";
+    EXPECT_EQ(chosen.at(0).at(0).toString(), u"SETTINGS"_qs);
+}
+
+TEST_F(CommandToolBarTest, EnterSpaceAndDownDropAMenuDownOnItsFirstEntry) {
+    QSignalSpy chosen(commands_, &CommandCollection::CommandClick);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Down}) {
+        Press(Qt::Key_F10);
+        Press(Qt::Key_Right);
+        QTimer::singleShot(0, &window_, [] {
+            QTest::qWait(0);
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        });
+        Press(key);
+        EXPECT_EQ(QApplication::focusWidget(), below_);
+    }
+    ASSERT_EQ(chosen.size(), 3);
+    EXPECT_EQ(chosen.at(0).at(0).toString(), u"TABLES:PSI"_qs);
+}
+
+TEST_F(CommandToolBarTest, AClickOfTheMouseLeavesTheKeyboardWhereItIs) {
+    QTest::mouseClick(Button(u"SETTINGS"_qs), Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), below_);
+}
+
+} // namespace
+} // namespace lorvo

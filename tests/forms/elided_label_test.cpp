@@ -1,0 +1,53 @@
+#include "forms/elided_label.h"
+
+#include "support/print_qt.h"
+
+#include <QLabel>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+class ElidedLabelTest : public ::testing::Test {
+  protected:
+    ElidedLabelTest() { label_.setText(name_); }
+    static int WidthOf(const QString& text) { return QLabel(text).sizeHint().width(); }
+
+    const QString name_ = u"Chovatelská stanice Na Kopečku u Dlouhé Lhoty"_qs;
+    ElidedLabel label_{nullptr};
+};
+
+TEST_F(ElidedLabelTest, TellsTheWholeTextWhereItIsCut) {
+    label_.setToolTip(u"Majitel"_qs);
+    label_.resize(WidthOf(name_) / 2, 30);
+    label_.grab();
+    EXPECT_EQ(label_.toolTip(), name_);
+    EXPECT_EQ(label_.text(), name_);
+    label_.resize(WidthOf(name_) + 20, 30);
+    label_.grab();
+    EXPECT_EQ(label_.toolTip(), u"Majitel"_qs);
+}
+
+TEST_F(ElidedLabelTest, EndsInAnEllipsisAtItsEdge) {
+    label_.resize(WidthOf(name_) / 2, 30);
+    const QImage cut = label_.grab().toImage();
+    QLabel shortened(label_.fontMetrics().elidedText(name_, Qt::ElideRight, label_.width()));
+    shortened.resize(label_.size());
+    EXPECT_EQ(cut, shortened.grab().toImage());
+}
+
+TEST_F(ElidedLabelTest, GetsNarrowWhateverItsText) {
+    EXPECT_LT(label_.minimumSizeHint().width(), WidthOf(u"Chovatel"_qs));
+    EXPECT_EQ(label_.sizeHint().width(), WidthOf(name_));
+}
+
+TEST_F(ElidedLabelTest, AToolTipShowsMarkupAsItIs) {
+    EXPECT_EQ(PlainToolTip(u"Rex z Lhoty"_qs), u"Rex z Lhoty"_qs);
+    EXPECT_EQ(PlainToolTip(u"A & B < C"_qs), u"A & B < C"_qs);
+    const QString tip = PlainToolTip(u"<b>Rex</b>"_qs);
+    EXPECT_TRUE(Qt::mightBeRichText(tip));
+    EXPECT_EQ(tip, u"&lt;b&gt;Rex&lt;/b&gt;"_qs);
+}
+
+} // namespace
+} // namespace lorvo
