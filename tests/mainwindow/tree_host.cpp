@@ -170,7 +170,7 @@ bool TreeTest::DropData(QMimeData& data, const QString& target) {
     QDropEvent drop(place, Qt::MoveAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(Tree().viewport(), &drop);
     const bool taken = enter.isAccepted() && move.isAccepted();
-    EXPECT_EQ(drop.dropAction(), taken ? Qt::IgnoreAction : Qt::MoveAction);
+    EXPECT_TRUE(!taken || drop.dropAction() == Qt::IgnoreAction);
     return taken;
 }
 
