@@ -2,10 +2,10 @@
 
 #include "app/common_routines.h"
 #include "forms/command_collection.h"
+#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "payments/frmEditCurrency.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "store/meny.h"
 #include "store/uhrady.h"
 
@@ -63,8 +63,7 @@ void CurrencyList::CarryOut(const QString& command) {
     if (command == u"CURRENCIESLIST:ADD")
         Edit(0);
     else if (command == u"CURRENCIESLIST:EDIT" && SelectedID() == 0)
-        ThePlatform().messages->Show(u"Nebyla vybrána žádná měna"_s, MessageIcon::Information,
-                                     MessageButtons::Ok, window()->windowTitle());
+        Inform(*this, u"Nebyla vybrána žádná měna"_s);
     else if (command == u"CURRENCIESLIST:EDIT")
         Edit(SelectedID());
     else if (command == u"CURRENCIESLIST:DELETE")
@@ -100,14 +99,11 @@ void CurrencyList::DeleteByCommand() {
     const int selected = lvwCurrencies->SelectedRow();
     if (selected < 0)
         return;
-    MessageBoxes& messages = *ThePlatform().messages;
     if (const int payments = CountPaymentsInCurrency(SelectedID())) {
-        messages.Show(u"Měnu nelze odstranit, je použita v %1 platbách."_s.arg(payments),
-                      MessageIcon::Information, MessageButtons::Ok, window()->windowTitle());
+        Inform(*this, u"Měnu nelze odstranit, je použita v %1 platbách."_s.arg(payments));
         return;
     }
-    if (messages.Show(DeleteQuestion(selected), MessageIcon::Question, MessageButtons::OkCancel,
-                      window()->windowTitle()) == MessageAnswer::Ok)
+    if (Ask(*this, DeleteQuestion(selected), MessageButtons::OkCancel) == MessageAnswer::Ok)
         DeleteRow(selected);
 }
 
@@ -116,9 +112,7 @@ void CurrencyList::DeleteByKey() {
     const int selected = lvwCurrencies->SelectedRow();
     if (selected < 0)
         return;
-    if (ThePlatform().messages->Show(DeleteQuestion(selected), MessageIcon::Question,
-                                     MessageButtons::YesNoCancel,
-                                     window()->windowTitle()) == MessageAnswer::Yes)
+    if (Ask(*this, DeleteQuestion(selected), MessageButtons::YesNoCancel) == MessageAnswer::Yes)
         DeleteRow(selected);
 }
 

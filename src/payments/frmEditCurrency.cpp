@@ -5,6 +5,7 @@
 #include "forms/box_hints.h"
 #include "forms/controls.h"
 #include "forms/literal_caption.h"
+#include "forms/messages.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
@@ -112,8 +113,7 @@ void frmEditCurrency::Store() {
     try {
         currency.Kurs = AmountFromText(txtEditCurr[kRate]->text());
     } catch (const RangeError& failure) {
-        ThePlatform().messages->Show(u"Kurs: "_s + QString::fromUtf8(failure.what()),
-                                     MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+        Refuse(*this, u"Kurs: "_s + QString::fromUtf8(failure.what()));
         return;
     }
     if (currency.ID != 0)

@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "office/payments/conversion.h"
 #include "office/payments/payment_lookups.h"
 #include "office/texts/dog_texts.h"
@@ -138,17 +139,14 @@ void frmPlatba::FollowAmount(const QString& text) {
 }
 
 void frmPlatba::Store() {
-    MessageBoxes& messages = *ThePlatform().messages;
     if (txtCastka->text().isEmpty() || txtCastka->text() == u"0") {
-        messages.Show(u"Částka nesprávně zadána"_s, MessageIcon::Information, MessageButtons::Ok,
-                      windowTitle());
+        Inform(*this, u"Částka nesprávně zadána"_s);
         return;
     }
     try {
         InsertPayment(Payment());
     } catch (const RangeError& failure) {
-        messages.Show(u"Částka: "_s + QString::fromUtf8(failure.what()), MessageIcon::Stop,
-                      MessageButtons::Ok, windowTitle());
+        Refuse(*this, u"Částka: "_s + QString::fromUtf8(failure.what()));
         return;
     }
     Module().LastPaymentDate = PickedDate(*dtPrijata);

@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "office/payments/payment_lookups.h"
 #include "office/texts/dog_texts.h"
 #include "payments/frmPlatba.h"
@@ -190,8 +191,7 @@ void frmUhrady::TakePayment() {
 void frmUhrady::DeleteSelected() {
     const int selected = lvwUhrady->SelectedRow();
     if (selected < 0 ||
-        ThePlatform().messages->Show(u"Skutečně smazat platbu?"_s, MessageIcon::Question,
-                                     MessageButtons::OkCancel, windowTitle()) != MessageAnswer::Ok)
+        Ask(*this, u"Skutečně smazat platbu?"_s, MessageButtons::OkCancel) != MessageAnswer::Ok)
         return;
     DeletePayment(lvwUhrady->Row(selected).tag.toInt());
     lvwUhrady->RemoveRow(QString(lvwUhrady->Row(selected).key));

@@ -1,9 +1,9 @@
 #include "setup/code_list.h"
 
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "platform/values/errors.h"
 
 #include <QAction>
@@ -80,8 +80,7 @@ void CodeListForm::EditEntry() {
 void CodeListForm::StoreEntry(int position, const QString& text, bool* cancel) {
     if (text.isEmpty()) {
         // The list keeps the empty text, the store what it has.
-        ThePlatform().messages->Show(u"Název musí být zadán!"_s, MessageIcon::Stop,
-                                     MessageButtons::Ok, windowTitle());
+        Refuse(*this, u"Název musí být zadán!"_s);
         return;
     }
     if (store_.countNamed(text) > 0)
@@ -99,8 +98,7 @@ void CodeListForm::GiveUpEntry(int position) {
 }
 
 void CodeListForm::RefuseDuplicate(int position, bool* cancel) {
-    ThePlatform().messages->Show(texts_.duplicate.toString(), MessageIcon::Stop, MessageButtons::Ok,
-                                 windowTitle());
+    Refuse(*this, texts_.duplicate.toString());
     if (list_->Row(position).key != kNewKey)
         return;
     list_->RemoveRowAt(position);
@@ -118,12 +116,10 @@ void CodeListForm::RemoveEntry() {
     if (list_->SelectedRow() < 0)
         return;
     const int ID = SelectedID();
-    MessageBoxes& messages = *ThePlatform().messages;
     if (const int uses = store_.countUses(ID)) {
-        messages.Show(texts_.inUse.toString().arg(uses), MessageIcon::Stop, MessageButtons::Ok,
-                      windowTitle());
-    } else if (messages.Show(texts_.deleteQuestion.toString(), MessageIcon::Question,
-                             MessageButtons::YesNoCancel, windowTitle()) == MessageAnswer::Yes) {
+        Refuse(*this, texts_.inUse.toString().arg(uses));
+    } else if (Ask(*this, texts_.deleteQuestion.toString(), MessageButtons::YesNoCancel) ==
+               MessageAnswer::Yes) {
         store_.remove(ID);
         list_->RemoveRow(u"C"_s + QString::number(ID));
     }

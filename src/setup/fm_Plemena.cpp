@@ -4,6 +4,7 @@
 #include "forms/command_collection.h"
 #include "forms/controls.h"
 #include "office/texts/dog_texts.h"
+#include "forms/messages.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/breed_register.h"
@@ -116,7 +117,7 @@ void fm_Plemena::Tick(int ID) {
     if (!refusal.isEmpty()) {
         if (tickAfterRefusal)
             model.SetChecked(node, true);
-        Inform(refusal);
+        Inform(*this, refusal);
         model.SetChecked(node, tickAfterRefusal);
         return;
     }
@@ -151,7 +152,7 @@ void fm_Plemena::RenameSelected() {
     if (!node)
         return;
     if (!node->blue)
-        return Inform(u"Základní plemena nelze přejmenovat"_s);
+        return Inform(*this, u"Základní plemena nelze přejmenovat"_s);
     OpenNaming(node->ID);
 }
 
@@ -170,12 +171,11 @@ void fm_Plemena::DeleteSelected() {
     if (!node)
         return;
     if (!node->blue)
-        return Inform(u"Základní plemena nelze mazat"_s);
+        return Inform(*this, u"Základní plemena nelze mazat"_s);
     if (const int dogs = CountDogsOfBreed(node->ID))
-        return Refuse(u"Toto plemeno není možno smazat, protože je použito (%1x)"_s.arg(dogs));
-    if (ThePlatform().messages->Show(u"Skutečně smazat?"_s, MessageIcon::Question,
-                                     MessageButtons::YesNoCancel,
-                                     windowTitle()) != MessageAnswer::Yes)
+        return Refuse(*this,
+                      u"Toto plemeno není možno smazat, protože je použito (%1x)"_s.arg(dogs));
+    if (Ask(*this, u"Skutečně smazat?"_s, MessageButtons::YesNoCancel) != MessageAnswer::Yes)
         return;
     DeleteBreed(node->ID);
     tvwPlemena->Model().Remove(*node);
@@ -183,7 +183,8 @@ void fm_Plemena::DeleteSelected() {
 }
 
 void fm_Plemena::ShowHelp() {
-    Inform(u"V seznamu jsou všechna plemena podle oficiálního seznamu FCI.\n"
+    Inform(*this,
+           u"V seznamu jsou všechna plemena podle oficiálního seznamu FCI.\n"
            u"Zatrhněte ta plemena, která chcete vystavovat.\n"
            u"Pro každé z plemen můžete vytvořit libovolný počet podskupin - např. Pudl černý, Pudl "
            u"hnědý, z nichž každá bude v hlavním stromu zobrazena jako nezávislý uzel. To může být "
@@ -195,14 +196,14 @@ void fm_Plemena::RefuseBaseBreed(const BreedNode& node, bool* cancel) {
     if (node.cells[kBreedOwn] != YesNo(false))
         return;
     *cancel = true;
-    Inform(u"Toto plemeno nelze přejmenovat, název je převzat z FCI."_s);
+    Inform(*this, u"Toto plemeno nelze přejmenovat, název je převzat z FCI."_s);
 }
 
 void fm_Plemena::StoreTitle(BreedNode& node, const QString& text, bool* cancel) {
     *cancel = text.isEmpty() || CountBreedsNamed(text) > 0;
     if (*cancel)
-        return Refuse(text.isEmpty() ? u"Název musí být zadán!"_s
-                                     : u"Tento název plemene již existuje!"_s);
+        return Refuse(*this, text.isEmpty() ? u"Název musí být zadán!"_s
+                                            : u"Tento název plemene již existuje!"_s);
     RenameBreed(node.ID, text);
     tvwPlemena->Model().SetCell(node, kBreedName, text);
     Module().BreedsDirty = true;
@@ -247,14 +248,6 @@ void fm_Plemena::AssignRing(BreedNode& node, int kruhID) {
     Module().BreedListChanged = true;
     MoveBreedToRing(node.ID, kruhID);
     tvwPlemena->Model().SetCell(node, kBreedRing, RingName(kruhID));
-}
-
-void fm_Plemena::Inform(const QString& text) const {
-    ThePlatform().messages->Show(text, MessageIcon::Information, MessageButtons::Ok, windowTitle());
-}
-
-void fm_Plemena::Refuse(const QString& text) const {
-    ThePlatform().messages->Show(text, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
 }
 
 } // namespace lorvo

@@ -47,9 +47,6 @@ class fm_Plemena : public Form {
     void AssignFci(BreedNode& node, int fci);
     void AssignRing(BreedNode& node, int kruhID);
 
-    void Inform(const QString& text) const;
-    void Refuse(const QString& text) const;
-
     bool HideUnused = false;
     CommandCollection* commands_;
     BreedTree* tvwPlemena;

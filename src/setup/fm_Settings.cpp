@@ -4,6 +4,7 @@
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "office/numbers/catalogue_numbers.h"
 #include "payments/currency_list.h"
 #include "office/copies/sweep_copy.h"
@@ -248,8 +249,7 @@ void fm_Settings::Store() {
 }
 
 bool fm_Settings::Confirm(const QString& question) const {
-    return ThePlatform().messages->Show(question, MessageIcon::Question, MessageButtons::YesNo,
-                                        windowTitle()) == MessageAnswer::Yes;
+    return Ask(*this, question, MessageButtons::YesNo) == MessageAnswer::Yes;
 }
 
 void fm_Settings::GenerateNumbers() {

@@ -3,9 +3,9 @@
 #include "app/common_routines.h"
 #include "dogs/frmPsiVSoutezi.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "setup/frmSoutez.h"
 #include "store/souteze.h"
 #include "store/vazby_souteze.h"
@@ -104,8 +104,7 @@ int fm_Souteze::CompetitionAt(int position) const {
 
 void fm_Souteze::Rename(int position, const QString& text, bool* cancel) {
     if (text.isEmpty()) {
-        ThePlatform().messages->Show(u"Název musí být zadán!"_s, MessageIcon::Stop,
-                                     MessageButtons::Ok, windowTitle());
+        Refuse(*this, u"Název musí být zadán!"_s);
         *cancel = true;
         return;
     }
@@ -148,16 +147,14 @@ void fm_Souteze::RemoveSelected() {
     const int selected = lvwSouteze->SelectedRow();
     if (selected < 0)
         return;
-    MessageBoxes& messages = *ThePlatform().messages;
     const QString refusal = RemovalRefusal(lvwSouteze->CellText(selected, 2));
     if (!refusal.isEmpty()) {
-        messages.Show(refusal, MessageIcon::Information, MessageButtons::Ok, windowTitle());
+        Inform(*this, refusal);
         return;
     }
     const QString question =
         u"Určitě chcete odstranit soutěž "_s + lvwSouteze->CellText(selected, 0) + u'?';
-    if (messages.Show(question, MessageIcon::Question, MessageButtons::YesNo, windowTitle()) !=
-        MessageAnswer::Yes)
+    if (Ask(*this, question, MessageButtons::YesNo) != MessageAnswer::Yes)
         return;
     DeleteCompetition(CompetitionAt(selected));
     lvwSouteze->RemoveRow(QString(lvwSouteze->Row(selected).key));

@@ -1,9 +1,9 @@
 #include "setup/fm_classes.h"
 
 #include "app/module_values.h"
+#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "setup/code_list.h"
 #include "store/psi_lists.h"
 
@@ -50,8 +50,7 @@ void fm_classes::Load() {
 
 void fm_classes::Rename(int position, const QString& text, bool* cancel) {
     if (text.isEmpty()) {
-        ThePlatform().messages->Show(u"Název musí být zadán!"_s, MessageIcon::Stop,
-                                     MessageButtons::Ok, windowTitle());
+        Refuse(*this, u"Název musí být zadán!"_s);
         *cancel = true;
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "office/copies/sweep_copy.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -127,15 +128,18 @@ frmCisteniDB::frmCisteniDB(QWidget* parent)
     Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
+bool frmCisteniDB::IsSure() const {
+    return ThePlatform().messages->Show(
+               u"Vymazání databáze je zásadní krok. Ve vybraných tabulkách ztratíte veškerá data "
+               u"bez možnosti opravy. Jste si jist?"_s,
+               MessageIcon::Exclamation, MessageButtons::YesNo,
+               windowTitle()) == MessageAnswer::Yes;
+}
+
 void frmCisteniDB::Clear() {
-    MessageBoxes& messages = *ThePlatform().messages;
-    if (messages.Show(u"Vymazání databáze je zásadní krok. Ve vybraných tabulkách ztratíte veškerá "
-                      u"data bez možnosti opravy. Jste si jist?"_s,
-                      MessageIcon::Exclamation, MessageButtons::YesNo,
-                      windowTitle()) == MessageAnswer::Yes) {
+    if (IsSure()) {
         ClearTables();
-        messages.Show(u"Vybrané položky byly vymazány."_s, MessageIcon::Information,
-                      MessageButtons::Ok, windowTitle());
+        Inform(*this, u"Vybrané položky byly vymazány."_s);
         Module().TreeDirty = true;
     }
     accept();

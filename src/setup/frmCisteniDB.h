@@ -15,6 +15,7 @@ class frmCisteniDB : public Form {
     explicit frmCisteniDB(QWidget* parent);
 
   private:
+    bool IsSure() const;
     void Clear();
     void ClearTables();
 

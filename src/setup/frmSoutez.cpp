@@ -2,8 +2,8 @@
 
 #include "app/common_routines.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "store/souteze.h"
 #include "store/vazby_souteze.h"
@@ -110,11 +110,9 @@ Souteze frmSoutez::Competition() const {
 }
 
 void frmSoutez::Store() {
-    MessageBoxes& messages = *ThePlatform().messages;
     const QString name = txtNazev[kName]->text();
     if (IsCompetitionNamed(name, soutezID_)) {
-        messages.Show(u"Soutěž "_s + name + u" už existuje. použijte jiný název."_s,
-                      MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
+        Warn(*this, u"Soutěž "_s + name + u" už existuje. použijte jiný název."_s);
         return;
     }
     try {
@@ -123,8 +121,7 @@ void frmSoutez::Store() {
         else
             InsertCompetition(Competition());
     } catch (const RangeError& failure) {
-        messages.Show(kCaptions[kPrice].toString() + u": "_s + QString::fromUtf8(failure.what()),
-                      MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+        Refuse(*this, kCaptions[kPrice].toString() + u": "_s + QString::fromUtf8(failure.what()));
         return;
     }
     accept();

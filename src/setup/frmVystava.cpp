@@ -2,6 +2,7 @@
 
 #include "app/common_routines.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
@@ -106,7 +107,7 @@ std::array<Currency, kFeeColumns> frmVystava::Fees() const {
 
 void frmVystava::Store() {
     if (txtName->text().isEmpty())
-        return Refuse(u"Neplatný název výstavy"_s);
+        return Refuse(*this, u"Neplatný název výstavy"_s);
     const bool byClass = chkRozliseni->isChecked();
     if (!byClass)
         fees_->SpreadSimple();
@@ -114,7 +115,7 @@ void frmVystava::Store() {
     try {
         fees = Fees();
     } catch (const RangeError& failure) {
-        return Refuse(QString::fromUtf8(failure.what()));
+        return Refuse(*this, QString::fromUtf8(failure.what()));
     }
     const bool chosen = StoreChoice(byClass);
     const QString name = txtName->text().trimmed();
@@ -126,15 +127,11 @@ void frmVystava::Store() {
 }
 
 void frmVystava::TellChoiceNotStored() const {
-    ThePlatform().messages->Show(
+    Warn(
+        *this,
         u"Výstava je uložena, ale volbu „"_s + chkRozliseni->text() +
             u"“ se nepodařilo zapsat do souboru "_s + IniPath() +
-            u". Zkontrolujte, zda do složky programu smíte zapisovat a zda na disku zbývá místo."_s,
-        MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
-}
-
-void frmVystava::Refuse(const QString& text) const {
-    ThePlatform().messages->Show(text, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+            u". Zkontrolujte, zda do složky programu smíte zapisovat a zda na disku zbývá místo."_s);
 }
 
 } // namespace lorvo

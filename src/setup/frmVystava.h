@@ -32,7 +32,6 @@ class frmVystava : public Form {
     void TellChoiceNotStored() const;
     /// The fees typed, an emptied box as 0. RangeError names the box whose text is no amount.
     std::array<Currency, kFeeColumns> Fees() const;
-    void Refuse(const QString& text) const;
 
     int vystavaID_;
     std::optional<QString> stored_;

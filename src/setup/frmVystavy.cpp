@@ -2,9 +2,9 @@
 
 #include "forms/command_collection.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "setup/frmVystava.h"
 #include "store/psi_ve_vystavach.h"
 #include "store/vystavy.h"
@@ -67,11 +67,11 @@ void frmVystavy::AddShow() {
 void frmVystavy::Rename(int position, const QString& text, bool* cancel) {
     const QString key = lvwList->Row(position).key;
     if (text.isEmpty()) {
-        Refuse(u"Název musí být zadán!"_s);
+        Refuse(*this, u"Název musí být zadán!"_s);
         *cancel = true;
     } else if (CountShowsNamed(text) > 0) {
         // The row itself counts too: a name in other capitals is refused as well.
-        Refuse(u"Výstava s tímto názvem již existuje!"_s);
+        Refuse(*this, u"Výstava s tímto názvem již existuje!"_s);
         *cancel = true;
         EditAgain(key);
     } else {
@@ -107,19 +107,15 @@ void frmVystavy::DeleteSelectedShow() {
     const int vystavaID = key.mid(1).toInt();
     if (const int dogs = CountDogsInShow(vystavaID))
         return Refuse(
+            *this,
             u"Tuto výstavu není možno smazat, protože je v ní přihlášeno %1 psů."_s.arg(dogs));
     if (CountShows() == 1)
-        return Refuse(u"Tuto výstavu není možno smazat. Alespoň jedna výstava musí zůstat"_s);
-    if (ThePlatform().messages->Show(u"Skutečně smazat?"_s, MessageIcon::Question,
-                                     MessageButtons::YesNoCancel,
-                                     windowTitle()) != MessageAnswer::Yes)
+        return Refuse(*this,
+                      u"Tuto výstavu není možno smazat. Alespoň jedna výstava musí zůstat"_s);
+    if (Ask(*this, u"Skutečně smazat?"_s, MessageButtons::YesNoCancel) != MessageAnswer::Yes)
         return;
     DeleteShow(vystavaID);
     lvwList->RemoveRow(key);
-}
-
-void frmVystavy::Refuse(const QString& text) const {
-    ThePlatform().messages->Show(text, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
 }
 
 } // namespace lorvo

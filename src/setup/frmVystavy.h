@@ -23,7 +23,6 @@ class frmVystavy : public Form {
     void DeleteSelectedShow();
     void Rename(int position, const QString& text, bool* cancel);
     void EditAgain(const QString& key);
-    void Refuse(const QString& text) const;
 
     CommandCollection* commands_;
     ReportList* lvwList;

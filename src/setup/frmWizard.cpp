@@ -3,6 +3,7 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "setup/breed_tree.h"
@@ -205,8 +206,8 @@ void frmWizard::GoForward() {
 }
 
 void frmWizard::Quit() {
-    if (ThePlatform().messages->Show(u"Určitě chcete ukončit průvodce?"_s, MessageIcon::Question,
-                                     MessageButtons::YesNo, windowTitle()) == MessageAnswer::Yes)
+    if (Ask(*this, u"Určitě chcete ukončit průvodce?"_s, MessageButtons::YesNo) ==
+        MessageAnswer::Yes)
         reject();
 }
 
