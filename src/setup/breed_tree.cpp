@@ -101,6 +101,15 @@ void BreedTree::JumpToLetter(QChar letter) {
         SelectNode(**found);
 }
 
+void BreedTree::focusInEvent(QFocusEvent* event) {
+    Guarded([&] {
+        QTreeView::focusInEvent(event);
+        // The toolkit makes the first row the current one, which looks like a choice.
+        if (!SelectedNode())
+            selectionModel()->clearCurrentIndex();
+    });
+}
+
 void BreedTree::mouseReleaseEvent(QMouseEvent* event) {
     Guarded([&] {
         QTreeView::mouseReleaseEvent(event);

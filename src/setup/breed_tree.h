@@ -38,6 +38,7 @@ class BreedTree : public QTreeView {
     void keyPressEvent(QKeyEvent* event) override;
     /// Only the letters of JumpToLetter move the selection, and one at a time.
     void keyboardSearch(const QString&) override {}
+    void focusInEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;

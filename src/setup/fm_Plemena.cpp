@@ -179,6 +179,8 @@ void fm_Plemena::DeleteSelected() {
         return;
     DeleteBreed(node->ID);
     tvwPlemena->Model().Remove(*node);
+    // The toolkit goes on to the next breed, which a second Delete would then be about.
+    tvwPlemena->clearSelection();
     Module().BreedsDirty = true;
 }
 

@@ -437,6 +437,23 @@ TEST_F(BreedRegisterTest, ALetterJumpsToTheNextBreedOfThatInitial) {
     });
 }
 
+TEST_F(BreedRegisterTest, NoBreedIsChosenAtFirstNorAfterADeletion) {
+    const int pudl = AddBreed("Pudl");
+    const int brown = OwnBreed("hnědý", pudl);
+    OwnBreed("malý", pudl);
+    OpenRegister([&](QWidget& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_EQ(Selected(), 0);
+        EXPECT_FALSE(Tree().currentIndex().isValid());
+        Select(brown);
+        platform.ExpectMessage(Text("Skutečně smazat?"), MessageAnswer::Yes);
+        Key(Qt::Key_Delete);
+        EXPECT_EQ(Selected(), 0);
+        Key(Qt::Key_Delete);
+    });
+    EXPECT_EQ(Column("SELECT Nazev FROM Plemena"), (Texts{"Pudl", "malý"}));
+}
+
 TEST_F(BreedRegisterTest, ABlankWithinATypedNameTicksNothingAndOneOfItsOwnDoes) {
     const int jack = AddBreed("Jack Russell terier");
     const int usual = QApplication::keyboardInputInterval();
