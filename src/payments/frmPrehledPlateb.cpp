@@ -105,14 +105,16 @@ void frmPrehledPlateb::ShowMenu() {
 
 void frmPrehledPlateb::MarkSelected(bool printed) {
     const WaitCursor wait(*ThePlatform().ui);
-    const ReportCell cell = PrintedCell(printed);
+    const std::vector<int> positions = lvwUhrady->SelectedRows();
     EditRun run(TheDataModule().Conn1);
-    for (const int position : lvwUhrady->SelectedRows()) {
-        SetPaymentPrinted(lvwUhrady->Row(position).key.mid(1).toInt(), printed);
+    for (const int position : positions)
+        SetPaymentPrinted(lvwUhrady->Row(position).tag.toInt(), printed);
+    run.Finish();
+    const ReportCell cell = PrintedCell(printed);
+    for (const int position : positions) {
         lvwUhrady->SetCell(position, kPrintedColumn, cell.text);
         lvwUhrady->SetCellIcon(position, kPrintedColumn, cell.icon);
     }
-    run.Finish();
 }
 
 } // namespace lorvo
