@@ -4,6 +4,7 @@
 #include "store/majitele.h"
 #include "store/meny.h"
 #include "store/psi.h"
+#include "store/uhrady.h"
 #include "support/window_walk.h"
 
 #include <QHeaderView>
@@ -117,6 +118,23 @@ TEST_F(OverviewTest, MarksExactlyTheSelectedRows) {
         EXPECT_EQ(list.Row(1).cells[4].icon, 2);
         EXPECT_EQ(platform.waitCursorDepth, 0);
     });
+}
+
+TEST_F(OverviewTest, AFailureShowsNothingAsPrinted) {
+    const int first = AddPayment(rex, 1);
+    const int gone = AddPayment(rex, 2);
+    const auto mark = [&] {
+        Open([&](QWidget& window) {
+            ReportList& list = List(window);
+            DeletePayment(gone);
+            Select(list, {0, 1});
+            platform.ExpectMenu(100);
+            RightClick(list, 0);
+            EXPECT_EQ(list.CellText(0, 4), Text("Ne"));
+        });
+    };
+    EXPECT_THROW(mark(), StoreError);
+    EXPECT_EQ(Column("SELECT ID FROM Uhrady"), Texts{std::to_string(first)});
 }
 
 TEST_F(OverviewTest, ASortedListKeepsItsOrderWhileItIsMarked) {
