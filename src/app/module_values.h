@@ -23,10 +23,8 @@ struct ModuleValues {
     // Flags back to the main window, read and cleared by its Activate or its return paths.
     bool BreedsDirty = false;
     bool TreeDirty = false;
-    bool BreedListChanged = false;
     bool ListJumpedToDog = false;
 
-    int JumpToBreed = 0;   ///< breed chosen in the register, 0 for none
     int PaymentsOwner = 0; ///< owner of a statement, 0 for the statement of one dog
 
     // What is being worked on.
@@ -35,7 +33,6 @@ struct ModuleValues {
     int SavedOwnerID = 0;
     bool IsAddingDog = false;
     int CurrentBreedID = 0;
-    int CurrentCompetitionID = 0;
     bool SpecialBreed = false; ///< the breed under work is kSpecialBreedID
 
     // Options.

@@ -6,6 +6,7 @@
 #include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
+#include "setup/fm_Plemena.h"
 
 #include <QAction>
 #include <QMap>
@@ -74,22 +75,22 @@ void MainCommandBar::Run(const QString& key) {
 
 void MainCommandBar::OpenWindowOf(const QString& key) {
     const QString window = WindowsOfCommands().value(key);
-    Open(window);
-    if (window == u"fm_Plemena")
-        ReturnFromBreeds();
+    const std::unique_ptr<Form> closed = Open(window);
+    if (const auto* breeds = dynamic_cast<const fm_Plemena*>(closed.get()))
+        ReturnFromBreeds(breeds->Result());
     else if (window == u"fm_DogsList")
         ReturnFromDogs();
 }
 
-void MainCommandBar::ReturnFromBreeds() {
+void MainCommandBar::ReturnFromBreeds(const RegisterResult& result) {
     MainWindowServices& mainWindow = TheMainWindow();
-    if (Module().BreedListChanged) {
+    if (result.changed) {
         mainWindow.LoadData();
         target_.SelectNodeOnShow();
     }
-    if (Module().JumpToBreed <= 0)
+    if (result.jumpTo <= 0)
         return;
-    const QString breed = NodeKey::Breed(Module().JumpToBreed).ToText();
+    const QString breed = NodeKey::Breed(result.jumpTo).ToText();
     target_.FocusTree();
     mainWindow.MakeNodeVisible(breed);
     mainWindow.SelectNode(breed);

@@ -6,6 +6,8 @@
 
 namespace lorvo {
 
+struct RegisterResult;
+
 /// What commands do on the main window itself.
 class CommandTarget {
   public:
@@ -35,7 +37,7 @@ class MainCommandBar : public CommandCollection {
 
   private:
     void OpenWindowOf(const QString& key);
-    void ReturnFromBreeds();
+    void ReturnFromBreeds(const RegisterResult& result);
     void ReturnFromDogs();
     void SwitchContextHelp();
 

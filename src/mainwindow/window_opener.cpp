@@ -5,7 +5,6 @@
 #include "dogs/frmEditMan.h"
 #include "dogs/frmParents.h"
 #include "dogs/frmVystavovatele.h"
-#include "forms/form.h"
 #include "mainwindow/frmFind.h"
 #include "payments/frmPlatba.h"
 #include "payments/frmPrehledPlateb.h"
@@ -90,12 +89,13 @@ bool CanOpen(const QString& name) {
     return Windows().contains(name);
 }
 
-void Open(const QString& name) {
+std::unique_ptr<Form> Open(const QString& name) {
     const auto found = Windows().find(name);
     if (found == Windows().end())
         throw Error("Okno " + name.toStdString() + " neexistuje.");
-    const std::unique_ptr<Form> window = found->second(WindowInFront());
+    std::unique_ptr<Form> window = found->second(WindowInFront());
     OpenModal(*window);
+    return window;
 }
 
 WindowFactory SetWindow(const QString& name, WindowFactory factory) {

@@ -67,8 +67,7 @@ void fm_Plemena::Load() {
 
 void fm_Plemena::LoadTree() {
     Module().BreedsDirty = false;
-    Module().JumpToBreed = 0;
-    Module().BreedListChanged = false;
+    result_ = {};
     const WaitCursor waiting(*ThePlatform().ui);
     tvwPlemena->Model().SetNodes(ReadRegister(HideUnused));
     ShowStatus();
@@ -109,7 +108,7 @@ QString fm_Plemena::TickRefusal(const BreedNode& node, bool* tickAfterRefusal) c
 }
 
 void fm_Plemena::Tick(int ID) {
-    Module().BreedListChanged = true;
+    result_.changed = true;
     BreedTreeModel& model = tvwPlemena->Model();
     BreedNode& node = *model.Find(ID);
     bool tickAfterRefusal = false;
@@ -227,16 +226,16 @@ void fm_Plemena::CarryOutMenu(BreedNode& node, int number) {
     } else if (number >= kMenuRing && number < kMenuFci) {
         AssignRing(node, number - kMenuRing);
     } else if (number == kMenuDelete) {
-        Module().BreedListChanged = true;
+        result_.changed = true;
         DeleteSelected();
     } else if (number == kMenuJump) {
-        Module().JumpToBreed = node.ID;
+        result_.jumpTo = node.ID;
         accept();
     }
 }
 
 void fm_Plemena::AssignFci(BreedNode& node, int fci) {
-    Module().BreedListChanged = true;
+    result_.changed = true;
     SetBreedFci(node.ID, fci);
     // Meant so: taking a group away writes its word into the column "Používat" and leaves
     // the old number standing until the tree is read again.
@@ -247,7 +246,7 @@ void fm_Plemena::AssignFci(BreedNode& node, int fci) {
 }
 
 void fm_Plemena::AssignRing(BreedNode& node, int kruhID) {
-    Module().BreedListChanged = true;
+    result_.changed = true;
     MoveBreedToRing(node.ID, kruhID);
     tvwPlemena->Model().SetCell(node, kBreedRing, RingName(kruhID));
 }

@@ -11,10 +11,18 @@ class BreedTree;
 class CommandCollection;
 struct BreedNode;
 
+/// What the clerk did to the register.
+struct RegisterResult {
+    bool changed = false; ///< the main tree has to be built anew
+    int jumpTo = 0;       ///< breed that the clerk wants to see in it, 0 for none
+};
+
 class fm_Plemena : public Form {
     Q_OBJECT
   public:
     explicit fm_Plemena(QWidget* parent);
+
+    const RegisterResult& Result() const { return result_; }
 
   protected:
     void Load() override;
@@ -48,6 +56,7 @@ class fm_Plemena : public Form {
     void AssignRing(BreedNode& node, int kruhID);
 
     bool HideUnused = false;
+    RegisterResult result_;
     CommandCollection* commands_;
     BreedTree* tvwPlemena;
     QLabel* status_;

@@ -169,8 +169,6 @@ void frmWizard::Load() {
     SetPickedDate(*dtDatum, DateValue::FromCalendar(2000, 1, 1));
     tvwWizardPlemena->FollowGridPreference();
     Module().BreedsDirty = false;
-    Module().JumpToBreed = 0;
-    Module().BreedListChanged = false;
     tvwWizardPlemena->Model().SetNodes(ReadBreeds());
     const QString symbol = GetLocaleText(kLocaleCurrencySymbol);
     txtCurrency->setText(symbol.isEmpty() ? u"Kč"_s : symbol);

@@ -1,6 +1,9 @@
 #include "mainwindow/shell_fixture.h"
 #include "platform/values/errors.h"
+#include "setup/breed_register.h"
+#include "setup/breed_tree.h"
 #include "store/kruhy.h"
+#include "support/modal_driver.h"
 
 #include <QAction>
 #include <QMenu>
@@ -25,6 +28,21 @@ class ShellCommands : public Shell {
         for (const QAction* entry : Command(key).menu()->actions())
             texts << (entry->isSeparator() ? u"---"_qs : entry->text());
         return texts.join(u" | "_qs);
+    }
+    /// Opens the register and chooses entries of a breed's menu there.
+    void ChooseInRegister(int breed, std::initializer_list<int> numbers) {
+        test::WhileOpen([this] { Control<MainCommandBar>(u"cmdBar"_qs).Run(u"TABLES:PLEMENA"_qs); },
+                        [&](QWidget& window) {
+                            auto& breeds = test::Control<BreedTree>(window, "tvwPlemena");
+                            const BreedNode& node = *breeds.Model().Find(breed);
+                            breeds.SelectNode(node);
+                            for (const int number : numbers) {
+                                platform_.ExpectMenu(number);
+                                QTest::mouseClick(
+                                    breeds.viewport(), Qt::RightButton, {},
+                                    breeds.visualRect(breeds.Model().IndexOf(node)).center());
+                            }
+                        });
     }
     void ClickNode(const QString& key) {
         window_->MakeNodeVisible(key);
@@ -171,9 +189,8 @@ TEST_F(ShellCommands, TheHelpPointerCanBeSwitchedOffAgain) {
 
 TEST_F(ShellCommands, ABreedChosenInTheRegisterIsSelectedAndShown) {
     AddSmallShow();
-    const StandIn plemena(u"fm_Plemena"_qs, [] { Module().JumpToBreed = 11; });
     Start();
-    Command(u"TABLES:PLEMENA"_qs).trigger();
+    ChooseInRegister(11, {kMenuJump});
     EXPECT_EQ(window_->SelectedNode(), u"R11"_qs);
     EXPECT_TRUE(Title().startsWith(u"Vipet"_qs));
     EXPECT_EQ(window_->focusWidget(), &Tree());
@@ -181,35 +198,27 @@ TEST_F(ShellCommands, ABreedChosenInTheRegisterIsSelectedAndShown) {
 
 TEST_F(ShellCommands, AChangedRegisterRebuildsTheTreeBeforeTheJump) {
     AddSmallShow();
-    const StandIn plemena(u"fm_Plemena"_qs, [this] {
-        AddBreed(12, "Čuvač", 1);
-        Module().BreedListChanged = true;
-        Module().JumpToBreed = 12;
-    });
+    AddBreed(12, "Čuvač", 0);
     Start();
-    Command(u"TABLES:PLEMENA"_qs).trigger();
+    ChooseInRegister(12, {kMenuRing + 1, kMenuJump});
     EXPECT_EQ(window_->SelectedNode(), u"R12"_qs);
+    EXPECT_EQ(window_->ParentNode(u"R12"_qs), u"K1"_qs);
 }
 
 TEST_F(ShellCommands, AJumpToABreedThatTheTreeLacksFails) {
     AddSmallShow();
+    AddBreed(77, "Čuvač", 9); // in a ring that is gone
     Start();
-    auto& bar = Control<MainCommandBar>(u"cmdBar"_qs);
-    const StandIn plemena(u"fm_Plemena"_qs, [] { Module().JumpToBreed = 77; });
-    EXPECT_THROW(bar.Run(u"TABLES:PLEMENA"_qs), Error);
+    EXPECT_THROW(ChooseInRegister(77, {kMenuJump}), Error);
 }
 
 TEST_F(ShellCommands, ABreedPutIntoAnotherRingInTheRegisterStaysSelectedWithItsNewPath) {
     AddSmallShow();
-    const StandIn plemena(u"fm_Plemena"_qs, [this] {
-        database_.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (2, 'Kruh B')");
-        database_.Execute("UPDATE Plemena SET ID_Kruhu = 2 WHERE ID = 10");
-        Module().BreedListChanged = true;
-    });
+    database_.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (2, 'Kruh B')");
     Start();
     ClickNode(u"R10"_qs);
     EXPECT_EQ(Status(1), u"Kruh A"_qs);
-    Command(u"TABLES:PLEMENA"_qs).trigger();
+    ChooseInRegister(10, {kMenuRing + 2});
     EXPECT_EQ(Status(1), u"Kruh B"_qs);
     EXPECT_EQ(window_->SelectedNode(), u"R10"_qs);
     EXPECT_EQ(Tree().Nodes().Get(u"K2"_qs).background, kPathBackground);

@@ -17,7 +17,11 @@ class BreedRegisterTest : public SetupTest {
         Open<fm_Plemena>([&](QWidget& window) {
             tree_ = &Control<BreedTree>(window, "tvwPlemena");
             inside(window);
+            result = ResultOf(window);
         });
+    }
+    static const RegisterResult& ResultOf(const QWidget& window) {
+        return static_cast<const fm_Plemena&>(window).Result();
     }
     static int OwnBreed(const char* name, int parent, Assignments more = {}) {
         more.insert(more.end(), {{"Parent", parent}, {"Vlastni", true}});
@@ -63,6 +67,8 @@ class BreedRegisterTest : public SetupTest {
                    " FROM Plemena WHERE ID = " + std::to_string(ID));
     }
 
+    RegisterResult result; ///< of the visit that has ended last
+
   private:
     BreedTree* tree_ = nullptr;
 };
@@ -101,13 +107,12 @@ TEST(RegisterStatus, TakesTheWordFromTheWholeNumber) {
     EXPECT_EQ(RegisterStatus(21, 2), u"Celkem 21 plemen, z toho 2 použito.");
 }
 
-TEST_F(BreedRegisterTest, OpeningClearsTheFlagsOfTheLastVisit) {
-    Module().BreedsDirty = Module().BreedListChanged = true;
-    Module().JumpToBreed = 5;
+TEST_F(BreedRegisterTest, AVisitWithoutADeedLeavesTheTreeAsItIs) {
+    Module().BreedsDirty = true;
     OpenRegister([](QWidget&) {});
     EXPECT_FALSE(Module().BreedsDirty);
-    EXPECT_FALSE(Module().BreedListChanged);
-    EXPECT_EQ(Module().JumpToBreed, 0);
+    EXPECT_FALSE(result.changed);
+    EXPECT_EQ(result.jumpTo, 0);
 }
 
 TEST_F(BreedRegisterTest, ATickPutsTheBreedToUseAndUntickingKeepsItsRing) {
@@ -119,7 +124,7 @@ TEST_F(BreedRegisterTest, ATickPutsTheBreedToUseAndUntickingKeepsItsRing) {
         EXPECT_TRUE(Node(breed).inUse);
         EXPECT_EQ(Status(window), "Celkem 1 plemeno, z toho 1 použito.");
         EXPECT_TRUE(Module().BreedsDirty);
-        EXPECT_TRUE(Module().BreedListChanged);
+        EXPECT_TRUE(ResultOf(window).changed);
         ToggleTick(breed);
         EXPECT_EQ(Field("Pouzivat", breed), "0");
         EXPECT_EQ(Field("ID_Kruhu", breed), "7");
@@ -141,7 +146,7 @@ TEST_F(BreedRegisterTest, ABreedWithDogsKeepsItsTick) {
         EXPECT_TRUE(Node(breed).checked);
     });
     EXPECT_EQ(Field("Pouzivat", breed), "-1");
-    EXPECT_TRUE(Module().BreedListChanged) << "even for a refused tick";
+    EXPECT_TRUE(result.changed) << "even for a refused tick";
     EXPECT_FALSE(Module().BreedsDirty);
 }
 
@@ -306,7 +311,7 @@ TEST_F(BreedRegisterTest, DeletesAnOwnBreedWithoutDogs) {
         EXPECT_FALSE(Tree().Model().Find(brown));
         EXPECT_TRUE(Tree().isExpanded(Tree().Model().IndexOf(Node(pudl))));
         EXPECT_TRUE(Module().BreedsDirty);
-        EXPECT_FALSE(Module().BreedListChanged);
+        EXPECT_FALSE(ResultOf(window).changed);
     });
     EXPECT_EQ(Column("SELECT Nazev FROM Plemena"), (Texts{"Pudl", "Černý"}));
     EXPECT_EQ(One("SELECT PlemenoID FROM Psi WHERE ID = " + std::to_string(dog)),
@@ -319,10 +324,13 @@ TEST_F(BreedRegisterTest, TheUnreachableFilterShowsUsedBreedsAlone) {
     const int orphan = OwnBreed("Malý", vipet, {{"Pouzivat", true}});
     OpenRegister([&](QWidget& window) {
         EXPECT_TRUE(Control<QAction>(window, "PLEMENA:HIDEUNUSED").associatedObjects().isEmpty());
-        Module().BreedListChanged = true;
+        Select(pudl);
+        platform.ExpectMenu(10000 + Add("Kruhy", {{"Nazev", Text("Kruh A")}}));
+        RightClick(pudl);
+        EXPECT_TRUE(ResultOf(window).changed);
         Command(window, "PLEMENA:HIDEUNUSED");
         EXPECT_EQ(Tree().Model().InOrder(), std::vector<BreedNode*>{&Node(pudl)});
-        EXPECT_FALSE(Module().BreedListChanged) << "loading clears it";
+        EXPECT_FALSE(ResultOf(window).changed) << "loading clears it";
         Command(window, "PLEMENA:HIDEUNUSED");
         EXPECT_TRUE(Tree().Model().Find(orphan));
     });
@@ -363,12 +371,12 @@ TEST_F(BreedRegisterTest, TheMenuOfABaseBreedGreysWhatNeedsAnOwnOne) {
 
 TEST_F(BreedRegisterTest, FciGroupsOfAnOwnBreedGoToTheirCells) {
     const int own = OwnBreed("Hnědý", AddBreed("Pudl"), {{"FCI", 9}});
-    OpenRegister([&](QWidget&) {
+    OpenRegister([&](QWidget& window) {
         platform.ExpectMenu(20003);
         RightClick(own);
         EXPECT_EQ(Node(own).cells[kBreedFci], u"3");
         EXPECT_EQ(Field("FCI", own), "3");
-        EXPECT_TRUE(Module().BreedListChanged);
+        EXPECT_TRUE(ResultOf(window).changed);
         platform.ExpectMenu(20000);
         RightClick(own);
         EXPECT_EQ(Field("FCI", own), "0");
@@ -388,7 +396,7 @@ TEST_F(BreedRegisterTest, AnyBreedGoesToARingEvenUnused) {
         EXPECT_EQ(Node(pudl).cells[kBreedRing], u"Kruh A");
     });
     EXPECT_EQ(Field("ID_Kruhu", pudl), std::to_string(ring));
-    EXPECT_TRUE(Module().BreedListChanged);
+    EXPECT_TRUE(result.changed);
     EXPECT_FALSE(Module().BreedsDirty);
 }
 
@@ -399,7 +407,7 @@ TEST_F(BreedRegisterTest, TheMenuDeletesAndMarksTheListChangedEvenWhenRefused) {
         platform.ExpectMessage(Text("Skutečně smazat?"), MessageAnswer::No);
         RightClick(own);
     });
-    EXPECT_TRUE(Module().BreedListChanged);
+    EXPECT_TRUE(result.changed);
     EXPECT_EQ(Field("Nazev", own), "Hnědý");
 }
 
@@ -410,7 +418,7 @@ TEST_F(BreedRegisterTest, TheMenuJumpsToABreedInUse) {
         RightClick(pudl);
         EXPECT_FALSE(window.isVisible());
     });
-    EXPECT_EQ(Module().JumpToBreed, pudl);
+    EXPECT_EQ(result.jumpTo, pudl);
 }
 
 TEST_F(BreedRegisterTest, ALetterJumpsToTheNextBreedOfThatInitial) {
