@@ -198,8 +198,10 @@ void TypeMonth(QDateEdit& born, const char* digits) {
 }
 
 TEST_F(EditDogTest, ADateOnTheWayKeepsTheChosenClass) {
-    const int dog = StoredDog({{"DatumNar", DateValue::FromCalendar(2004, 11, 20)}, {"Trida", 2}});
+    const int dog = StoredDog({{"DatumNar", DateValue::FromCalendar(2004, 10, 20)}, {"Trida", 2}});
     EditDog(dog, [&](QWidget& window) {
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         auto& born = Control<QDateEdit>(window, "dtBorn");
         ASSERT_TRUE(Class(window, 2).isChecked());
         TypeMonth(born, "1");
@@ -209,7 +211,8 @@ TEST_F(EditDogTest, ADateOnTheWayKeepsTheChosenClass) {
         EXPECT_TRUE(Class(window, 2).isChecked());
         TypeMonth(born, "1");
         QTest::keyClick(&born, Qt::Key_Tab);
-        TypeMonth(born, "11");
+        TypeMonth(born, "10");
+        EXPECT_EQ(born.date(), QDate(2004, 10, 20));
         EXPECT_FALSE(Class(window, 2).isChecked());
     });
 }

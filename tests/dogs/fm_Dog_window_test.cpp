@@ -147,7 +147,8 @@ TEST_F(DogWindowTest, WhatIsTypedKeepsItsLettersBesideStoredTexts) {
         for (const auto& [name, text] : typed) {
             auto& combo = Control<QComboBox>(window, name);
             combo.setFocus();
-            QTest::keyClicks(&combo, Text(text));
+            for (const QChar letter : Text(text)) // no key of QTest's own types an á
+                QTest::sendKeyEvent(QTest::Click, &combo, Qt::Key_unknown, QString(letter), {});
             QTest::keyClick(&combo, Qt::Key_Tab);
             Box(window, 0).setFocus();
             EXPECT_EQ(combo.currentText(), Text(text));
