@@ -126,6 +126,13 @@ void Composer::EndParagraph(ParagraphEnd end) {
     paragraph_.Clear();
 }
 
+const LineRoom& Composer::Lines() {
+    if (lines_)
+        return *lines_;
+    pageLines_.width = page_.TextWidth();
+    return pageLines_;
+}
+
 void Composer::WriteSheet() {
     FitSheet(sheet_, Lines(), page_.TextHeight());
     for (const Paragraph& paragraph : sheet_)

@@ -104,7 +104,7 @@ class Composer final : public WordProcessor {
     void EndParagraph(ParagraphEnd end);
     void WriteSheet();
     void SetAllLineHeights();
-    LineRoom Lines() const { return lines_.value_or(LineRoom{page_.TextWidth(), {}}); }
+    const LineRoom& Lines();
     QString FileStem() const;
 
     OpenService& opener_;
@@ -120,6 +120,7 @@ class Composer final : public WordProcessor {
     Paragraph paragraph_;
     bool sheetsStayWhole_ = false;
     std::vector<Paragraph> sheet_;
+    LineRoom pageLines_;
     std::optional<LineRoom> lines_; ///< those of the end, where they are not the page's
     Styles styles_;
     Page page_;

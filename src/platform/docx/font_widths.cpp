@@ -1,7 +1,6 @@
 #include "platform/docx/font_widths.h"
 
 #include <array>
-#include <cstdint>
 
 namespace lorvo::docx {
 
@@ -192,12 +191,13 @@ const Widths& WidthsOf(const RunFormat& format, FontWidths widths) {
 
 } // namespace
 
-double LetterWidth(QChar letter, const RunFormat& format, FontWidths widths) {
+LetterWidths::LetterWidths(const RunFormat& format, FontWidths widths)
+    : table_(WidthsOf(format, widths).data()),
+      size_(format.halfPoints * 10.0 * format.widthPercent / 100.0) {}
+
+double LetterWidths::Of(QChar letter) const {
     const int index = letter.unicode() - kFirstLetter;
-    const double size = format.halfPoints * 10.0 * format.widthPercent / 100.0;
-    if (index < 0 || index >= kLetters)
-        return size;
-    return WidthsOf(format, widths)[static_cast<std::size_t>(index)] * size / kUnitsPerSize;
+    return index < 0 || index >= kLetters ? size_ : table_[index] * size_ / kUnitsPerSize;
 }
 
 } // namespace lorvo::docx

@@ -4,6 +4,8 @@
 
 #include "platform/docx/docx_styles.h"
 
+#include <cstdint>
+
 namespace lorvo::docx {
 
 /// The fonts that stand in for the one that a document names differ in width by up to a third.
@@ -12,8 +14,17 @@ enum class FontWidths {
     Widest     ///< those of the widest font that stands in for it
 };
 
-/// Advance width of a letter in that format, in twentieths of a point, its width percentage
-/// counted in. Letters beyond the Latin ones are taken for as wide as they are high.
-double LetterWidth(QChar letter, const RunFormat& format, FontWidths widths);
+/// Advance widths of letters in one format, in twentieths of a point, its width percentage counted
+/// in. Letters beyond the Latin ones are taken for as wide as they are high.
+class LetterWidths {
+  public:
+    LetterWidths(const RunFormat& format, FontWidths widths);
+
+    double Of(QChar letter) const;
+
+  private:
+    const std::uint8_t* table_;
+    double size_;
+};
 
 } // namespace lorvo::docx
