@@ -48,8 +48,7 @@ void Connection::Impl::RenewTransaction() {
 
 void Connection::Impl::EditDone() {
     const bool isOpenForReading = editRuns == 0 && readRuns > 0;
-    const bool isFull =
-        editRuns > 0 && !isWhole && ++editsSinceCommit == kEditsPerCommit;
+    const bool isFull = editRuns > 0 && !isWhole && ++editsSinceCommit == kEditsPerCommit;
     if (isOpenForReading || isFull)
         RenewTransaction();
 }
