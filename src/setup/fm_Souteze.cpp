@@ -93,8 +93,9 @@ void fm_Souteze::Fill() {
         lvwSouteze->SelectRow(0);
 }
 
+// After a deletion no row is chosen; the next choice brings back what the deletion has greyed.
 void fm_Souteze::OfferEntries() {
-    if (lvwSouteze->SelectedRow() >= 0)
+    if (greyedByDeletion_ && lvwSouteze->SelectedRow() >= 0)
         logged_->setEnabled(true);
 }
 
@@ -158,7 +159,8 @@ void fm_Souteze::RemoveSelected() {
         return;
     DeleteCompetition(CompetitionAt(selected));
     lvwSouteze->RemoveRow(QString(lvwSouteze->Row(selected).key));
-    logged_->setEnabled(lvwSouteze->SelectedRow() >= 0);
+    greyedByDeletion_ = lvwSouteze->SelectedRow() < 0;
+    logged_->setEnabled(!greyedByDeletion_);
 }
 
 } // namespace lorvo

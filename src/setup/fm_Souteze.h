@@ -32,6 +32,7 @@ class fm_Souteze : public Form {
     int CompetitionAt(int position) const;
 
     QAction* logged_;
+    bool greyedByDeletion_ = false;
     ReportList* lvwSouteze;
 };
 

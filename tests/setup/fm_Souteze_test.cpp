@@ -76,6 +76,18 @@ TEST_F(CompetitionsTest, EntriesStayShutInAnEmptyListUntilItIsOpenedAnew) {
     EXPECT_TRUE(Names().empty());
 }
 
+TEST_F(CompetitionsTest, TheNextChoiceAfterADeletionOffersTheEntriesAgain) {
+    AddCompetition("Páry");
+    AddCompetition("Dítě");
+    OpenList([&](QWidget& window, ReportList& list) {
+        platform.ExpectMessage(Text("Určitě chcete odstranit soutěž Páry?"), MessageAnswer::Yes);
+        QTest::keyClick(&list, Qt::Key_Delete);
+        EXPECT_EQ(LoggedOn(window), list.SelectedRow() >= 0);
+        list.SelectRow(0);
+        EXPECT_TRUE(LoggedOn(window));
+    });
+}
+
 TEST_F(CompetitionsTest, RefusalsFollowTheNumberOfDogs) {
     const std::pair<int, const char*> kRefusals[] = {
         {1, "Soutěž nelze odstranit, je v ní přihlášen 1 pes."},
