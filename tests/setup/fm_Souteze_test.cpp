@@ -231,7 +231,8 @@ TEST_F(CompetitionsTest, ThePriceTakesDigitsAndAPastedTextIsRefusedByName) {
             QApplication::clipboard()->setText(Text("moc"));
             price.selectAll();
             QTest::keyClick(&price, Qt::Key_V, Qt::ControlModifier);
-            platform.ExpectMessage(Text("Cena za účast (Kč): Text „moc“ není částka."));
+            platform.ExpectMessage(Text(
+                "Cena za účast (Kč): Text „moc“ není částka, zapište ji například jako 1234,50."));
             Press(editor, "cmdOK");
             EXPECT_TRUE(editor.isVisible());
         });

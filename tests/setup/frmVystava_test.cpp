@@ -271,8 +271,8 @@ TEST_F(ShowEditorTest, APastedTextThatIsNoAmountIsRefusedByTheNameOfItsBox) {
         box.selectAll();
         QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(box.text(), u"zdarma");
-        platform.ExpectMessage(
-            Text("Třída mladých, další pes, II. uzávěrka: Text „zdarma“ není částka."));
+        platform.ExpectMessage(Text("Třída mladých, další pes, II. uzávěrka: Text „zdarma“ není "
+                                    "částka, zapište ji například jako 1234,50."));
         Press(window, "cmdOK");
         EXPECT_TRUE(window.isVisible());
     });
@@ -288,7 +288,8 @@ TEST_F(ShowEditorTest, TheSimpleGridTakesLettersAndIsRefusedByItsOwnName) {
         box.setFocus();
         QTest::keyClicks(&box, QStringLiteral("x"));
         EXPECT_EQ(box.text(), u"x");
-        platform.ExpectMessage(Text("Další pes, I. uzávěrka: Text „x“ není částka."));
+        platform.ExpectMessage(Text(
+            "Další pes, I. uzávěrka: Text „x“ není částka, zapište ji například jako 1234,50."));
         Press(window, "cmdOK");
         EXPECT_TRUE(window.isVisible());
         box.setText(Text("1 200,50"));

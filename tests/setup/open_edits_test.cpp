@@ -11,6 +11,7 @@
 #include "setup/setup_fixture.h"
 
 #include <QToolButton>
+#include <algorithm>
 
 namespace lorvo::test {
 namespace {
@@ -19,16 +20,18 @@ class OpenEditsTest : public SetupTest {
   protected:
     /// A click on a button of the window's bar, as the mouse makes it.
     static void ClickTool(QWidget& window, const char* key) {
-        for (QToolButton* button : window.findChildren<QToolButton*>()) {
-            if (button->defaultAction() && button->defaultAction()->objectName() == Text(key))
-                return QTest::mouseClick(button, Qt::LeftButton);
-        }
-        ADD_FAILURE() << "no button " << key;
+        const QList<QToolButton*> buttons = window.findChildren<QToolButton*>();
+        const auto button = std::ranges::find_if(buttons, [key](const QToolButton* each) {
+            return each->defaultAction() && each->defaultAction()->objectName() == Text(key);
+        });
+        ASSERT_NE(button, buttons.end()) << "no button " << key;
+        QTest::mouseClick(*button, Qt::LeftButton);
+        Settle();
     }
     static void ClickRow(QTreeView& list, int row) {
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                           list.visualRect(list.model()->index(row, 0)).center());
-        QCoreApplication::processEvents();
+        Settle();
     }
     /// Types into the edit that goes on and leaves it open.
     static void TypeOnly(const QWidget& view, const char* text) {
@@ -45,7 +48,7 @@ class OpenEditsTest : public SetupTest {
     }
     static void Escape(const QWidget& view) {
         QTest::keyClick(EditorOf(view), Qt::Key_Escape);
-        QCoreApplication::processEvents();
+        Settle();
     }
     static Texts Names(const char* table) {
         return Column(std::string("SELECT Nazev FROM ") + table);
@@ -172,6 +175,7 @@ TEST_F(OpenEditsTest, AShowsNameThatExistsGoesOnBeingEditedHoweverItIsLeft) {
             StartRename(list, 1, "hlavní");
             platform.ExpectMessage(Text("Výstava s tímto názvem již existuje!"));
             how(list);
+            Settle();
             EXPECT_EQ(list.SelectedRow(), 1);
             ASSERT_TRUE(EditorOf(list)) << "the edit goes on";
             EXPECT_EQ(EditorOf(list)->text(), u"Krajská");
@@ -184,7 +188,7 @@ TEST_F(OpenEditsTest, AShowsNameThatExistsGoesOnBeingEditedHoweverItIsLeft) {
     leave([](ReportList& list) {
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                           list.viewport()->rect().bottomLeft() + QPoint(5, -5));
-        QCoreApplication::processEvents();
+        Settle();
     });
     EXPECT_EQ(Names("Vystavy"), (Texts{"Hlavní", "Krajská"}));
 }

@@ -29,6 +29,12 @@ inline QLineEdit* EditorOf(const QWidget& view) {
     return nullptr;
 }
 
+/// Lets what an event has put off happen, and what that has put off in turn.
+inline void Settle() {
+    for (int round = 0; round < 3; ++round)
+        QCoreApplication::processEvents();
+}
+
 /// Types into the edit that goes on and ends it by a key.
 inline void TypeInPlace(const QWidget& view, const QString& text, Qt::Key end = Qt::Key_Return) {
     QLineEdit* editor = EditorOf(view);
@@ -39,7 +45,7 @@ inline void TypeInPlace(const QWidget& view, const QString& text, Qt::Key end = 
     for (const QChar letter : text)
         QTest::sendKeyEvent(QTest::Click, editor, Qt::Key_unknown, QString(letter), {});
     QTest::keyClick(editor, end);
-    QCoreApplication::processEvents();
+    Settle();
 }
 
 /// "Krufts|3" of each row, in the order of the list.
