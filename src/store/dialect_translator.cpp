@@ -77,7 +77,7 @@ class Translator {
 
     /// Fields of one table's rows, each row by itself.
     static bool IsPlain(const SelectStatement& select, const Written& written) {
-        return select.from.size() == 1 && !select.distinct && select.groupBy.empty() &&
+        return select.from.size() == 1 && !select.distinct &&
                std::none_of(written.values.begin(), written.values.end(),
                             [](const WrittenExpression& value) { return value.field.empty(); });
     }
@@ -128,11 +128,6 @@ class Translator {
         std::string clauses;
         if (select.where)
             clauses += " WHERE " + writer.WriteCondition(*select.where);
-        std::string groups;
-        for (const Expression& group : select.groupBy)
-            AppendListed(groups, writer.Write(group).sql);
-        if (!groups.empty())
-            clauses += " GROUP BY " + groups;
         // The order of a sub-select shows only in which rows its TOP takes.
         if (!written.scope.outer || select.topParameter >= 0) {
             const std::string order = WriteOrder(select, written, writer);
@@ -154,9 +149,6 @@ class Translator {
         if (select.distinct) {
             for (const WrittenExpression& value : written.values)
                 AppendListed(order, ExpressionWriter::OrderKey(value));
-        } else if (!select.groupBy.empty()) {
-            for (const Expression& group : select.groupBy)
-                AppendListed(order, ExpressionWriter::OrderKey(writer.Write(group)));
         } else if (!written.isAggregate) {
             for (const Source& source : written.scope.sources)
                 AppendListed(order, RowNumber(source));

@@ -12,9 +12,9 @@ namespace {
 /// Far more than a statement ever nests, far less than the stack holds.
 constexpr int kDeepestNesting = 100;
 
-constexpr std::array kKeywords = {"SELECT", "DISTINCT", "TOP",  "FROM", "WHERE", "ORDER", "GROUP",
-                                  "BY",     "ASC",      "DESC", "AS",   "AND",   "OR",    "NOT",
-                                  "IN",     "IS",       "NULL", "TRUE", "FALSE", "DELETE"};
+constexpr std::array kKeywords = {"SELECT", "DISTINCT", "TOP",  "FROM",  "WHERE", "ORDER", "BY",
+                                  "ASC",    "DESC",     "AS",   "AND",   "OR",    "NOT",   "IN",
+                                  "IS",     "NULL",     "TRUE", "FALSE", "DELETE"};
 
 class Parser {
   public:
@@ -59,18 +59,8 @@ class Parser {
         while (Accept(","));
         if (AcceptKeyword("WHERE"))
             select.where = ParseAny();
-        ParseGroupBy(select);
         ParseOrderBy(select);
         return select;
-    }
-
-    void ParseGroupBy(SelectStatement& select) {
-        if (!AcceptKeyword("GROUP"))
-            return;
-        ExpectKeyword("BY");
-        do
-            select.groupBy.push_back(ParseAny());
-        while (Accept(","));
     }
 
     void ParseOrderBy(SelectStatement& select) {

@@ -63,7 +63,6 @@ struct SelectStatement {
     std::vector<SelectItem> items;
     std::vector<TableReference> from;
     std::optional<Expression> where;
-    std::vector<Expression> groupBy;
     std::vector<OrderTerm> orderBy;
 };
 

@@ -151,14 +151,6 @@ TEST_F(DialectTest, SumsAmountsExactlyAndNeverWrapsAround) {
     EXPECT_THROW(module.rsUhrady.Open("SELECT SUM (Kc) FROM Uhrady"), StoreError);
 }
 
-TEST_F(DialectTest, GroupsRows) {
-    EXPECT_EQ(RowsOf("SELECT VystavaID, COUNT(*) FROM PsiVeVystavach GROUP BY VystavaID"),
-              (Strings{"1|1", "2|3"}));
-    EXPECT_EQ(RowsOf("SELECT ID_Psa, SUM(Kc) AS Celkem FROM Uhrady GROUP BY ID_Psa "
-                     "ORDER BY Celkem DESC"),
-              (Strings{"1|100.5", "99|2", "2|Null"}));
-}
-
 TEST_F(DialectTest, JoinsTextsByPlusAndNullGivesNull) {
     EXPECT_EQ(RowsOf("SELECT Majitele.Prijmeni + ' ' + Majitele.Jmeno + ', ' + Majitele.Mesto AS "
                      "MajX FROM Majitele"),

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::array kWords = {"SELECT",   "FROM",
                                "WHERE",    "ORDER BY",
-                               "GROUP BY", "AND",
+                               "GROUP",    "AND",
                                "OR",       "NOT",
                                "IN",       "IS",
                                "NULL",     "TRUE",
