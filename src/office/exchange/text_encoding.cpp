@@ -40,10 +40,14 @@ std::optional<TextEncoding> UnmarkedUtf16(const QByteArray& bytes) {
     return std::nullopt;
 }
 
+/// A broken byte here and there doesn't make another encoding of a text whose letters are right.
 bool IsUtf8(const QByteArray& bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString decoded = decoder(bytes);
-    return !decoder.hasError() && !decoded.contains(QChar::ReplacementCharacter);
+    const QString decoded = QString::fromUtf8(bytes);
+    qsizetype letters = 0;
+    for (const QChar letter : decoded)
+        letters += letter.unicode() > 0x7F && letter != QChar::ReplacementCharacter ? 1 : 0;
+    const qsizetype broken = decoded.count(QChar::ReplacementCharacter);
+    return broken == 0 || broken * 10 < letters;
 }
 
 QString DecodedBy(QStringDecoder::Encoding encoding, const QByteArray& bytes) {

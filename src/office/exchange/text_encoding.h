@@ -19,7 +19,7 @@ inline constexpr std::array kTextEncodings = {TextEncoding::Utf8, TextEncoding::
 QString EncodingName(TextEncoding encoding);
 
 /// By the mark at the beginning; without one UTF-16 where every other byte of the beginning is 0,
-/// UTF-8 where all bytes are well-formed UTF-8, else windows-1250.
+/// UTF-8 where nearly all letters are well-formed UTF-8, else windows-1250.
 TextEncoding GuessEncoding(const QByteArray& bytes);
 
 /// The text without a mark at its beginning and with one kind of line end (\n). Bytes that the

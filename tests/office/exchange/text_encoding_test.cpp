@@ -30,6 +30,7 @@ TEST(TextEncoding, IsGuessedFromTheBytes) {
     }
     EXPECT_EQ(GuessEncoding("Rex;Praha"), TextEncoding::Utf8);
     EXPECT_EQ(GuessEncoding({}), TextEncoding::Utf8);
+    EXPECT_EQ(GuessEncoding(kText.toUtf8().repeated(9) + "\xFF"), TextEncoding::Utf8);
 }
 
 TEST(TextEncoding, GivesTheSameTextFromEach) {
