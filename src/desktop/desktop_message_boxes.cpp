@@ -62,6 +62,15 @@ QWidget* WindowInFront() {
     return modal ? modal : QApplication::activeWindow();
 }
 
+/// As much of a text as a small screen shows; the rest of a text that was pasted in is left out.
+QString Bounded(const QString& text) {
+    constexpr qsizetype kMostLines = 20;
+    constexpr qsizetype kMostCharacters = 1500;
+    const QStringList lines = text.left(kMostCharacters).split(u'\n');
+    const QString shown = lines.mid(0, kMostLines).join(u'\n');
+    return shown.size() < text.size() ? shown + u'…' : text;
+}
+
 QPushButton* AddButton(QMessageBox& box, const ButtonKind& kind) {
     QPushButton* button = box.addButton(kind.standard);
     button->setText(QString::fromUtf16(kind.text));
@@ -81,7 +90,7 @@ MessageAnswer DesktopMessageBoxes::Show(const QString& text, MessageIcon icon,
     box.setTextFormat(Qt::PlainText);
     box.setIcon(IconOf(icon));
     box.setWindowTitle(title);
-    box.setText(text);
+    box.setText(Bounded(text));
     const std::vector<ButtonKind> kinds = KindsOf(buttons);
     for (const ButtonKind& kind : kinds)
         AddButton(box, kind);

@@ -83,7 +83,7 @@ void frmPsiVSoutezi::Load() {
             lvwDogs1->InsertColumn(lvwDogs1->ColumnCount(), parameter);
     if (competition.Parova) {
         picSecondDog->show();
-        resize(width() + kSecondDogWidth, height());
+        WidenBy(kSecondDogWidth);
     }
 }
 

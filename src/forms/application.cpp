@@ -3,6 +3,7 @@
 #include "forms/wheel_guard.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
+#include "platform/values/errors.h"
 
 #include <QFont>
 #include <exception>
@@ -19,6 +20,24 @@ QString FailureText(const std::exception_ptr& failure) {
     } catch (...) {
         return QStringLiteral("Neznámá chyba.");
     }
+}
+
+bool IsDamage(const std::exception_ptr& failure) {
+    try {
+        std::rethrow_exception(failure);
+    } catch (const CorruptStoreError&) {
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+/// What the clerk's work has come to: each edit is on the disk before the next can be made, but of
+/// a damaged file nothing can be promised.
+QString WhatBecameOfTheWork(const std::exception_ptr& failure) {
+    const QString kept = QStringLiteral("\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno "
+                                        "před ním, je uloženo.");
+    return (IsDamage(failure) ? QString() : kept) + QStringLiteral("\n\nProgram se ukončí.");
 }
 
 } // namespace
@@ -42,13 +61,18 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 
 int Application::Run(const std::function<void()>& start) {
     // Within the loop, so that the start ends it as any handler does.
-    Later(this, start);
+    bool started = false;
+    Later(this, [&] {
+        start();
+        started = true;
+    });
     const int code = exec();
     const std::exception_ptr failure = TakeFailure();
     if (!failure)
         return code;
-    ThePlatform().messages->Show(FailureText(failure), MessageIcon::Stop, MessageButtons::Ok,
-                                 QStringLiteral("Lorvo"));
+    ThePlatform().messages->Show(started ? FailureText(failure) + WhatBecameOfTheWork(failure)
+                                         : FailureText(failure),
+                                 MessageIcon::Stop, MessageButtons::Ok, QStringLiteral("Lorvo"));
     return 1;
 }
 

@@ -16,7 +16,8 @@ class Application : public QApplication {
     bool notify(QObject* receiver, QEvent* event) override;
 
     /// Runs `start` (which opens the main window) inside the event loop. A failure of either is
-    /// shown in the platform's error box. Returns the exit code: 1 after a failure.
+    /// shown in the platform's error box; after the start, together with what became of the work.
+    /// Returns the exit code: 1 after a failure.
     int Run(const std::function<void()>& start);
 };
 

@@ -8,6 +8,7 @@
 
 #include <QLayout>
 #include <QLineEdit>
+#include <QShowEvent>
 #include <vector>
 
 namespace lorvo {
@@ -81,6 +82,18 @@ void Form::LimitTypedTexts() {
     }
 }
 
+void Form::WidenBy(int pixels) {
+    widening_ += pixels;
+    resize(width() + pixels, height());
+}
+
+void Form::showEvent(QShowEvent* event) {
+    // The toolkit places the window by the size that it has only now.
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        Guarded([this] { RestorePlace(*this); });
+}
+
 void Form::done(int result) {
     Guarded([&] {
         if (unloaded_)
@@ -90,7 +103,7 @@ void Form::done(int result) {
         if (!QueryUnload())
             return;
         unloaded_ = true;
-        SaveFormSettings(*this);
+        SaveFormSettings(*this, widening_);
         QDialog::done(result);
     });
 }

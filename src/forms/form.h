@@ -21,8 +21,6 @@ class Form : public QDialog {
     /// one has been opened, after Load.
     virtual void Activated() {}
 
-    Border BorderStyle() const { return border_; }
-
   protected:
     /// Fills the window; runs once, before it is shown. The layout has been restored.
     virtual void Load() {}
@@ -34,14 +32,19 @@ class Form : public QDialog {
     /// text field of the store takes. A window whose texts go elsewhere may take more.
     virtual int LongestTypedText() const { return kLongestText; }
 
+    /// Makes the window wider for what it shows this time; the widening isn't stored.
+    void WidenBy(int pixels);
+
     /// Every road out of the window (button, close box, Esc) ends here.
     void done(int result) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     friend void OpenModal(Form& form);
     void ShowModally();
     void LimitTypedTexts();
     Border border_;
+    int widening_ = 0;
     bool unloaded_ = false;
 };
 

@@ -5,14 +5,26 @@
 #include "platform/platform.h"
 
 #include <QFont>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QScreen>
 #include <QWidget>
+#include <algorithm>
 #include <optional>
+#include <set>
+#include <utility>
+#include <vector>
 
 namespace lorvo {
 
 namespace {
+
+/// What a desktop draws around a window: edges, and the title with the upper edge.
+constexpr QSize kFrame(16, 40);
+constexpr int kTitleHeight = 32;
+/// So much of a title can be taken hold of.
+constexpr int kLeastTitle = 80;
+constexpr int kWidestColumn = 10'000;
 
 enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
@@ -24,15 +36,6 @@ QString ListKey(const char* root, const QWidget& window, const ReportList& list)
     return QString::fromLatin1(root) + window.objectName() + u'\\' + list.objectName();
 }
 
-/// A stored number; nullopt for a missing value or one that is none by the system's rules.
-std::optional<int> StoredNumber(const QString& key, const QString& name) {
-    const auto number = ThePlatform().locale->PlainNumber(ReadRegValue(key, name));
-    if (!number)
-        return {};
-    constexpr double kFarthest = 1e6; // no screen reaches there, and it fits every type
-    return qRound(qBound(-kFarthest, number->toDouble(), kFarthest));
-}
-
 std::optional<int> StoredSize(const QString& key, const char* name) {
     const std::optional<int> number = StoredNumber(key, QString::fromLatin1(name));
     return number && *number > 0 ? number : std::nullopt;
@@ -42,16 +45,26 @@ void RestoreColumnWidths(const QString& key, ReportList& list) {
     for (int column = 0; column < list.ColumnCount(); ++column) {
         const auto width = StoredNumber(key, QStringLiteral("ColWidth %1").arg(column + 1));
         if (width && *width >= 0)
-            list.DrawColumn(column, *width);
+            list.DrawColumn(column, qBound(list.header()->minimumSectionSize(), *width,
+                                           kWidestColumn));
     }
 }
 
 void RestoreColumnPositions(const QString& key, QHeaderView& header) {
+    std::vector<std::pair<int, int>> places; // position and column, in the order of columns
+    std::set<int> positions;
     for (int column = 0; column < header.count(); ++column) {
         const auto position = StoredNumber(key, QStringLiteral("ColPosition %1").arg(column + 1));
-        if (position && *position >= 1 && *position <= header.count())
-            header.moveSection(header.visualIndex(column), *position - 1);
+        if (!position || *position < 1 || *position > header.count())
+            continue;
+        places.emplace_back(*position, column);
+        positions.insert(*position);
     }
+    // Of a whole set each column gets its place: from the first on, no move disturbs what stands.
+    if (static_cast<int>(positions.size()) == header.count())
+        std::sort(places.begin(), places.end());
+    for (const auto& [position, column] : places)
+        header.moveSection(header.visualIndex(column), position - 1);
 }
 
 void RestoreList(const QWidget& window, ReportList& list) {
@@ -74,22 +87,15 @@ void SaveColumns(const QWidget& window, const ReportList& list) {
     }
 }
 
-/// Where a window opens on its own: in the middle of the window below it, or of the screen.
-QPoint DesignedPosition(const QWidget& window) {
-    const QWidget* below = window.parentWidget() ? window.parentWidget()->window() : nullptr;
-    const QRect space =
-        below && below->isVisible() ? below->frameGeometry() : window.screen()->availableGeometry();
-    return space.center() - QPoint(window.sizeHint().width() / 2, window.sizeHint().height() / 2);
-}
-
-void RestorePosition(QWidget& window) {
-    const QString key = PositionKey(window);
-    const auto top = StoredSize(key, "Top");
-    const auto left = StoredSize(key, "Left");
-    if (!top && !left)
-        return;
-    const QPoint designed = DesignedPosition(window);
-    window.move(left.value_or(designed.x()), top.value_or(designed.y()));
+/// Whether enough of the window's title lies on a screen to take hold of it there.
+bool IsInSight(const QRect& frame) {
+    const QRect title(frame.topLeft(), QSize(frame.width(), kTitleHeight));
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&title](const QScreen* screen) {
+        const QRect seen = screen->availableGeometry() & title;
+        return seen.width() >= std::min(kLeastTitle, title.width()) &&
+               seen.height() >= kTitleHeight / 2;
+    });
 }
 
 void RestoreState(QWidget& window) {
@@ -107,7 +113,8 @@ void RestoreSize(QWidget& window) {
     if (!height && !width)
         return;
     const QSize designed = window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
-    window.resize(width.value_or(designed.width()), height.value_or(designed.height()));
+    const QSize stored(width.value_or(designed.width()), height.value_or(designed.height()));
+    window.resize(stored.boundedTo(LargestSize(window)).expandedTo(window.minimumSizeHint()));
 }
 
 WindowState StateOf(const QWidget& window) {
@@ -118,19 +125,49 @@ WindowState StateOf(const QWidget& window) {
 
 } // namespace
 
+std::optional<int> StoredNumber(const QString& key, const QString& name) {
+    const auto number = ThePlatform().locale->PlainNumber(ReadRegValue(key, name));
+    if (!number)
+        return {};
+    constexpr double kFarthest = 1e6; // no screen reaches there, and it fits every type
+    return qRound(qBound(-kFarthest, number->toDouble(), kFarthest));
+}
+
 void LoadFormSettings(QWidget& window, bool fixedBorder) {
     for (ReportList* list : window.findChildren<ReportList*>())
         RestoreList(window, *list);
     QFont font = window.font();
     font.setFamily(QStringLiteral("Tahoma"));
     window.setFont(font);
-    RestorePosition(window);
     if (!fixedBorder)
         RestoreSize(window);
     RestoreState(window);
 }
 
-void SaveFormSettings(const QWidget& window) {
+void RestorePlace(QWidget& window) {
+    const QString key = PositionKey(window);
+    const auto top = StoredSize(key, "Top");
+    const auto left = StoredSize(key, "Left");
+    if (top || left)
+        window.move(left.value_or(window.x()), top.value_or(window.y()));
+    BringInSight(window);
+}
+
+void BringInSight(QWidget& window) {
+    if (IsInSight({window.pos(), window.size()}))
+        return;
+    const QRect space = window.screen()->availableGeometry();
+    const QSize frame = window.size() + kFrame;
+    window.move(
+        qBound(space.left(), window.x(), std::max(space.left(), space.right() - frame.width())),
+        qBound(space.top(), window.y(), std::max(space.top(), space.bottom() - frame.height())));
+}
+
+QSize LargestSize(const QWidget& window) {
+    return window.screen()->availableSize() - kFrame;
+}
+
+void SaveFormSettings(const QWidget& window, int widening) {
     for (const ReportList* list : window.findChildren<ReportList*>())
         SaveColumns(window, *list);
     const QString key = PositionKey(window);
@@ -144,7 +181,7 @@ void SaveFormSettings(const QWidget& window) {
     store("Top", window.y());
     store("Left", window.x());
     store("Height", window.height());
-    store("Width", window.width());
+    store("Width", window.width() - widening);
 }
 
 } // namespace lorvo

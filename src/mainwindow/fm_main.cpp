@@ -116,6 +116,7 @@ void fm_main::Load() {
     if (!TheDataModule().Conn1.IsOpen())
         SkipFailure(OpenDatabase);
     LoadFormSettings(*this, false);
+    RestorePlace(*this);
     RestoreSplitter();
     FillConstantTables(Module());
     SkipFailure([this] { LoadData(); });
@@ -134,9 +135,9 @@ void fm_main::SayDiskFailure() {
 }
 
 void fm_main::RestoreSplitter() {
-    const auto left = ThePlatform().locale->PlainNumber(ReadRegValue(kSplitterKey, kLeft));
-    if (left && left->toDouble() >= 1)
-        PlaceSplitter(*vbuSplit, static_cast<int>(left->toDouble()));
+    const auto left = StoredNumber(kSplitterKey, kLeft);
+    if (left && *left >= 1)
+        PlaceSplitter(*vbuSplit, *left);
 }
 
 void fm_main::RestoreSelection() {

@@ -13,8 +13,8 @@ class IniFiles {
     virtual QString Read(const QString& section, const QString& key, const QString& path) = 0;
     /// Sets one key and leaves every other line of the file as it is. False when the file can't be
     /// written.
-    virtual bool Write(const QString& section, const QString& key, const QString& text,
-                       const QString& path) = 0;
+    [[nodiscard]] virtual bool Write(const QString& section, const QString& key,
+                                     const QString& text, const QString& path) = 0;
 };
 
 } // namespace lorvo

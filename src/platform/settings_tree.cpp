@@ -2,8 +2,11 @@
 #include "platform/values/errors.h"
 #include "platform/whole_file.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QLockFile>
 #include <QSettings>
+#include <QSysInfo>
 
 namespace lorvo {
 
@@ -30,8 +33,10 @@ class StoredSettings final : public SettingsTree {
     }
 
     void Write(const QString& key, const QString& name, const QString& text) override {
-        if (writable_)
-            settings_.setValue(PathOf(key, name), text);
+        if (!writable_)
+            return;
+        RemoveDeadLock();
+        settings_.setValue(PathOf(key, name), text);
     }
 
   private:
@@ -49,6 +54,21 @@ class StoredSettings final : public SettingsTree {
             ReplaceFile(settings_.fileName(), earlier_);
         } catch (const PlatformError&) { // there is no room even for what stood there
         }
+    }
+
+    /// The toolkit waits half a minute for a lock beside the file that nobody holds: torn by a
+    /// kill, or brought along when the folder was copied from another computer.
+    void RemoveDeadLock() const {
+        const QString path = settings_.fileName() + u".lock"_qs;
+        if (settings_.format() == QSettings::NativeFormat || !QFile::exists(path))
+            return;
+        qint64 process = 0;
+        QString host;
+        QString program;
+        const bool readable = QLockFile(path).getLockInfo(&process, &host, &program);
+        if (!readable || host != QSysInfo::machineHostName() ||
+            process == QCoreApplication::applicationPid())
+            QFile::remove(path);
     }
 
     static QString PathOf(const QString& key, const QString& name) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -70,6 +71,21 @@ TEST(MessageBoxesTest, EscAndTheCloseBoxAnswerTheMildest) {
     EXPECT_EQ(Answer(MessageButtons::YesNo, escape), MessageAnswer::No);
     EXPECT_EQ(Answer(MessageButtons::YesNo, close), MessageAnswer::No);
     EXPECT_EQ(Answer(MessageButtons::Ok, escape), MessageAnswer::Ok);
+}
+
+TEST(MessageBoxesTest, IsNeverLargerThanTheScreenWhateverWasPastedIn) {
+    for (const QString& text : {QStringLiteral("Rex\n").repeated(3000),
+                                QStringLiteral("Rex a Alík ").repeated(3000), QString(30000, u'x')})
+        Answer(
+            MessageButtons::Ok,
+            [&text](QMessageBox& box) {
+                EXPECT_TRUE(box.text().endsWith(u'…'));
+                EXPECT_TRUE(text.startsWith(box.text().chopped(1)));
+                EXPECT_LE(box.height(), box.screen()->availableGeometry().height());
+                EXPECT_LE(box.width(), box.screen()->availableGeometry().width());
+                box.close();
+            },
+            MessageIcon::Stop, text);
 }
 
 TEST(MessageBoxesTest, ShowsTheTextAsItIsWithItsIconAndTitle) {

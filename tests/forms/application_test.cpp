@@ -24,11 +24,22 @@ TEST(ApplicationTest, AFailureOfTheStartIsShownAndEndsWithCodeOne) {
 
 TEST(ApplicationTest, AFailureOfAHandlerEndsTheLoopAndIsShownOnce) {
     test::RecordingPlatform platform;
-    platform.ExpectMessage(QStringLiteral("Disk je plný."));
+    platform.ExpectMessage(QStringLiteral(
+        "Disk je plný.\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno před "
+        "ním, je uloženo.\n\nProgram se ukončí."));
     EXPECT_EQ(TheApplication().Run(
                   [] { QTimer::singleShot(0, qApp, [] { throw StoreError("Disk je plný."); }); }),
               1);
     EXPECT_NO_THROW(RethrowFailure());
+}
+
+TEST(ApplicationTest, OfADamagedFileNothingIsPromised) {
+    test::RecordingPlatform platform;
+    platform.ExpectMessage(QStringLiteral("Soubor je poškozen.\n\nProgram se ukončí."));
+    EXPECT_EQ(TheApplication().Run([] {
+        QTimer::singleShot(0, qApp, [] { throw CorruptStoreError("Soubor je poškozen."); });
+    }),
+              1);
 }
 
 TEST(ApplicationTest, AnUneventfulRunEndsWithItsOwnCode) {

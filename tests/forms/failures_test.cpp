@@ -28,8 +28,11 @@ class FailuresTest : public ::testing::Test {
   protected:
     /// Runs the program with this start; it must end by the failure, told once.
     void ExpectEnd(const std::function<void()>& start) {
-        platform.ExpectMessage(QStringLiteral("Disk je plný."), MessageAnswer::Ok,
-                               MessageIcon::Stop, MessageButtons::Ok, QStringLiteral("Lorvo"));
+        platform.ExpectMessage(QStringLiteral("Disk je plný.\n\nPoslední zadání se neuložilo. "
+                                              "Všechno, co bylo zadáno před ním, je "
+                                              "uloženo.\n\nProgram se ukončí."),
+                               MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
+                               QStringLiteral("Lorvo"));
         EXPECT_EQ(static_cast<Application*>(qApp)->Run(start), 1);
         EXPECT_FALSE(wentOn);
         EXPECT_FALSE(IsModalOpen());

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -62,6 +63,7 @@ TEST_F(FormSettingsTest, RestoresPositionAndSize) {
     Store("Form Positions\\fm_Test\\Height", "410");
     Store("Form Positions\\fm_Test\\Width", "520,4");
     LoadFormSettings(window, false);
+    RestorePlace(window);
     EXPECT_EQ(window.geometry(), QRect(130, 120, 520, 410));
 }
 
@@ -71,6 +73,7 @@ TEST_F(FormSettingsTest, AFixedBorderKeepsTheDesignedSize) {
     Store("Form Positions\\fm_Test\\Height", "410");
     Store("Form Positions\\fm_Test\\Width", "520");
     LoadFormSettings(window, true);
+    RestorePlace(window);
     EXPECT_EQ(window.geometry(), QRect(130, 120, 300, 200));
 }
 
@@ -135,9 +138,63 @@ TEST_F(FormSettingsTest, EveryOrderOfColumnsComesBack) {
     } while (std::next_permutation(order.begin(), order.end()));
 }
 
+TEST_F(FormSettingsTest, AnyWholeOrderOfColumnsComesBack) {
+    window.lvwDogs->InsertColumn(3, QStringLiteral("D"));
+    const QList<int> positions = {3, 4, 2, 1};
+    for (int column = 0; column < 4; ++column)
+        platform
+            .settings[QStringLiteral("ColPos\\fm_Test\\lvwDogs\\ColPosition %1").arg(column + 1)] =
+            QString::number(positions[column]);
+    LoadFormSettings(window, false);
+    for (int column = 0; column < 4; ++column)
+        EXPECT_EQ(window.lvwDogs->header()->visualIndex(column) + 1, positions[column]);
+}
+
 TEST_F(FormSettingsTest, TheFirstColumnMovesToo) {
     LoadFormSettings(window, false);
     EXPECT_TRUE(window.lvwDogs->header()->isFirstSectionMovable());
+}
+
+TEST_F(FormSettingsTest, AnAxisWithoutAPlaceKeepsTheDesignedOne) {
+    Store("Form Positions\\fm_Test\\Left", "130");
+    RestorePlace(window);
+    EXPECT_EQ(window.pos(), QPoint(130, 50));
+}
+
+TEST_F(FormSettingsTest, APlaceOutOfSightIsBroughtBack) {
+    Store("Form Positions\\fm_Test\\Top", "1e300");
+    Store("Form Positions\\fm_Test\\Left", "2500");
+    RestorePlace(window);
+    const QRect space = window.screen()->availableGeometry();
+    EXPECT_TRUE(space.contains(window.geometry()));
+}
+
+TEST_F(FormSettingsTest, APlaceInSightStays) {
+    const int left = window.screen()->availableGeometry().right() - 150;
+    Store("Form Positions\\fm_Test\\Left", QByteArray::number(left).constData());
+    RestorePlace(window);
+    EXPECT_EQ(window.x(), left);
+}
+
+TEST_F(FormSettingsTest, NoStoredSizeExceedsTheScreenOrFallsBelowWhatIsNeeded) {
+    Store("Form Positions\\fm_Test\\Height", "2500");
+    Store("Form Positions\\fm_Test\\Width", "1");
+    LoadFormSettings(window, false);
+    EXPECT_EQ(window.height(), LargestSize(window).height());
+    EXPECT_EQ(window.width(), window.minimumSizeHint().width());
+}
+
+TEST_F(FormSettingsTest, AColumnOfNoWidthCanBeSeen) {
+    Store("ColWidths\\fm_Test\\lvwDogs\\ColWidth 1", "0");
+    Store("ColWidths\\fm_Test\\lvwDogs\\ColWidth 2", "2000000000");
+    LoadFormSettings(window, false);
+    EXPECT_GT(window.lvwDogs->columnWidth(0), 0);
+    EXPECT_LE(window.lvwDogs->columnWidth(1), 10'000);
+}
+
+TEST_F(FormSettingsTest, AWideningIsNotStored) {
+    SaveFormSettings(window, 120);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Width"), QStringLiteral("180"));
 }
 
 TEST_F(FormSettingsTest, AColumnThatNoLongerExistsHasNoEffect) {

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -68,6 +69,40 @@ TEST_F(SettingsTreeTest, ValuesOfAnotherTypeReadAsEmpty) {
     EXPECT_EQ(settings->Read(SysKey(), u"A"_qs), QString());
     EXPECT_EQ(settings->Read(SysKey(), u"B"_qs), QString());
     EXPECT_EQ(settings->Read(SysKey(), u"C"_qs), u"3"_qs);
+}
+
+/// What a program that was killed, or the folder's old computer, has left must not be waited for.
+class SettingsLockTest : public SettingsTreeTest,
+                         public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(SettingsLockTest, IsRemovedWhenNobodyHoldsIt) {
+    const QString lock = folder_.filePath(u"Lorvo.settings.lock"_qs);
+    {
+        const auto settings = Open();
+        QFile file(lock);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(GetParam());
+        file.close();
+        settings->Write(SysKey(), u"ShowGrid"_qs, u"1"_qs);
+        EXPECT_FALSE(QFile::exists(lock));
+    }
+    EXPECT_EQ(Open()->Read(SysKey(), u"ShowGrid"_qs), u"1"_qs);
+}
+
+INSTANTIATE_TEST_SUITE_P(Locks, SettingsLockTest,
+                         ::testing::Values("", "12", "1\nLorvo\nanother-computer\n"));
+
+TEST_F(SettingsTreeTest, ALockThatAnotherProgramHoldsStays) {
+    const QString path = folder_.filePath(u"Lorvo.settings.lock"_qs);
+    const auto settings = Open();
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    // The first process runs as long as the system does.
+    file.write("1\ninit\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    file.close();
+    settings->Write(SysKey(), u"ShowGrid"_qs, u"1"_qs);
+    EXPECT_TRUE(QFile::exists(path));
+    QFile::remove(path);
 }
 
 TEST_F(SettingsTreeTest, ABrokenFileReadsAsEmpty) {
