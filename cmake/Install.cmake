@@ -8,12 +8,14 @@ set(LORVO_DELIVERED
   ${PROJECT_BINARY_DIR}/docs/help/Lorvo.chm)
 add_custom_target(delivered ALL)
 add_dependencies(delivered delivered_data user_help)
+set(LORVO_HELP_PAGES FILES_MATCHING PATTERN *.html PATTERN *.css PATTERN *.png)
 set(LORVO_LICENCES ${PROJECT_SOURCE_DIR}/LICENSES)
 
 if(WIN32)
   install(TARGETS Lorvo LorvoSpravce RUNTIME DESTINATION .)
   install(FILES ${LORVO_DELIVERED} DESTINATION .)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/Šablony DESTINATION .)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/help/ DESTINATION Nápověda ${LORVO_HELP_PAGES})
   install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION Licence RENAME Lorvo.txt)
   install(DIRECTORY ${LORVO_LICENCES}/ DESTINATION Licence)
   return()
@@ -26,6 +28,7 @@ install(FILES ${LORVO_DELIVERED} DESTINATION ${data_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/Šablony DESTINATION ${data_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${data_folder}/Licence RENAME Lorvo.txt)
 install(FILES ${LORVO_LICENCES}/sqlitecpp.txt DESTINATION ${data_folder}/Licence)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/help/ DESTINATION ${data_folder}/Nápověda ${LORVO_HELP_PAGES})
 
 # The launcher finds both from where it lies, so that an unpacked archive runs anywhere.
 file(RELATIVE_PATH LORVO_PROGRAM_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${program_folder})

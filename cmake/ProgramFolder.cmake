@@ -3,6 +3,7 @@
 #   DATABASE   the delivered database
 #   TEMPLATES  the folder of delivered templates
 #   HELP       the compiled help
+#   PAGES      the folder of its pages
 # What a clerk has worked on is never overwritten: the database not at all, a template only when
 # the delivered one is newer.
 file(MAKE_DIRECTORY ${FOLDER})
@@ -12,6 +13,8 @@ if(NOT EXISTS ${FOLDER}/data.mdb)
 endif()
 
 file(COPY_FILE ${HELP} ${FOLDER}/Lorvo.chm ONLY_IF_DIFFERENT)
+file(COPY ${PAGES}/ DESTINATION ${FOLDER}/Nápověda
+  FILES_MATCHING PATTERN *.html PATTERN *.css PATTERN *.png)
 
 get_filename_component(name ${TEMPLATES} NAME)
 file(MAKE_DIRECTORY ${FOLDER}/${name})

@@ -1,9 +1,11 @@
 #include "desktop/desktop_services.h"
 
+#include "forms/access_keys.h"
 #include "platform/failure_guard.h"
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <array>
 
@@ -15,16 +17,13 @@ struct ButtonKind {
     QMessageBox::StandardButton standard;
     const char16_t* text;
     const char* name;
-    Qt::Key accessKey; ///< together with Alt; 0 for none
     MessageAnswer answer;
 };
 
-constexpr Qt::Key kNoKey = Qt::Key(0);
-constexpr ButtonKind kOk{QMessageBox::Ok, u"OK", "cmdOK", kNoKey, MessageAnswer::Ok};
-constexpr ButtonKind kYes{QMessageBox::Yes, u"Ano", "cmdYes", Qt::Key_A, MessageAnswer::Yes};
-constexpr ButtonKind kNo{QMessageBox::No, u"Ne", "cmdNo", Qt::Key_N, MessageAnswer::No};
-constexpr ButtonKind kCancel{QMessageBox::Cancel, u"Storno", "cmdCancel", kNoKey,
-                             MessageAnswer::Cancel};
+constexpr ButtonKind kOk{QMessageBox::Ok, u"OK", "cmdOK", MessageAnswer::Ok};
+constexpr ButtonKind kYes{QMessageBox::Yes, u"Ano", "cmdYes", MessageAnswer::Yes};
+constexpr ButtonKind kNo{QMessageBox::No, u"Ne", "cmdNo", MessageAnswer::No};
+constexpr ButtonKind kCancel{QMessageBox::Cancel, u"Storno", "cmdCancel", MessageAnswer::Cancel};
 
 /// The buttons of a box, the affirmative one first and what closing the box answers last.
 std::vector<ButtonKind> KindsOf(MessageButtons buttons) {
@@ -76,8 +75,6 @@ QPushButton* AddButton(QMessageBox& box, const ButtonKind& kind) {
     button->setText(QString::fromUtf16(kind.text));
     button->setObjectName(QString::fromLatin1(kind.name));
     button->setIcon({});
-    if (kind.accessKey != kNoKey)
-        button->setShortcut(QKeySequence(Qt::ALT | kind.accessKey));
     return button;
 }
 
@@ -85,7 +82,8 @@ QPushButton* AddButton(QMessageBox& box, const ButtonKind& kind) {
 
 MessageAnswer DesktopMessageBoxes::Show(const QString& text, MessageIcon icon,
                                         MessageButtons buttons, const QString& title) {
-    QMessageBox box(WindowInFront());
+    const QPointer<QWidget> below = WindowInFront();
+    QMessageBox box(below);
     box.setObjectName(QStringLiteral("messageBox"));
     box.setTextFormat(Qt::PlainText);
     box.setIcon(IconOf(icon));
@@ -96,8 +94,11 @@ MessageAnswer DesktopMessageBoxes::Show(const QString& text, MessageIcon icon,
         AddButton(box, kind);
     box.setDefaultButton(kinds.front().standard);
     box.setEscapeButton(kinds.back().standard);
+    const AccessKeys accessKeys(box);
     box.exec();
     RethrowFailure();
+    if (below && below->isVisible())
+        below->activateWindow(); // which not every desktop does by itself
     const auto clicked = box.standardButton(box.clickedButton());
     for (const ButtonKind& kind : kinds)
         if (kind.standard == clicked)

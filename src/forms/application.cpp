@@ -1,5 +1,6 @@
 #include "forms/application.h"
 
+#include "forms/access_key_style.h"
 #include "forms/wheel_guard.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -43,6 +44,7 @@ QString WhatBecameOfTheWork(const std::exception_ptr& failure) {
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    setStyle(new AccessKeyStyle);
     // Machines without Tahoma show its nearest relatives, which have all Czech letters.
     QFont::insertSubstitutions(QStringLiteral("Tahoma"),
                                {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans"),

@@ -1,11 +1,15 @@
 #include "forms/form.h"
 
+#include "app/help.h"
+#include "forms/access_keys.h"
 #include "forms/box_hints.h"
 #include "forms/form_settings.h"
 #include "forms/label_edit_delegate.h"
 #include "forms/report_list.h"
+#include "forms/scrolled_content.h"
 #include "platform/failure_guard.h"
 
+#include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
 #include <QShowEvent>
@@ -46,6 +50,13 @@ void NameLists(const Form& form) {
             list->setAccessibleName(form.windowTitle());
 }
 
+/// Gives the keyboard back to the window below, which not every desktop does by itself.
+void FocusWindowBelow(const Form& closed) {
+    QWidget* below = closed.parentWidget() ? closed.parentWidget()->window() : nullptr;
+    if (below && below->isVisible())
+        below->activateWindow();
+}
+
 } // namespace
 
 Form::Form(const char* name, const QString& caption, Border border, QWidget* parent)
@@ -54,6 +65,7 @@ Form::Form(const char* name, const QString& caption, Border border, QWidget* par
     setWindowTitle(caption);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::WindowMaximizeButtonHint, border == Border::Sizable);
+    new AccessKeys(*this);
 }
 
 void Form::ShowModally() {
@@ -69,8 +81,10 @@ void Form::ShowModally() {
         return;
     Activated();
     RethrowFailure();
-    if (!unloaded_)
-        exec();
+    if (unloaded_)
+        return;
+    FitToScreen();
+    exec();
 }
 
 void Form::LimitTypedTexts() {
@@ -80,6 +94,30 @@ void Form::LimitTypedTexts() {
             box->setMaxLength(LongestTypedText());
         TellItsLimit(*box);
     }
+}
+
+void Form::FitToScreen() {
+    const QSize largest = LargestSize(*this);
+    const QSize needed = border_ == Border::Fixed ? sizeHint() : minimumSizeHint();
+    if (needed.boundedTo(largest) != needed) {
+        ScrollContent(*this);
+        setMinimumSize(minimumSize().boundedTo(largest));
+        if (border_ == Border::Fixed) {
+            layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+            setFixedSize(sizeHint().boundedTo(largest));
+        }
+    }
+    if (border_ == Border::Sizable)
+        resize((testAttribute(Qt::WA_Resized) ? size() : sizeHint()).boundedTo(largest));
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    Guarded([&] {
+        if (event->key() == Qt::Key_F1)
+            OpenHelpOn(objectName());
+        else
+            QDialog::keyPressEvent(event);
+    });
 }
 
 void Form::WidenBy(int pixels) {
@@ -119,6 +157,7 @@ void OpenModal(Form& form) {
     }
     form.hide();
     RethrowFailure();
+    FocusWindowBelow(form);
     ActivateWindowBelow();
 }
 

@@ -35,6 +35,9 @@ class Form : public QDialog {
     /// Makes the window wider for what it shows this time; the widening isn't stored.
     void WidenBy(int pixels);
 
+    /// F1 opens the window's page of the help.
+    void keyPressEvent(QKeyEvent* event) override;
+
     /// Every road out of the window (button, close box, Esc) ends here.
     void done(int result) override;
     void showEvent(QShowEvent* event) override;
@@ -42,6 +45,7 @@ class Form : public QDialog {
   private:
     friend void OpenModal(Form& form);
     void ShowModally();
+    void FitToScreen();
     void LimitTypedTexts();
     Border border_;
     int widening_ = 0;

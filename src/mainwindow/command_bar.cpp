@@ -1,5 +1,6 @@
 #include "mainwindow/command_bar.h"
 
+#include "app/help.h"
 #include "app/main_window_services.h"
 #include "app/module_values.h"
 #include "mainwindow/window_opener.h"
@@ -116,11 +117,6 @@ void MainCommandBar::NodeClicked() {
     OpenHelp();
     target_.SetHelpPointer(false);
     contextHelp->setChecked(false);
-}
-
-void OpenHelp() {
-    (void)ThePlatform().opener->OpenFile(ThePlatform().programFolder +
-                                         QStringLiteral("/Lorvo.chm"));
 }
 
 } // namespace lorvo

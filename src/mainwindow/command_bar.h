@@ -44,7 +44,4 @@ class MainCommandBar : public CommandCollection {
     CommandTarget& target_;
 };
 
-/// Opens the help file of the program's folder.
-void OpenHelp();
-
 } // namespace lorvo

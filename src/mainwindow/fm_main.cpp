@@ -1,8 +1,10 @@
 #include "mainwindow/fm_main.h"
 
 #include "app/common_routines.h"
+#include "app/help.h"
 #include "app/module_values.h"
 #include "app/start_up.h"
+#include "forms/access_keys.h"
 #include "forms/controls.h"
 #include "forms/form_settings.h"
 #include "forms/report_list.h"
@@ -20,6 +22,7 @@
 #include <QPointer>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
 #include <algorithm>
@@ -56,6 +59,9 @@ fm_main::fm_main()
     MakeSplitter();
     MakeAboutPanel();
     treeCommands_ = new TreeCommands(*tvwMain, *this, this);
+    Connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { OpenHelpOn(objectName()); });
+    new AccessKeys(*this);
     SetTheMainWindow(this);
     SetActivatedBelow(this);
 }

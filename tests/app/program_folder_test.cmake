@@ -10,17 +10,24 @@ endfunction()
 function(put_together)
   execute_process(
     COMMAND ${CMAKE_COMMAND} -DFOLDER=${WORK}/program -DDATABASE=${WORK}/built/data.mdb
-            -DTEMPLATES=${WORK}/Šablony -DHELP=${WORK}/built/Lorvo.chm -P ${SCRIPT}
+            -DTEMPLATES=${WORK}/Šablony -DHELP=${WORK}/built/Lorvo.chm
+            -DPAGES=${WORK}/pages -P ${SCRIPT}
     COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
 file(WRITE ${WORK}/built/data.mdb "delivered")
 file(WRITE ${WORK}/built/Lorvo.chm "help")
+file(WRITE ${WORK}/pages/index.html "first page")
+file(WRITE ${WORK}/pages/Lorvo.hhp "a list")
 file(WRITE ${WORK}/Šablony/Platby.html "template")
 put_together()
 expect(data.mdb "delivered")
 expect(Lorvo.chm "help")
+expect(Nápověda/index.html "first page")
+if(EXISTS ${WORK}/program/Nápověda/Lorvo.hhp)
+  message(FATAL_ERROR "Lists of the compiled help lie among its pages")
+endif()
 expect(Šablony/Platby.html "template")
 
 file(WRITE ${WORK}/program/data.mdb "a show")

@@ -1,10 +1,13 @@
 #include "support/window_walk.h"
 
+#include "forms/access_keys.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -97,6 +100,26 @@ void WalkTabOrder(const QWidget& window, const QList<QWidget*>& controls) {
             << "Tab goes from " << Describe(*order[i - 1]) << " to " << Describe(*order[i]);
 }
 
+/// Buttons and captions of fields lead somewhere by a letter of their own.
+void CheckAccessKeys(const QList<QWidget*>& controls) {
+    QHash<QChar, const QWidget*> owners;
+    for (const QWidget* widget : controls) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const QString text = button                    ? button->text()
+                             : label && label->buddy() ? label->text()
+                                                       : QString();
+        if (text.isEmpty())
+            continue;
+        const QChar key = AccessKeyOf(*widget);
+        EXPECT_FALSE(key.isNull()) << Describe(*widget) << " has no access key";
+        EXPECT_FALSE(owners.contains(key))
+            << Describe(*widget) << " shares its access key with " << Describe(*owners.value(key));
+        if (!key.isNull())
+            owners.insert(key, widget);
+    }
+}
+
 void CheckTextFits(const QWidget& widget) {
     const auto* label = qobject_cast<const QLabel*>(&widget);
     const auto* button = qobject_cast<const QAbstractButton*>(&widget);
@@ -128,6 +151,7 @@ void WalkWindow(QWidget& window) {
         CheckTextFits(*widget);
     }
     WalkTabOrder(window, controls);
+    CheckAccessKeys(controls);
 }
 
 } // namespace lorvo::test

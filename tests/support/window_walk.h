@@ -6,8 +6,8 @@ class QWidget;
 namespace lorvo::test {
 
 /// Shows the window (not modally) and fails the test for each input field without a caption, each
-/// control without a name, each step of the Tab key against the reading order, and each label or
-/// button whose text is cut.
+/// control without a name or an access key of its own, each step of the Tab key against the reading
+/// order, and each label or button whose text is cut.
 void WalkWindow(QWidget& window);
 
 } // namespace lorvo::test

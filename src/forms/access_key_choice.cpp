@@ -1,0 +1,101 @@
+#include "forms/access_key_choice.h"
+
+#include <QHash>
+#include <QSet>
+#include <algorithm>
+
+namespace lorvo {
+
+namespace {
+
+bool IsPlain(QChar letter) {
+    return (letter >= u'A' && letter <= u'Z') || (letter >= u'0' && letter <= u'9');
+}
+
+/// The letters that a text can be reached by, the best ones first.
+std::vector<QChar> Candidates(const QString& text) {
+    if (const QChar marked = MarkedKey(text); !marked.isNull())
+        return {marked};
+    std::vector<QChar> first;
+    std::vector<QChar> inner;
+    bool inWord = false;
+    for (const QChar c : text) {
+        const QChar letter = c.toUpper();
+        if (letter.isLetterOrNumber())
+            (inWord ? inner : first).push_back(letter);
+        inWord = letter.isLetterOrNumber();
+    }
+    first.insert(first.end(), inner.begin(), inner.end());
+    std::stable_partition(first.begin(), first.end(), IsPlain);
+    return first;
+}
+
+/// Pairs the texts of one page with letters; a text that finds its letters taken makes an earlier
+/// one move to another of its own where that leaves both with one.
+class Pairing {
+  public:
+    Pairing(const std::vector<KeyedText>& texts, QSet<QChar> taken)
+        : texts_(texts), taken_(std::move(taken)) {}
+
+    bool Place(std::size_t text) {
+        QSet<QChar> tried;
+        return Place(text, tried);
+    }
+    const QHash<QChar, std::size_t>& Owners() const { return owners_; }
+
+  private:
+    bool Place(std::size_t text, QSet<QChar>& tried) {
+        for (const QChar letter : Candidates(texts_[text].text)) {
+            if (taken_.contains(letter) || tried.contains(letter))
+                continue;
+            tried.insert(letter);
+            const auto owner = owners_.constFind(letter);
+            if (owner == owners_.cend() || Place(*owner, tried)) {
+                owners_.insert(letter, text);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    const std::vector<KeyedText>& texts_;
+    QSet<QChar> taken_;
+    QHash<QChar, std::size_t> owners_;
+};
+
+} // namespace
+
+QChar MarkedKey(const QString& text) {
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != u'&')
+            continue;
+        if (text[i + 1] != u'&')
+            return text[i + 1].toUpper();
+        ++i;
+    }
+    return {};
+}
+
+std::vector<QChar> ChooseAccessKeys(const std::vector<KeyedText>& texts) {
+    std::vector<QChar> keys(texts.size());
+    QSet<int> pages;
+    for (const KeyedText& text : texts)
+        pages.insert(text.page);
+    QList<int> order(pages.begin(), pages.end());
+    std::sort(order.begin(), order.end()); // what shows with every page comes first
+    QSet<QChar> common;
+    for (const int page : order) {
+        Pairing pairing(texts, common);
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            if (texts[i].page == page)
+                pairing.Place(i);
+        for (auto pair = pairing.Owners().cbegin(); pair != pairing.Owners().cend(); ++pair) {
+            keys[pair.value()] = pair.key();
+            if (page == 0)
+                common.insert(pair.key());
+        }
+    }
+    return keys;
+}
+
+} // namespace lorvo

@@ -1,0 +1,149 @@
+#include "forms/access_keys.h"
+
+#include "forms/access_key_choice.h"
+#include "forms/controls.h"
+#include "platform/failure_guard.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <QHash>
+#include <QKeySequence>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <utility>
+
+namespace lorvo {
+
+namespace {
+
+constexpr char kKeyProperty[] = "accessKey";
+
+/// Parts that other controls are made of, such as the arrows of a tab bar.
+bool IsPart(const QWidget& control) {
+    const QWidget* above = control.parentWidget();
+    return control.objectName().startsWith(u"qt_") || !above || above->inherits("QTabBar") ||
+           above->inherits("QLineEdit") || above->inherits("QAbstractSpinBox") ||
+           above->inherits("QCalendarWidget") ||
+           (above->parentWidget() && above->parentWidget()->inherits("QCalendarWidget"));
+}
+
+QString TextOf(const QWidget& control) {
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
+        const auto* tool = qobject_cast<const QToolButton*>(button);
+        return tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly ? QString()
+                                                                         : button->text();
+    }
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    return label && (label->buddy() || qobject_cast<const LinkLabel*>(label)) ? label->text()
+                                                                              : QString();
+}
+
+/// The page of a stack that the control stands on, null for none.
+const QWidget* PageOf(const QWidget& control) {
+    for (const QWidget* widget = &control; widget && !widget->isWindow();
+         widget = widget->parentWidget())
+        if (qobject_cast<const QStackedWidget*>(widget->parentWidget()))
+            return widget;
+    return nullptr;
+}
+
+/// Whether the control is there once its page is; pages come and go by themselves.
+bool IsThere(const QWidget& control) {
+    const QWidget* page = PageOf(control);
+    const QWidget* top = page ? page : control.window();
+    return &control == top || control.isVisibleTo(const_cast<QWidget*>(top));
+}
+
+QList<QWidget*> ControlsOf(QWidget& window) {
+    QList<QWidget*> controls;
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->window() == &window && !TextOf(*widget).isEmpty() && !IsPart(*widget) &&
+            IsThere(*widget))
+            controls.push_back(widget);
+    return controls;
+}
+
+void Press(QWidget& control) {
+    auto* label = qobject_cast<QLabel*>(&control);
+    QWidget* target = label && label->buddy() ? label->buddy() : &control;
+    if (target->focusPolicy() != Qt::NoFocus)
+        target->setFocus(Qt::ShortcutFocusReason);
+    if (auto* link = qobject_cast<LinkLabel*>(&control))
+        Q_EMIT link->Clicked(Qt::LeftButton);
+    auto* tool = qobject_cast<QToolButton*>(&control);
+    if (tool && tool->menu() && tool->popupMode() == QToolButton::InstantPopup)
+        tool->showMenu();
+    else if (auto* button = qobject_cast<QAbstractButton*>(&control))
+        button->click();
+}
+
+QShortcut* Bind(QWidget& control, QChar key) {
+    const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(key.unicode()));
+    auto* shortcut = new QShortcut(keys, &control);
+    shortcut->setAutoRepeat(false);
+    Connect(shortcut, &QShortcut::activated, &control, [&control] { Press(control); });
+    return shortcut;
+}
+
+} // namespace
+
+AccessKeys::AccessKeys(QWidget& window) : QObject(&window), window_(window) {
+    window.installEventFilter(this);
+    Refresh();
+}
+
+void AccessKeys::Refresh() {
+    const QList<QWidget*> controls = ControlsOf(window_);
+    std::vector<Seen> now;
+    for (const QWidget* control : controls)
+        now.push_back({control, TextOf(*control)});
+    if (std::exchange(seen_, now) == now)
+        return;
+    QHash<const QWidget*, int> pages{{nullptr, 0}};
+    std::vector<KeyedText> texts;
+    for (const QWidget* control : controls) {
+        const QWidget* page = PageOf(*control);
+        if (!pages.contains(page))
+            pages.insert(page, static_cast<int>(pages.size()));
+        texts.push_back({TextOf(*control), pages.value(page)});
+    }
+    Give(controls, ChooseAccessKeys(texts));
+}
+
+void AccessKeys::Give(const QList<QWidget*>& controls, const std::vector<QChar>& keys) {
+    for (const QPointer<QShortcut>& shortcut : shortcuts_)
+        delete shortcut.data();
+    shortcuts_.clear();
+    for (qsizetype i = 0; i < controls.size(); ++i) {
+        QWidget& control = *controls[i];
+        const QChar key = keys[static_cast<std::size_t>(i)];
+        control.setProperty(kKeyProperty, key);
+        // A caption that bears its own mark is the toolkit's matter.
+        if (!key.isNull() && MarkedKey(TextOf(control)).isNull())
+            shortcuts_.push_back(Bind(control, key));
+        control.update();
+    }
+}
+
+bool AccessKeys::eventFilter(QObject*, QEvent* event) {
+    return GuardedAnswer(false, [&]() -> bool {
+        // Before a key is looked up, since not each change inside a scrolling area is told here.
+        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show ||
+            event->type() == QEvent::ShortcutOverride)
+            Refresh();
+        return false;
+    });
+}
+
+QChar AccessKeyOf(const QWidget& control) {
+    return control.property(kKeyProperty).toChar();
+}
+
+QString WithAccessKey(const QString& text, QChar key) {
+    const bool marked = key.isNull() || !MarkedKey(text).isNull();
+    const qsizetype place = marked ? -1 : text.indexOf(key, 0, Qt::CaseInsensitive);
+    return place < 0 ? text : QString(text).insert(place, u'&');
+}
+
+} // namespace lorvo

@@ -1,0 +1,49 @@
+#pragma once
+// Letters that together with Alt press a button or lead to a field. They are underlined in the
+// window but are no part of the texts, which stay as they are for whoever reads them.
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QShortcut>
+#include <QString>
+#include <vector>
+
+class QWidget;
+
+namespace lorvo {
+
+/// Gives every button and every caption of a field in a window a letter of its text that no other
+/// one shown with it has, and keeps to that as texts and visibility change. A letter acts at once:
+/// a button is pressed without the toolkit's pause, in which typed letters would go astray.
+class AccessKeys : public QObject {
+    Q_OBJECT
+  public:
+    /// Lives as long as the window.
+    explicit AccessKeys(QWidget& window);
+
+    /// Looks at the window again; done by itself whenever its layout changes.
+    void Refresh();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    struct Seen {
+        const QWidget* control;
+        QString text;
+        bool operator==(const Seen&) const = default;
+    };
+
+    void Give(const QList<QWidget*>& controls, const std::vector<QChar>& keys);
+
+    QWidget& window_;
+    std::vector<Seen> seen_;
+    std::vector<QPointer<QShortcut>> shortcuts_; ///< each goes with its control
+};
+
+/// The letter that leads to the control, a null character for none.
+QChar AccessKeyOf(const QWidget& control);
+/// The text with an ampersand before the letter, for whoever draws it.
+QString WithAccessKey(const QString& text, QChar key);
+
+} // namespace lorvo

@@ -1,0 +1,56 @@
+#include "forms/scrolled_content.h"
+
+#include "forms/controls.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace lorvo {
+
+namespace {
+
+/// Asks for as much as its content does, where the toolkit's own asks for a part of a screen.
+class ContentArea : public QScrollArea {
+  public:
+    using QScrollArea::QScrollArea;
+
+    QSize sizeHint() const override {
+        const int bar = verticalScrollBar()->sizeHint().width();
+        return widget()->sizeHint() + QSize(bar, bar);
+    }
+};
+
+void MoveRow(QVBoxLayout& from, QVBoxLayout& to) {
+    const int stretch = from.stretch(0);
+    QLayoutItem* row = from.takeAt(0);
+    if (QLayout* rows = row->layout()) {
+        to.addLayout(rows, stretch);
+    } else if (QWidget* control = row->widget()) {
+        to.addWidget(control, stretch, row->alignment());
+        delete row;
+    } else {
+        to.addItem(row);
+    }
+}
+
+} // namespace
+
+void ScrollContent(QWidget& window) {
+    auto* column = qobject_cast<QVBoxLayout*>(window.layout());
+    if (!column || column->count() < 2)
+        return;
+    auto* area = Named(new ContentArea(&window), QStringLiteral("scrContent"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    auto* content = new QWidget;
+    auto* rows = new QVBoxLayout(content);
+    rows->setContentsMargins({});
+    area->setWidget(content);
+    while (column->count() > 1)
+        MoveRow(*column, *rows);
+    column->insertWidget(0, area, 1);
+}
+
+} // namespace lorvo

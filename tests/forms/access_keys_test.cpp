@@ -1,0 +1,92 @@
+#include "forms/access_keys.h"
+
+#include "forms/access_key_style.h"
+#include "forms/controls.h"
+#include "support/recording_platform.h"
+
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+namespace {
+
+class AccessKeysTest : public ::testing::Test {
+  protected:
+    AccessKeysTest() {
+        auto* column = new QVBoxLayout(&window);
+        column->addWidget(CaptionFor(name, QStringLiteral("Jméno"), &window));
+        column->addWidget(name);
+        column->addWidget(add);
+        column->addWidget(other);
+        new AccessKeys(window);
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    test::RecordingPlatform platform;
+    QWidget window;
+    QLineEdit* name = new QLineEdit(&window);
+    QPushButton* add = new QPushButton(QStringLiteral("Přidat nového"), &window);
+    QPushButton* other = new QPushButton(QStringLiteral("Zpět"), &window);
+};
+
+TEST_F(AccessKeysTest, AButtonActsAtOnceSoThatWhatIsTypedNextIsNotLost) {
+    QObject::connect(add, &QPushButton::clicked, name, [this] { name->setFocus(); });
+    QTest::keyClick(&window, Qt::Key_N, Qt::AltModifier);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Eva"));
+    EXPECT_EQ(name->text(), QStringLiteral("Eva"));
+}
+
+TEST_F(AccessKeysTest, ACaptionLeadsToItsField) {
+    other->setFocus();
+    const QChar key = AccessKeyOf(*window.findChild<QLabel*>());
+    QTest::keyClick(&window, static_cast<Qt::Key>(key.unicode()), Qt::AltModifier);
+    EXPECT_TRUE(name->hasFocus());
+}
+
+TEST_F(AccessKeysTest, TextsStayAsTheyAreAndTheLetterIsUnderlined) {
+    EXPECT_EQ(add->text(), QStringLiteral("Přidat nového"));
+    EXPECT_EQ(WithAccessKey(add->text(), u'N'), QStringLiteral("Přidat &nového"));
+    AccessKeyStyle style;
+    add->setStyle(&style);
+    const QImage marked = add->grab().toImage();
+    add->setProperty("accessKey", QChar());
+    EXPECT_NE(add->grab().toImage(), marked);
+    add->setStyle(nullptr);
+}
+
+TEST_F(AccessKeysTest, ACaptionIsUnderlinedToo) {
+    auto* label = window.findChild<QLabel*>();
+    AccessKeyStyle style;
+    label->setStyle(&style);
+    const QImage marked = label->grab().toImage();
+    label->setProperty("accessKey", QChar());
+    EXPECT_NE(label->grab().toImage(), marked);
+    label->setStyle(nullptr);
+}
+
+TEST_F(AccessKeysTest, FollowTextsAndWhatIsShown) {
+    add->setText(QStringLiteral("Start"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(AccessKeyOf(*add), u'S');
+    add->hide();
+    QCoreApplication::processEvents();
+    other->setText(QStringLiteral("Storno"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(AccessKeyOf(*other), u'S');
+}
+
+TEST_F(AccessKeysTest, WhatCannotBePressedIsNot) {
+    int clicks = 0;
+    QObject::connect(other, &QPushButton::clicked, other, [&clicks] { ++clicks; });
+    other->setEnabled(false);
+    QTest::keyClick(&window, Qt::Key_Z, Qt::AltModifier);
+    EXPECT_EQ(clicks, 0);
+    other->setEnabled(true);
+    QTest::keyClick(&window, Qt::Key_Z, Qt::AltModifier);
+    EXPECT_EQ(clicks, 1);
+}
+
+} // namespace
+} // namespace lorvo

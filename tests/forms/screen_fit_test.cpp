@@ -1,0 +1,112 @@
+// No window is larger than the screen, and none is out of sight.
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/form_settings.h"
+#include "platform/failure_guard.h"
+#include "support/modal_driver.h"
+#include "support/recording_platform.h"
+
+#include <QScreen>
+#include <QScrollArea>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace lorvo {
+namespace {
+
+using test::WhileOpen;
+
+/// A window of many lines above its buttons.
+class LongForm : public Form {
+  public:
+    LongForm(Border border, int lines)
+        : Form("frmLong", QStringLiteral("Dlouhé okno"), border, nullptr) {
+        auto* column = new QVBoxLayout(this);
+        for (int i = 0; i < lines; ++i)
+            column->addWidget(Named(new QLineEdit(this), ElementName("txtbox", i)));
+        auto* cmdOK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+        Connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+        column->addLayout(ButtonRow({cmdOK}));
+    }
+};
+
+class ScreenFitTest : public ::testing::Test {
+  protected:
+    void Open(Form& form, const std::function<void(QWidget&)>& inside) {
+        WhileOpen([&] { OpenModal(form); }, inside);
+    }
+    static QRect Space(const QWidget& window) { return window.screen()->availableGeometry(); }
+
+    test::RecordingPlatform platform;
+};
+
+TEST_F(ScreenFitTest, ContentThatIsTooHighScrollsAboveTheButtons) {
+    for (const auto border : {Form::Border::Fixed, Form::Border::Sizable}) {
+        LongForm form(border, 60);
+        Open(form, [](QWidget& window) {
+            EXPECT_TRUE(Space(window).contains(window.geometry()));
+            auto& last = test::Control<QLineEdit>(window, "txtbox(59)");
+            auto& ok = test::Control<QPushButton>(window, "cmdOK");
+            EXPECT_TRUE(window.rect().contains(ok.mapTo(&window, ok.rect().bottomRight())));
+            for (int i = 0; i < 60; ++i) // by the Tab key, as a clerk gets there
+                if (!last.hasFocus())
+                    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+            EXPECT_TRUE(last.hasFocus());
+            EXPECT_FALSE(last.visibleRegion().isEmpty());
+        });
+    }
+}
+
+TEST_F(ScreenFitTest, AWindowThatFitsStaysAsItWasDesigned) {
+    LongForm form(Form::Border::Fixed, 3);
+    Open(form, [](QWidget& window) { EXPECT_FALSE(window.findChild<QScrollArea*>()); });
+}
+
+TEST_F(ScreenFitTest, ADesignedSizeIsBoundedToTheScreen) {
+    LongForm form(Form::Border::Sizable, 3);
+    form.resize(5000, 5000);
+    Open(form, [](QWidget& window) { EXPECT_EQ(window.size(), LargestSize(window)); });
+}
+
+TEST_F(ScreenFitTest, OpensWhereItStoodAndIsBroughtBackInSight) {
+    platform.settings[QStringLiteral("Form Positions\\frmLong\\Top")] = QStringLiteral("60");
+    platform.settings[QStringLiteral("Form Positions\\frmLong\\Left")] = QStringLiteral("70");
+    LongForm form(Form::Border::Fixed, 3);
+    Open(form, [](QWidget& window) { EXPECT_EQ(window.pos(), QPoint(70, 60)); });
+    platform.settings[QStringLiteral("Form Positions\\frmLong\\Left")] = QStringLiteral("25000");
+    LongForm again(Form::Border::Fixed, 3);
+    Open(again, [](QWidget& window) { EXPECT_TRUE(Space(window).contains(window.geometry())); });
+}
+
+TEST_F(ScreenFitTest, AnAxisWithoutAPlaceIsInTheMiddleByTheRealSize) {
+    platform.settings[QStringLiteral("Form Positions\\frmLong\\Top")] = QStringLiteral("60");
+    LongForm form(Form::Border::Sizable, 3);
+    form.resize(500, 300);
+    Open(form, [](QWidget& window) {
+        EXPECT_EQ(window.y(), 60);
+        EXPECT_NEAR(window.geometry().center().x(), Space(window).center().x(), 12);
+    });
+}
+
+TEST_F(ScreenFitTest, AWideningIsNotStored) {
+    class Wide : public LongForm {
+      public:
+        Wide() : LongForm(Border::Sizable, 3) { resize(300, 200); }
+        void Load() override { WidenBy(150); }
+    };
+    for (int opening = 0; opening < 2; ++opening) {
+        Wide form;
+        Open(form, [](QWidget& window) { EXPECT_EQ(window.width(), 450); });
+    }
+    EXPECT_EQ(platform.settings[QStringLiteral("Form Positions\\frmLong\\Width")],
+              QStringLiteral("300"));
+}
+
+TEST_F(ScreenFitTest, F1OpensTheHelpWhereverTheKeyboardIs) {
+    LongForm form(Form::Border::Fixed, 3);
+    Open(form, [](QWidget& window) { QTest::keyClick(window.focusWidget(), Qt::Key_F1); });
+    EXPECT_EQ(platform.openedFiles.size(), 1);
+}
+
+} // namespace
+} // namespace lorvo
