@@ -44,8 +44,6 @@ void InstallPlatform(const QString& programFolder) {
     platform.clock = MakeClock();
     platform.wordProcessors =
         std::make_unique<DocxWordProcessors>(*platform.opener, *platform.clock, programFolder);
-    FillConstantTables(Module());
-    FillPaymentModes(Module());
     Module().MainCurrency = QStringLiteral("Kč");
 }
 

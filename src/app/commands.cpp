@@ -99,11 +99,6 @@ std::span<const Command> AllCommands() {
     return kCommands;
 }
 
-const Command* FindCommand(QStringView key) {
-    const auto* found = std::ranges::find(kCommands, key, &Command::key);
-    return found == std::end(kCommands) ? nullptr : found;
-}
-
 const CommandBar* FindCommandBar(QStringView name) {
     const auto* found = std::ranges::find(kBars, name, &CommandBar::name);
     return found == std::end(kBars) ? nullptr : found;

@@ -24,8 +24,6 @@ struct CommandBar {
 
 /// Every command, in the order of creation.
 std::span<const Command> AllCommands();
-/// Nullptr when there is no such command.
-const Command* FindCommand(QStringView key);
 /// Nullptr when there is no bar of that name.
 const CommandBar* FindCommandBar(QStringView name);
 

@@ -61,7 +61,7 @@ void DogClassBox::NameClasses() {
     // Room for the caption at any date, so that nothing moves when its length changes.
     Label8->setMinimumHeight(kCaptionLines * Label8->fontMetrics().lineSpacing());
     const ModuleValues& module = Module();
-    const TextTable& names = module.SpecialBreed ? module.SpecialClassNames : module.ClassNames;
+    const TextTable& names = module.SpecialBreed ? Tables().SpecialClassNames : module.ClassNames;
     for (size_t i = 0; i < optClasses.size(); ++i) {
         optClasses[i]->setText(LiteralCaption(names[i]));
         optClasses[i]->setHidden(names[i].isEmpty());
@@ -87,8 +87,8 @@ void DogClassBox::Drop(QRadioButton* button) {
 
 void DogClassBox::UpdateClassButtons(DateValue born) {
     const ModuleValues& module = Module();
-    const NumberTable& from = module.SpecialBreed ? module.SpecialClassFrom : module.ClassFrom;
-    const NumberTable& to = module.SpecialBreed ? module.SpecialClassTo : module.ClassTo;
+    const NumberTable& from = module.SpecialBreed ? Tables().SpecialClassFrom : Tables().ClassFrom;
+    const NumberTable& to = module.SpecialBreed ? Tables().SpecialClassTo : Tables().ClassTo;
     const DateValue show = ShowDate();
     const int age =
         AgeInMonths(born, show, module.SpecialBreed ? ClassList::Special : ClassList::Standard);

@@ -27,7 +27,7 @@ void AddRecords(std::vector<ReportRow>& rows, QChar letter, const Records& recor
 
 std::vector<ReportRow> ClassChoices() {
     std::vector<ReportRow> rows;
-    AddClasses(rows, QStringLiteral("CNO"), Module().SpecialClassNames);
+    AddClasses(rows, QStringLiteral("CNO"), Tables().SpecialClassNames);
     AddClasses(rows, QStringLiteral("C"), Module().ClassNames);
     return rows;
 }

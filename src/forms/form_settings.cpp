@@ -123,6 +123,12 @@ WindowState StateOf(const QWidget& window) {
     return window.isMaximized() ? WindowState::Maximized : WindowState::Normal;
 }
 
+/// Places are those of a window's content, without the frame: how thick that is isn't known before
+/// the window is on the screen, and what is taken for it would add up from one opening to the next.
+void Place(QWidget& window, QPoint place) {
+    window.setGeometry(QRect(place, window.size()));
+}
+
 } // namespace
 
 std::optional<int> StoredNumber(const QString& key, const QString& name) {
@@ -145,22 +151,26 @@ void LoadFormSettings(QWidget& window, bool fixedBorder) {
 }
 
 void RestorePlace(QWidget& window) {
+    // On its way to the screen a maximised window already has the place that it will fill.
+    if (window.windowHandle() && window.windowState() != Qt::WindowNoState)
+        return;
     const QString key = PositionKey(window);
     const auto top = StoredSize(key, "Top");
     const auto left = StoredSize(key, "Left");
     if (top || left)
-        window.move(left.value_or(window.x()), top.value_or(window.y()));
+        Place(window, {left.value_or(window.geometry().x()), top.value_or(window.geometry().y())});
     BringInSight(window);
 }
 
 void BringInSight(QWidget& window) {
-    if (IsInSight({window.pos(), window.size()}))
+    if (IsInSight(window.geometry()))
         return;
     const QRect space = window.screen()->availableGeometry();
     const QSize frame = window.size() + kFrame;
-    window.move(
-        qBound(space.left(), window.x(), std::max(space.left(), space.right() - frame.width())),
-        qBound(space.top(), window.y(), std::max(space.top(), space.bottom() - frame.height())));
+    const QPoint place = window.geometry().topLeft();
+    const int left = std::max(space.left(), space.right() - frame.width());
+    const int top = std::max(space.top(), space.bottom() - frame.height());
+    Place(window, {qBound(space.left(), place.x(), left), qBound(space.top(), place.y(), top)});
 }
 
 QSize LargestSize(const QWidget& window) {
@@ -178,8 +188,8 @@ void SaveFormSettings(const QWidget& window, int widening) {
     store("WindowState", static_cast<int>(state));
     if (state != WindowState::Normal)
         return;
-    store("Top", window.y());
-    store("Left", window.x());
+    store("Top", window.geometry().y());
+    store("Left", window.geometry().x());
     store("Height", window.height());
     store("Width", window.width() - widening);
 }

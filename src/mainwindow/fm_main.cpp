@@ -60,7 +60,7 @@ fm_main::fm_main()
     MakeAboutPanel();
     treeCommands_ = new TreeCommands(*tvwMain, *this, this);
     Connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { OpenHelpOn(objectName()); });
+            [] { OpenHelpOn(QStringLiteral("okno")); });
     new AccessKeys(*this);
     SetTheMainWindow(this);
     SetActivatedBelow(this);
@@ -124,7 +124,7 @@ void fm_main::Load() {
     LoadFormSettings(*this, false);
     RestorePlace(*this);
     RestoreSplitter();
-    FillConstantTables(Module());
+    Module().ClassNames = Tables().ClassNames;
     SkipFailure([this] { LoadData(); });
     picDetails->HidePanels();
     SkipFailure([this] { RestoreSelection(); });

@@ -89,7 +89,7 @@ void frmPlatba::ConnectControls() {
 void frmPlatba::Load() {
     const Psi dog = CurrentDog();
     setWindowTitle(windowTitle() + u" - "_s + FullName(dog));
-    for (const QString& mode : Module().PaymentModes)
+    for (const QString& mode : Tables().PaymentModes)
         cmbZpusob->addItem(mode);
     const DateValue last = Module().LastPaymentDate;
     SetPickedDate(*dtPrijata, last.IsZero() ? ThePlatform().clock->Now() : last);

@@ -3,10 +3,17 @@
 #include "support/print_qt.h"
 
 #include <QSet>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace lorvo {
 namespace {
+
+/// Nullptr when there is no such command.
+const Command* FindCommand(QStringView key) {
+    const auto found = std::ranges::find(AllCommands(), key, &Command::key);
+    return found == AllCommands().end() ? nullptr : &*found;
+}
 
 QStringList Buttons(QStringView bar) {
     QStringList keys;

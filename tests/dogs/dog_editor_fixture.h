@@ -22,7 +22,6 @@ class DogEditorTest : public RoutinesTest {
   protected:
     DogEditorTest() {
         Module() = ModuleValues();
-        FillConstantTables(Module());
         platform.now = DateValue::FromCalendar(2005, 5, 1);
         AddLink("Ostatni", {{"DatumVystavy", DateValue::FromCalendar(2005, 5, 14)}});
         breed = Add("Plemena", {{"Nazev", Text("Chodský pes")}});

@@ -12,7 +12,6 @@ class DogListsTest : public RoutinesTest {
   protected:
     DogListsTest() {
         Module() = ModuleValues();
-        FillConstantTables(Module());
         Module().MainCurrency = Text("Kč");
         breed = Add("Plemena", {{"Nazev", Text("Boxer")}, {"NazevOrig", Text("Deutscher Boxer")}});
         owner = Add("Majitele", {{"Jmeno", Text("Jana Malá")}});

@@ -22,7 +22,6 @@ class ExhibitorsTest : public RoutinesTest {
   protected:
     ExhibitorsTest() {
         Module() = ModuleValues();
-        FillPaymentModes(Module());
         Module().MainCurrency = Text("Kč");
     }
     ~ExhibitorsTest() override { Module() = ModuleValues(); }

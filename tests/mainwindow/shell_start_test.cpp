@@ -48,10 +48,10 @@ TEST_F(ShellStart, OtherWindowsReachTheTreeThroughTheServices) {
 TEST_F(ShellStart, FillsTheTablesOfConstants) {
     Start();
     EXPECT_EQ(Module().ClassNames[3], u"mezitřída"_qs);
-    EXPECT_EQ(Module().SpecialClassTo[2], 24);
-    EXPECT_EQ(Module().DogSizes[5], u"velký"_qs);
-    EXPECT_EQ(Module().CoatTypes[4], u"bez srsti"_qs);
-    EXPECT_EQ(Module().PaymentModes[1], u"hotově"_qs);
+    EXPECT_EQ(Tables().SpecialClassTo[2], 24);
+    EXPECT_EQ(Tables().DogSizes[5], u"velký"_qs);
+    EXPECT_EQ(Tables().CoatTypes[4], u"bez srsti"_qs);
+    EXPECT_EQ(Tables().PaymentModes[1], u"hotově"_qs);
     EXPECT_EQ(Module().MainCurrency, u"Kč"_qs);
 }
 

@@ -21,7 +21,6 @@ class PaymentsTest : public RoutinesTest {
   protected:
     PaymentsTest() {
         Module() = ModuleValues();
-        FillPaymentModes(Module());
         Module().MainCurrency = Text("Kč");
         platform.now = DateValue::FromCalendar(2005, 5, 14).WithSecondOfDay(8 * 3600 + 61);
         AddCurrency("Euro", "EUR", Currency::FromRaw(255'000));

@@ -16,7 +16,6 @@ namespace {
 class CatalogueWindow : public testing::Test {
   protected:
     CatalogueWindow() {
-        FillConstantTables(Module());
         show.Execute(
             "INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'Kruh 1');"
             "INSERT INTO Plemena (ID, Nazev, Pouzivat, ID_Kruhu) VALUES (10, 'Boxer', -1, 1);"

@@ -45,8 +45,6 @@ QByteArray ReadAll(const QString& path) {
 } // namespace
 
 PaperFixture::PaperFixture() {
-    FillConstantTables(Module());
-    FillPaymentModes(Module());
     Module().MainCurrency = u"Kč"_qs;
     show.Execute(kShow);
     QDir(platform.ProgramFolder()).mkdir(u"Šablony"_qs);

@@ -62,10 +62,7 @@ inline Texts RowsOf(const ReportList& list) {
 
 class SetupTest : public RoutinesTest {
   protected:
-    SetupTest() {
-        Module() = ModuleValues();
-        FillConstantTables(Module());
-    }
+    SetupTest() { Module() = ModuleValues(); }
     ~SetupTest() override { Module() = ModuleValues(); }
 
     template<class Window> void Open(const std::function<void(QWidget&)>& inside) {

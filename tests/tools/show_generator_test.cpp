@@ -70,8 +70,6 @@ TEST_P(GeneratedShow, HasTheNumbersOfItsSize) {
 }
 
 TEST_P(GeneratedShow, EveryDogIsOldEnoughForItsClassAndNotTooOld) {
-    ModuleValues constants;
-    FillConstantTables(constants);
     const DateValue day = *ShowWideValues()->DatumVystavy;
     std::set<std::pair<bool, int>> seen;
     for (const Psi& dog : DogsByBreed()) {
@@ -79,8 +77,8 @@ TEST_P(GeneratedShow, EveryDogIsOldEnoughForItsClassAndNotTooOld) {
         const int age =
             AgeInMonths(*dog.DatumNar, day, special ? ClassList::Special : ClassList::Standard);
         const std::vector<int> open =
-            special ? OpenClasses(age, constants.SpecialClassFrom, constants.SpecialClassTo)
-                    : OpenClasses(age, constants.ClassFrom, constants.ClassTo);
+            special ? OpenClasses(age, Tables().SpecialClassFrom, Tables().SpecialClassTo)
+                    : OpenClasses(age, Tables().ClassFrom, Tables().ClassTo);
         ASSERT_TRUE(std::find(open.begin(), open.end(), dog.Trida) != open.end())
             << dog.ID << " of class " << dog.Trida << " is " << age;
         seen.emplace(special, dog.Trida);

@@ -27,18 +27,15 @@ constexpr int kSpecialBreedPercent = 6;
 
 /// The limits of both class lists.
 struct Limits {
-    Limits() { FillConstantTables(values); }
-
     int From(bool special, int trida) const {
-        return (special ? values.SpecialClassFrom : values.ClassFrom)[Slot(trida)];
+        return (special ? Tables().SpecialClassFrom : Tables().ClassFrom)[Slot(trida)];
     }
     int To(bool special, int trida) const {
-        return (special ? values.SpecialClassTo : values.ClassTo)[Slot(trida)];
+        return (special ? Tables().SpecialClassTo : Tables().ClassTo)[Slot(trida)];
     }
 
   private:
     static std::size_t Slot(int trida) { return static_cast<std::size_t>(trida - 1); }
-    ModuleValues values;
 };
 
 /// A day of birth whose age on the day of the show opens the class.

@@ -69,15 +69,13 @@ std::vector<int> OfficialBreeds(int count, Dice& dice) {
 
 /// The user's own subgroups, each below another breed than the special one.
 std::vector<int> AddSubgroups(int count, const std::vector<int>& official) {
-    ModuleValues constants;
-    FillConstantTables(constants);
     constexpr std::size_t kKinds = 4; // sizes that a breed is divided by
     std::vector<int> subgroups;
     for (int i = 0; i < count; ++i) {
         const std::size_t at = static_cast<std::size_t>(i);
         const int parent = official[1 + at % (official.size() - 1)];
         const QString name =
-            BreedByID(parent)->Nazev + u", "_qs + constants.DogSizes[1 + at % kKinds];
+            BreedByID(parent)->Nazev + u", "_qs + Tables().DogSizes[1 + at % kKinds];
         subgroups.push_back(InsertSubgroup(parent, name));
     }
     return subgroups;

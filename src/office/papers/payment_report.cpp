@@ -30,7 +30,7 @@ QString ModeOf(const PaymentRow& payment) {
     const QString found =
         payment.Uhrada ? QStringLiteral("“ má způsob úhrady %1, ale způsoby jsou jen 0 až %2.")
                              .arg(*payment.Uhrada)
-                             .arg(Module().PaymentModes.size() - 1)
+                             .arg(Tables().PaymentModes.size() - 1)
                        : QStringLiteral("“ nemá uveden způsob úhrady.");
     throw RangeError((dog + found).toStdString());
 }

@@ -13,7 +13,7 @@ Psi CurrentDog() {
 }
 
 const QString* FindPaymentMode(std::optional<int> uhrada) {
-    const auto& modes = Module().PaymentModes;
+    const auto& modes = Tables().PaymentModes;
     if (!uhrada || *uhrada < 0 || *uhrada >= static_cast<int>(modes.size()))
         return nullptr;
     return &modes[static_cast<size_t>(*uhrada)];

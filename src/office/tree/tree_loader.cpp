@@ -104,7 +104,6 @@ QString UnassignedRootText() {
 }
 
 void LoadTree(TreeNodes& nodes) {
-    FillPaymentModes(Module());
     const TreeNodes::Rebuilding rebuilding(nodes);
     TreeNode* unassigned = nodes.AddUnassignedRoot(UnassignedRootText());
 

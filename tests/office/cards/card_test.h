@@ -15,7 +15,6 @@ class CardTest : public ::testing::Test {
   protected:
     CardTest() {
         Module() = {};
-        FillConstantTables(Module());
         Module().MainCurrency = QStringLiteral("Kč");
     }
 

@@ -38,10 +38,7 @@ void FillShow(TempDatabase& show) {
 
 class CatalogueRendering : public testing::Test {
   protected:
-    CatalogueRendering() {
-        FillConstantTables(Module());
-        FillShow(show_);
-    }
+    CatalogueRendering() { FillShow(show_); }
     QString Pdf(FontSet fonts) {
         DocxWordProcessors processors(*ThePlatform().opener, *ThePlatform().clock,
                                       platform_.ProgramFolder());

@@ -15,7 +15,6 @@ namespace {
 class Catalogue : public testing::Test {
   protected:
     Catalogue() {
-        FillConstantTables(Module());
         show.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'Kruh 1');"
                      "INSERT INTO Plemena (ID, Nazev, NazevOrig, Pouzivat, ID_Kruhu) VALUES "
                      "(10, 'Boxer', 'Deutscher Boxer', -1, 1);"

@@ -28,7 +28,7 @@ class TreeLoaderTest : public ::testing::Test {
 TEST_F(TreeLoaderTest, ShowsTheUnassignedRootOfAnEmptyDatabase) {
     EXPECT_EQ(Load(), QStringList{u"K0 Nezařazeno v kruhu"_qs});
     EXPECT_TRUE(nodes.First()->bold);
-    EXPECT_EQ(Module().PaymentModes[1], u"hotově"_qs);
+    EXPECT_EQ(Tables().PaymentModes[1], u"hotově"_qs);
 }
 
 TEST_F(TreeLoaderTest, ShowsAnUnusedBreedOnlyInARing) {
