@@ -13,13 +13,11 @@ bool IsPlain(QChar letter) {
 }
 
 /// The letters that a text can be reached by, the best ones first.
-std::vector<QChar> Candidates(const QString& text) {
-    if (const QChar marked = MarkedKey(text); !marked.isNull())
-        return {marked};
+std::vector<QChar> Candidates(const KeyedText& keyed) {
     std::vector<QChar> first;
     std::vector<QChar> inner;
     bool inWord = false;
-    for (const QChar c : text) {
+    for (const QChar c : keyed.text) {
         const QChar letter = c.toUpper();
         if (letter.isLetterOrNumber())
             (inWord ? inner : first).push_back(letter);
@@ -27,6 +25,8 @@ std::vector<QChar> Candidates(const QString& text) {
     }
     first.insert(first.end(), inner.begin(), inner.end());
     std::stable_partition(first.begin(), first.end(), IsPlain);
+    std::stable_partition(first.begin(), first.end(),
+                          [&keyed](QChar letter) { return letter == keyed.wish; });
     return first;
 }
 
@@ -45,12 +45,17 @@ class Pairing {
 
   private:
     bool Place(std::size_t text, QSet<QChar>& tried) {
-        for (const QChar letter : Candidates(texts_[text].text)) {
+        const std::vector<QChar> letters = Candidates(texts_[text]);
+        for (const QChar letter : letters)
+            if (!taken_.contains(letter) && !owners_.contains(letter)) {
+                owners_.insert(letter, text);
+                return true;
+            }
+        for (const QChar letter : letters) {
             if (taken_.contains(letter) || tried.contains(letter))
                 continue;
             tried.insert(letter);
-            const auto owner = owners_.constFind(letter);
-            if (owner == owners_.cend() || Place(*owner, tried)) {
+            if (Place(owners_.value(letter), tried)) {
                 owners_.insert(letter, text);
                 return true;
             }
@@ -74,6 +79,18 @@ QChar MarkedKey(const QString& text) {
         ++i;
     }
     return {};
+}
+
+QString WithoutMark(const QString& text) {
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool pair = text[i] == u'&' && i + 1 < text.size() && text[i + 1] == u'&';
+        if (pair)
+            plain += text[i++];
+        if (pair || text[i] != u'&' || i + 1 == text.size())
+            plain += text[i];
+    }
+    return plain;
 }
 
 std::vector<QChar> ChooseAccessKeys(const std::vector<KeyedText>& texts) {

@@ -9,14 +9,17 @@ namespace lorvo {
 
 struct KeyedText {
     QString text;
+    QChar wish = {}; ///< the letter that its window would like it to have
     int page = 0; ///< texts of different pages never show together; page 0 shows with every other
 };
 /// A letter for each text, no two alike, for as many of the texts as can have one; a null character
-/// for the rest. A letter that the text itself marks by an ampersand is kept; else first letters of
-/// words are preferred to others, and plain ones to those with accents.
+/// for the rest. After the letter wished for, first letters of words are preferred to others, and
+/// plain ones to those with accents.
 std::vector<QChar> ChooseAccessKeys(const std::vector<KeyedText>& texts);
 
 /// The letter that the text itself marks by an ampersand, in capitals; null for none.
 QChar MarkedKey(const QString& text);
+/// The text without that mark. Two ampersands, which stand for one, stay.
+QString WithoutMark(const QString& text);
 
 } // namespace lorvo

@@ -18,6 +18,7 @@ namespace lorvo {
 namespace {
 
 constexpr char kKeyProperty[] = "accessKey";
+constexpr char kWishProperty[] = "accessKeyWish";
 
 /// Parts that other controls are made of, such as the arrows of a tab bar.
 bool IsPart(const QWidget& control) {
@@ -64,6 +65,20 @@ QList<QWidget*> ControlsOf(QWidget& window) {
     return controls;
 }
 
+/// Makes the letter that the text marks a wish, so that the toolkit gives the control none of its
+/// own, which would be slow for a button and could be another's.
+void TakeMark(QWidget& control) {
+    const QString text = TextOf(control);
+    const QChar marked = MarkedKey(text);
+    if (marked.isNull())
+        return;
+    control.setProperty(kWishProperty, marked);
+    if (auto* button = qobject_cast<QAbstractButton*>(&control))
+        button->setText(WithoutMark(text));
+    else if (auto* label = qobject_cast<QLabel*>(&control))
+        label->setText(WithoutMark(text));
+}
+
 void Press(QWidget& control) {
     auto* label = qobject_cast<QLabel*>(&control);
     QWidget* target = label && label->buddy() ? label->buddy() : &control;
@@ -96,8 +111,10 @@ AccessKeys::AccessKeys(QWidget& window) : QObject(&window), window_(window) {
 void AccessKeys::Refresh() {
     const QList<QWidget*> controls = ControlsOf(window_);
     std::vector<Seen> now;
-    for (const QWidget* control : controls)
+    for (QWidget* control : controls) {
+        TakeMark(*control);
         now.push_back({control, TextOf(*control)});
+    }
     if (std::exchange(seen_, now) == now)
         return;
     QHash<const QWidget*, int> pages{{nullptr, 0}};
@@ -106,7 +123,8 @@ void AccessKeys::Refresh() {
         const QWidget* page = PageOf(*control);
         if (!pages.contains(page))
             pages.insert(page, static_cast<int>(pages.size()));
-        texts.push_back({TextOf(*control), pages.value(page)});
+        texts.push_back(
+            {TextOf(*control), control->property(kWishProperty).toChar(), pages.value(page)});
     }
     Give(controls, ChooseAccessKeys(texts));
 }
@@ -119,8 +137,7 @@ void AccessKeys::Give(const QList<QWidget*>& controls, const std::vector<QChar>&
         QWidget& control = *controls[i];
         const QChar key = keys[static_cast<std::size_t>(i)];
         control.setProperty(kKeyProperty, key);
-        // A caption that bears its own mark is the toolkit's matter.
-        if (!key.isNull() && MarkedKey(TextOf(control)).isNull())
+        if (!key.isNull())
             shortcuts_.push_back(Bind(control, key));
         control.update();
     }
@@ -141,8 +158,7 @@ QChar AccessKeyOf(const QWidget& control) {
 }
 
 QString WithAccessKey(const QString& text, QChar key) {
-    const bool marked = key.isNull() || !MarkedKey(text).isNull();
-    const qsizetype place = marked ? -1 : text.indexOf(key, 0, Qt::CaseInsensitive);
+    const qsizetype place = key.isNull() ? -1 : text.indexOf(key, 0, Qt::CaseInsensitive);
     return place < 0 ? text : QString(text).insert(place, u'&');
 }
 

@@ -38,6 +38,15 @@ TEST_F(AccessKeysTest, AButtonActsAtOnceSoThatWhatIsTypedNextIsNotLost) {
     EXPECT_EQ(name->text(), QStringLiteral("Eva"));
 }
 
+TEST_F(AccessKeysTest, AButtonWhoseTextMarksALetterActsAtOnceToo) {
+    QObject::connect(other, &QPushButton::clicked, name, [this] { name->setFocus(); });
+    other->setText(QStringLiteral("Z&pět"));
+    QCoreApplication::processEvents();
+    QTest::keyClick(&window, Qt::Key_P, Qt::AltModifier);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Eva"));
+    EXPECT_EQ(name->text(), QStringLiteral("Eva"));
+}
+
 TEST_F(AccessKeysTest, ACaptionLeadsToItsField) {
     other->setFocus();
     const QChar key = AccessKeyOf(*window.findChild<QLabel*>());
