@@ -103,9 +103,10 @@ std::vector<QChar> ChooseAccessKeys(const std::vector<KeyedText>& texts) {
     QSet<QChar> common;
     for (const int page : order) {
         Pairing pairing(texts, common);
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            if (texts[i].page == page)
-                pairing.Place(i);
+        for (const bool wishes : {true, false})
+            for (std::size_t i = 0; i < texts.size(); ++i)
+                if (texts[i].page == page && !texts[i].wish.isNull() == wishes)
+                    pairing.Place(i);
         for (auto pair = pairing.Owners().cbegin(); pair != pairing.Owners().cend(); ++pair) {
             keys[pair.value()] = pair.key();
             if (page == 0)

@@ -65,6 +65,10 @@ QList<QWidget*> ControlsOf(QWidget& window) {
     return controls;
 }
 
+QChar WishOf(const QWidget& control) {
+    return control.property(kWishProperty).toChar();
+}
+
 /// Makes the letter that the text marks a wish, so that the toolkit gives the control none of its
 /// own, which would be slow for a button and could be another's.
 void TakeMark(QWidget& control) {
@@ -113,7 +117,7 @@ void AccessKeys::Refresh() {
     std::vector<Seen> now;
     for (QWidget* control : controls) {
         TakeMark(*control);
-        now.push_back({control, TextOf(*control)});
+        now.push_back({control, TextOf(*control), WishOf(*control)});
     }
     if (std::exchange(seen_, now) == now)
         return;
@@ -123,8 +127,7 @@ void AccessKeys::Refresh() {
         const QWidget* page = PageOf(*control);
         if (!pages.contains(page))
             pages.insert(page, static_cast<int>(pages.size()));
-        texts.push_back(
-            {TextOf(*control), control->property(kWishProperty).toChar(), pages.value(page)});
+        texts.push_back({TextOf(*control), WishOf(*control), pages.value(page)});
     }
     Give(controls, ChooseAccessKeys(texts));
 }

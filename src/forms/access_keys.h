@@ -31,6 +31,7 @@ class AccessKeys : public QObject {
     struct Seen {
         const QWidget* control;
         QString text;
+        QChar wish;
         bool operator==(const Seen&) const = default;
     };
 

@@ -4,11 +4,13 @@
 #include "forms/report_list.h"
 #include "platform/platform.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 #include <algorithm>
 #include <optional>
 #include <set>
@@ -123,9 +125,21 @@ WindowState StateOf(const QWidget& window) {
     return window.isMaximized() ? WindowState::Maximized : WindowState::Normal;
 }
 
-/// Places are those of a window's content, without the frame: how thick that is isn't known before
-/// the window is on the screen, and what is taken for it would add up from one opening to the next.
-void Place(QWidget& window, QPoint place) {
+/// How far inside of its frame a window begins. Before it is on the screen only other windows tell,
+/// and what is taken for it wrongly would add up from one opening to the next.
+QPoint FrameOffset(const QWidget& window) {
+    QList<const QWidget*> tellers{&window};
+    for (const QWidget* other : QApplication::topLevelWidgets())
+        if (other->isVisible() && (other->windowFlags() & Qt::WindowType_Mask) != Qt::Popup)
+            tellers.push_back(other);
+    for (const QWidget* teller : tellers)
+        if (const QWindow* handle = teller->windowHandle();
+            handle && !handle->frameMargins().isNull())
+            return {handle->frameMargins().left(), handle->frameMargins().top()};
+    return {};
+}
+
+void MoveContent(QWidget& window, QPoint place) {
     window.setGeometry(QRect(place, window.size()));
 }
 
@@ -157,8 +171,18 @@ void RestorePlace(QWidget& window) {
     const QString key = PositionKey(window);
     const auto top = StoredSize(key, "Top");
     const auto left = StoredSize(key, "Left");
-    if (top || left)
-        Place(window, {left.value_or(window.geometry().x()), top.value_or(window.geometry().y())});
+    // A window that isn't made yet takes the place of its frame and keeps to it.
+    const bool made = window.windowHandle() != nullptr;
+    const QPoint offset = made ? FrameOffset(window) : QPoint();
+    QPoint place = window.geometry().topLeft();
+    if (left)
+        place.setX(*left + offset.x());
+    if (top)
+        place.setY(*top + offset.y());
+    if ((left || top) && made)
+        MoveContent(window, place);
+    else if (left || top)
+        window.move(place);
     BringInSight(window);
 }
 
@@ -170,7 +194,8 @@ void BringInSight(QWidget& window) {
     const QPoint place = window.geometry().topLeft();
     const int left = std::max(space.left(), space.right() - frame.width());
     const int top = std::max(space.top(), space.bottom() - frame.height());
-    Place(window, {qBound(space.left(), place.x(), left), qBound(space.top(), place.y(), top)});
+    MoveContent(window,
+                {qBound(space.left(), place.x(), left), qBound(space.top(), place.y(), top)});
 }
 
 QSize LargestSize(const QWidget& window) {
@@ -188,8 +213,8 @@ void SaveFormSettings(const QWidget& window, int widening) {
     store("WindowState", static_cast<int>(state));
     if (state != WindowState::Normal)
         return;
-    store("Top", window.geometry().y());
-    store("Left", window.geometry().x());
+    store("Top", window.y());
+    store("Left", window.x());
     store("Height", window.height());
     store("Width", window.width() - widening);
 }
