@@ -83,8 +83,6 @@ void InstallPlatform(const QString& folder) {
     platform.clock = MakeClock();
     platform.wordProcessors =
         std::make_unique<DocxWordProcessors>(*platform.opener, *platform.clock, folder);
-    FillConstantTables(Module());
-    FillPaymentModes(Module());
     Module().MainCurrency = QStringLiteral("Kč");
 }
 

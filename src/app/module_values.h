@@ -14,9 +14,9 @@ inline constexpr int kSpecialBreedID = 949;
 
 struct ModuleValues {
     // Flags back to the main window, which reads and clears them when it comes to the front again.
-    bool BreedsDirty = false;      ///< fm_Plemena, fm_classes: the tree's breeds have changed
-    bool TreeDirty = false;        ///< fm_Settings, frmCisteniDB: the tree has changed its shape
-    bool ListJumpedToDog = false;  ///< fm_DogsList: a dog of the list was jumped to
+    bool BreedsDirty = false;     ///< fm_Plemena, fm_classes: the tree's breeds have changed
+    bool TreeDirty = false;       ///< fm_Settings, frmCisteniDB: the tree has changed its shape
+    bool ListJumpedToDog = false; ///< fm_DogsList: a dog of the list was jumped to
 
     int PaymentsOwner = 0; ///< links and lists of owners: owner of a statement, 0 for one dog's
 

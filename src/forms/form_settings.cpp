@@ -47,8 +47,8 @@ void RestoreColumnWidths(const QString& key, ReportList& list) {
     for (int column = 0; column < list.ColumnCount(); ++column) {
         const auto width = StoredNumber(key, QStringLiteral("ColWidth %1").arg(column + 1));
         if (width && *width >= 0)
-            list.DrawColumn(column, qBound(list.header()->minimumSectionSize(), *width,
-                                           kWidestColumn));
+            list.DrawColumn(column,
+                            qBound(list.header()->minimumSectionSize(), *width, kWidestColumn));
     }
 }
 

@@ -20,8 +20,6 @@ const QString kTitle = u"Správce dat"_s;
 } // namespace
 
 ShowSession::ShowSession() {
-    FillConstantTables(Module());
-    FillPaymentModes(Module());
     OpenDatabase();
     ReadMainCurrency();
 }

@@ -26,7 +26,7 @@ QString WithoutFirstWord(const QString& folded, const QString& word) {
 }
 
 const TextTable& NamesOf(ClassList list) {
-    return list == ClassList::Special ? Module().SpecialClassNames : Module().ClassNames;
+    return list == ClassList::Special ? Tables().SpecialClassNames : Module().ClassNames;
 }
 
 /// Code of the class that bears the name, or of the only one that begins so.

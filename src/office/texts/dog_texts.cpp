@@ -24,7 +24,7 @@ const QString& ClassName(int trida, const TextTable& names, const QString& jmeno
 }
 
 const TextTable& ClassNamesOf(int plemenoID) {
-    return plemenoID == kSpecialBreedID ? Module().SpecialClassNames : Module().ClassNames;
+    return plemenoID == kSpecialBreedID ? Tables().SpecialClassNames : Module().ClassNames;
 }
 
 QString ClosingText(bool first) {

@@ -16,8 +16,6 @@ class EntriesTest : public RoutinesTest {
   protected:
     EntriesTest() {
         Module() = ModuleValues();
-        FillConstantTables(Module());
-        FillPaymentModes(Module());
         Module().MainCurrency = Text("Kč");
         Add("Plemena", {{"Nazev", Text("Německý boxer")},
                         {"NazevOrig", Text("Deutscher Boxer")},

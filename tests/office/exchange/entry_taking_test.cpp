@@ -122,8 +122,6 @@ class RoundTripTest : public ::testing::Test {
   protected:
     RoundTripTest() {
         Module() = ModuleValues();
-        FillConstantTables(Module());
-        FillPaymentModes(Module());
         show::GenerateShow(*show::SizeNamed("club"), 5, show::Numbers::None);
         Module().MainCurrency = u"Kč"_s;
     }

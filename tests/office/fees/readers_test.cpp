@@ -60,7 +60,6 @@ class ReadersOfMadeUpShows : public ::testing::TestWithParam<std::uint64_t> {
   protected:
     ReadersOfMadeUpShows() {
         Module() = ModuleValues();
-        FillConstantTables(Module());
         Module().MainCurrency = QStringLiteral("Kč");
         show::GenerateShow({"small", 160, 60, 3, 12, 2, 150}, GetParam(), show::Numbers::None);
         // What the made-up show lacks: a competition entered twice, and one without a price.

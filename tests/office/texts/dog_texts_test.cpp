@@ -13,7 +13,6 @@ class DogTextsTest : public ::testing::Test {
   protected:
     DogTextsTest() {
         Module() = ModuleValues();
-        FillConstantTables(Module());
     }
     ~DogTextsTest() override { Module() = ModuleValues(); }
 
