@@ -86,9 +86,11 @@ void CopiesPage::ConnectControls() {
 
 void CopiesPage::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (!filled_)
-        Later(this, [this] { Refill(); });
-    filled_ = true;
+    Guarded([this] {
+        if (!filled_)
+            Later(this, [this] { Refill(); });
+        filled_ = true;
+    });
 }
 
 void CopiesPage::Refill() {

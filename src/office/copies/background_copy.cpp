@@ -1,6 +1,7 @@
 #include "office/copies/background_copy.h"
 
 #include "office/copies/show_copies.h"
+#include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 
 namespace lorvo {
@@ -53,8 +54,7 @@ void BackgroundCopy::Begin(const QString& programFolder, DateValue now) {
         thread_.join();
     thread_ = std::thread([this, programFolder, now] {
         const CopyOutcome outcome = TryCopy(programFolder, now);
-        QMetaObject::invokeMethod(
-            this, [this, outcome] { Q_EMIT Ended(outcome); }, Qt::QueuedConnection);
+        Later(this, [this, outcome] { Q_EMIT Ended(outcome); });
     });
 }
 

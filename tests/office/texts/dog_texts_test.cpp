@@ -11,9 +11,7 @@ namespace {
 
 class DogTextsTest : public ::testing::Test {
   protected:
-    DogTextsTest() {
-        Module() = ModuleValues();
-    }
+    DogTextsTest() { Module() = ModuleValues(); }
     ~DogTextsTest() override { Module() = ModuleValues(); }
 
     RecordingPlatform platform;
