@@ -78,11 +78,11 @@ void ReadBirth(EntryReading& reading, const EntryTables& tables) {
 }
 
 bool IsOpenAt(int age, int trida, ClassList list) {
-    const ModuleValues& module = Module();
+    const ConstantTables& tables = Tables();
     const auto at = static_cast<std::size_t>(trida - 1);
     return list == ClassList::Special
-               ? IsClassOpen(age, module.SpecialClassFrom[at], module.SpecialClassTo[at])
-               : IsClassOpen(age, module.ClassFrom[at], module.ClassTo[at]);
+               ? IsClassOpen(age, tables.SpecialClassFrom[at], tables.SpecialClassTo[at])
+               : IsClassOpen(age, tables.ClassFrom[at], tables.ClassTo[at]);
 }
 
 void ReadClass(EntryReading& reading, const EntryTables& tables) {
