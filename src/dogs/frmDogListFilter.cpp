@@ -62,7 +62,7 @@ frmDogListFilter::frmDogListFilter(QWidget* parent)
     lvwVystavy = AddListPage("lvwVystavy", u"Výstavy a soutěže"_s, {u"Název"_s});
     lvwOceneni = AddListPage("lvwOceneni", u"Ocenění"_s, {u"Název"_s});
 
-    auto* cmd_OK = Named(new QPushButton(u"OK"_s, this), u"cmd_OK"_s);
+    auto* cmd_OK = Named(new QPushButton(u"O&K"_s, this), u"cmd_OK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     auto* column = new QVBoxLayout(this);
     column->addWidget(tabFilter);
@@ -117,7 +117,7 @@ QWidget* frmDogListFilter::MakeDateFrame() {
     dtBorn = DatePicker(u"dtBorn"_s, frame, YearWindow::Past);
     DTPicker1 = DatePicker(u"DTPicker1"_s, frame, YearWindow::Past);
     const DateValue today = ThePlatform().clock->Now().DateOnly();
-    for (const auto& [picker, caption] : {std::pair(dtBorn, u"Od"_s), {DTPicker1, u"do"_s}}) {
+    for (const auto& [picker, caption] : {std::pair(dtBorn, u"&Od"_s), {DTPicker1, u"&do"_s}}) {
         SetPickedDate(*picker, today);
         row->addWidget(CaptionFor(picker, caption, frame));
         row->addWidget(picker);

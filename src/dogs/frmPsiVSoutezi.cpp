@@ -87,16 +87,6 @@ void frmPsiVSoutezi::Load() {
     }
 }
 
-bool frmPsiVSoutezi::QueryUnload() {
-    if (picSecondDog->isHidden())
-        return true;
-    // What is stored is the width without the second dogs, to which the next pair adds them again.
-    picSecondDog->hide();
-    layout()->activate();
-    resize(width() - kSecondDogWidth, height());
-    return true;
-}
-
 void frmPsiVSoutezi::ListPartners(int position) {
     if (picSecondDog->isHidden())
         return;

@@ -23,7 +23,6 @@ class frmPsiVSoutezi : public Form {
   protected:
     /// StoreError when the competition is gone.
     void Load() override;
-    bool QueryUnload() override;
 
   private:
     void BuildControls();

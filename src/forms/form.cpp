@@ -13,6 +13,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QShowEvent>
+#include <algorithm>
 #include <vector>
 
 namespace lorvo {
@@ -107,8 +108,12 @@ void Form::FitToScreen() {
             setFixedSize(sizeHint().boundedTo(largest));
         }
     }
-    if (border_ == Border::Sizable)
-        resize((testAttribute(Qt::WA_Resized) ? size() : sizeHint()).boundedTo(largest));
+    if (border_ != Border::Sizable)
+        return;
+    const QSize asked = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    resize(asked.boundedTo(largest));
+    // What the screen has no room for was no widening.
+    widening_ = std::max(0, widening_ - (asked.width() - width()));
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {

@@ -150,7 +150,7 @@ std::optional<int> StoredNumber(const QString& key, const QString& name) {
     if (!number)
         return {};
     constexpr double kFarthest = 1e6; // no screen reaches there, and it fits every type
-    return qRound(qBound(-kFarthest, number->toDouble(), kFarthest));
+    return static_cast<int>(qBound(-kFarthest, number->toDouble(), kFarthest));
 }
 
 void LoadFormSettings(QWidget& window, bool fixedBorder) {
