@@ -83,9 +83,8 @@ void CommandToolBar::Press(QToolButton& button) {
 }
 
 void CommandToolBar::DropDown(QToolButton& button) {
-    QMenu* menu = button.menu();
-    Later(menu, [menu] { menu->setActiveAction(menu->actions().value(0)); });
     button.showMenu();
+    LeaveBar();
 }
 
 void CommandToolBar::EnterBar() {

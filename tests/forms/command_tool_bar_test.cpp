@@ -82,22 +82,20 @@ TEST_F(CommandToolBarTest, EnterAndSpaceChooseACommandWithTheKeyboardBackWhereIt
     EXPECT_EQ(chosen.at(0).at(0).toString(), u"SETTINGS"_qs);
 }
 
-TEST_F(CommandToolBarTest, EnterSpaceAndDownDropAMenuDownOnItsFirstEntry) {
+TEST_F(CommandToolBarTest, EnterSpaceAndDownDropAMenuDownAndLeadBackAfterIt) {
     QMenu* menu = commands_->Action(u"TABLES"_qs)->menu();
-    QStringList entries;
+    int dropped = 0;
     QObject::connect(menu, &QMenu::aboutToShow, menu, [&] {
-        QTimer::singleShot(50, menu, [&] {
-            entries << (menu->activeAction() ? menu->activeAction()->objectName() : QString());
-            menu->close();
-        });
+        ++dropped;
+        QTimer::singleShot(0, menu, &QMenu::close);
     });
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Down}) {
         Press(Qt::Key_F10);
         Press(Qt::Key_Right);
         Press(key);
-        EXPECT_EQ(QApplication::focusWidget(), below_);
+        EXPECT_EQ(window_.focusWidget(), below_);
     }
-    EXPECT_EQ(entries, QStringList(3, u"TABLES:PSI"_qs));
+    EXPECT_EQ(dropped, 3);
 }
 
 TEST_F(CommandToolBarTest, AClickOfTheMouseLeavesTheKeyboardWhereItIs) {
