@@ -56,7 +56,7 @@ bool CommandToolBar::PressKey(QToolButton& button, int key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        if (button.menu())
+        if (button.defaultAction()->menu())
             DropDown(button);
         else if (key != Qt::Key_Down)
             Press(button);
@@ -94,7 +94,7 @@ void CommandToolBar::EnterBar() {
 }
 
 void CommandToolBar::LeaveBar() {
-    if (IsOnBar(QApplication::focusWidget()) && before_)
+    if (IsOnBar(window()->focusWidget()) && before_)
         before_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -86,7 +86,9 @@ void DogPanel::ShowCard(const DogCard& card) {
     fraVystavy->ShowCard(card);
     fraOceneni->ShowCard(card);
     // A text that wraps makes its section higher: lay out at once, so that it is never painted cut.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    // The title above may take room from the sections, which then ask for theirs once more.
+    for (int times = 0; times < 2; ++times)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 } // namespace lorvo
