@@ -179,14 +179,15 @@ QStringList CompareDatabases(const QString& earlier, const QString& later) {
 void PutCopyBack(const QString& programFolder, const QString& copy, DateValue now) {
     const QString database = DatabasePath(programFolder);
     RequireWholeDatabase(copy);
+    // Taken before the present state is copied: that may let the oldest copy go.
+    const QString fresh = database + u".nová"_s;
+    QFile::remove(fresh);
+    CopyDatabase(copy, fresh);
     try {
         MakeCopy(programFolder, now);
     } catch (const CorruptStoreError&) {
         PutAside(database, CopiesFolder(programFolder), now);
     }
-    const QString fresh = database + u".nová"_s;
-    QFile::remove(fresh);
-    CopyDatabase(copy, fresh);
     // A log of the old file must never meet the new one.
     for (const QString& ending : kJournalEndings)
         QFile::remove(database + ending);

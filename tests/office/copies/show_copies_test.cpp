@@ -89,6 +89,19 @@ TEST_F(ShowCopiesTest, PuttingBackCopiesThePresentStateFirst) {
     EXPECT_EQ(QDir(Folder()).entryList(QDir::Files), QStringList{QStringLiteral("data.mdb")});
 }
 
+TEST_F(ShowCopiesTest, TheOldestCopyIsPutBackThoughAgeLetsItGo) {
+    QString oldest;
+    for (int i = 0; i < 10; ++i) {
+        AddOwner("Eva");
+        const QString copy = MakeCopy(Folder(), now.WithSecondOfDay(i));
+        oldest = oldest.isEmpty() ? copy : oldest;
+    }
+    AddOwner("Eva");
+    TheDataModule().Conn1.Close();
+    PutCopyBack(Folder(), oldest, now.WithSecondOfDay(100));
+    EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 1);
+}
+
 TEST_F(ShowCopiesTest, ADamagedDatabaseGoesAsideWhenACopyIsPutBack) {
     AddOwner("Eva");
     const QString copy = Copy();
