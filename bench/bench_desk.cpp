@@ -17,13 +17,15 @@
 #include <QElapsedTimer>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace lorvo;
 using namespace lorvo::bench;
 
 QString DatabaseOf(const char* size) {
-    return ShowFolder(size) + QStringLiteral("/data.mdb");
+    return ShowFolder(size) + u"/data.mdb"_s;
 }
 
 void Start(benchmark::State& state, const char* size, const char* side) {
@@ -50,9 +52,7 @@ class OpenWindow {
         WaitForPaint(Viewport());
         QCoreApplication::processEvents();
     }
-    QWidget& Viewport() {
-        return *window.findChild<QTreeView*>(QStringLiteral("tvwMain"))->viewport();
-    }
+    QWidget& Viewport() { return *window.findChild<QTreeView*>(u"tvwMain"_s)->viewport(); }
 
     fm_main window;
 };
@@ -91,13 +91,13 @@ QStringList Keys(const char* kind) {
     QStringList keys;
     if (*kind == 'K') {
         for (const Kruhy& ring : RingsByName())
-            keys << QStringLiteral("K%1").arg(ring.ID);
+            keys << u"K%1"_s.arg(ring.ID);
     } else if (*kind == 'R') {
         for (const Plemena& breed : BreedsByRing())
-            keys << QStringLiteral("R%1").arg(breed.ID);
+            keys << u"R%1"_s.arg(breed.ID);
     } else {
         for (int dog = 1; dog <= CountDogs(); ++dog)
-            keys << QStringLiteral("P%1").arg(dog);
+            keys << u"P%1"_s.arg(dog);
     }
     return keys;
 }
@@ -146,9 +146,9 @@ void JumpToLast(benchmark::State& state, const char* size) {
     OpenWindow open(size);
     const QStringList keys = Keys("P");
     const TreeDog last = TreeDogsByBreed().back();
-    const QString lastKey = QStringLiteral("P%1").arg(last.ID);
+    const QString lastKey = u"P%1"_s.arg(last.ID);
     for (auto _ : state) {
-        open.window.SelectNode(QStringLiteral("K%1").arg(RingsByName().front().ID));
+        open.window.SelectNode(u"K%1"_s.arg(RingsByName().front().ID));
         QCoreApplication::processEvents();
         state.SetIterationTime(SecondsOf([&] {
             open.window.SelectNode(lastKey);

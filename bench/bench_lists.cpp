@@ -18,6 +18,8 @@
 
 #include <QElapsedTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace lorvo;
@@ -99,7 +101,7 @@ template<class Window> void Show(benchmark::State& state, const char* size) {
 template<class Statements>
 void BareRead(benchmark::State& state, const char* size, const Statements& texts) {
     UseShow(size);
-    BareDatabase database(ShowFolder(size) + QStringLiteral("/data.mdb"));
+    BareDatabase database(ShowFolder(size) + u"/data.mdb"_s);
     std::vector<sqlite3_stmt*> statements;
     for (const char* text : texts)
         statements.push_back(database.Prepare(text));

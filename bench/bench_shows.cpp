@@ -14,6 +14,8 @@
 
 namespace lorvo::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class OpensNothing : public OpenService {
@@ -23,7 +25,7 @@ class OpensNothing : public OpenService {
 };
 
 void MakeShow(const char* size, const QString& path) {
-    QFile::copy(QStringLiteral(LORVO_DELIVERED_DATABASE), path);
+    QFile::copy(QString::fromUtf8(LORVO_DELIVERED_DATABASE), path);
     QFile::setPermissions(path, QFile::permissions(path) | QFile::WriteOwner);
     Connection& connection = TheDataModule().Conn1;
     connection.Close();
@@ -44,7 +46,7 @@ void InstallPlatform(const QString& programFolder) {
     platform.clock = MakeClock();
     platform.wordProcessors =
         std::make_unique<DocxWordProcessors>(*platform.opener, *platform.clock, programFolder);
-    Module().MainCurrency = QStringLiteral("Kč");
+    Module().MainCurrency = u"Kč"_s;
 }
 
 QString ShowFolder(const char* size) {
@@ -52,13 +54,13 @@ QString ShowFolder(const char* size) {
     auto& folder = folders[size];
     if (!folder) {
         folder = std::make_unique<QTemporaryDir>();
-        MakeShow(size, folder->filePath(QStringLiteral("data.mdb")));
+        MakeShow(size, folder->filePath(u"data.mdb"_s));
     }
     return folder->path();
 }
 
 void UseShow(const char* size) {
-    const QString path = ShowFolder(size) + QStringLiteral("/data.mdb");
+    const QString path = ShowFolder(size) + u"/data.mdb"_s;
     Connection& connection = TheDataModule().Conn1;
     if (connection.IsOpen() && connection.Path() == path)
         return;

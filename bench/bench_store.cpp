@@ -19,13 +19,15 @@
 #include <QCoreApplication>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace lorvo;
 using namespace lorvo::bench;
 
 QString DatabaseOf(const char* size) {
-    return ShowFolder(size) + QStringLiteral("/data.mdb");
+    return ShowFolder(size) + u"/data.mdb"_s;
 }
 
 void TreeRows(benchmark::State& state, const char* size) {
@@ -94,7 +96,7 @@ void BareNumbering(benchmark::State& state, const char* size) {
 void Catalogue(benchmark::State& state, const char* size) {
     UseShow(size);
     for (auto _ : state) {
-        const auto word = ThePlatform().wordProcessors->Create(QStringLiteral("Katalog"));
+        const auto word = ThePlatform().wordProcessors->Create(u"Katalog"_s);
         TypeCatalogue(*word, false);
         QFile::remove(word->Show().path);
     }
@@ -109,7 +111,7 @@ void BareCatalogue(benchmark::State& state, const char* size) {
         "Psi LEFT JOIN Majitele ON Majitele.ID = MajitelID ORDER BY PlemenoID, PohlaviPes, Trida, "
         "czech_key(Psi.Jmeno)");
     for (auto _ : state) {
-        const auto word = ThePlatform().wordProcessors->Create(QStringLiteral("Katalog"));
+        const auto word = ThePlatform().wordProcessors->Create(u"Katalog"_s);
         while (sqlite3_step(rows) == SQLITE_ROW) {
             for (int column = 0; column < 8; ++column) {
                 word->TypeText(QString::fromUtf8(
@@ -130,13 +132,13 @@ class NeverStops : public RunProgress {
 };
 
 QByteArray ConfirmationPattern() {
-    return ReportTemplate::Read(QStringLiteral(LORVO_TEMPLATES "/Pozvánky.html"),
+    return ReportTemplate::Read(QString::fromUtf8(LORVO_TEMPLATES "/Pozvánky.html"),
                                 TemplateKind::Rows)
         .Body();
 }
 
 QString OutputFile(const char* size) {
-    return ShowFolder(size) + QStringLiteral("/output.html");
+    return ShowFolder(size) + u"/output.html"_s;
 }
 
 void Confirmations(benchmark::State& state, const char* size) {

@@ -16,11 +16,13 @@
 
 namespace lorvo::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Peak of the resident memory in kB.
 int PeakMemory() {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly))
         return 0;
     for (const QByteArray& line : status.readAll().split('\n')) {
@@ -45,12 +47,12 @@ void StartProgram(const QString& folder) {
     OpenDatabase();
     fm_main window;
     window.Start();
-    WaitForPaint(*window.findChild<QTreeView*>(QStringLiteral("tvwMain"))->viewport());
+    WaitForPaint(*window.findChild<QTreeView*>(u"tvwMain"_s)->viewport());
     Report();
 }
 
 void StartBare(const QString& folder) {
-    BareDatabase database(folder + QStringLiteral("/data.mdb"));
+    BareDatabase database(folder + u"/data.mdb"_s);
     BareWindow window;
     window.Load(database);
     window.show();
@@ -64,7 +66,7 @@ StartFigures StartOnce(const QString& side, const QString& folder) {
     QProcess child;
     QElapsedTimer timer;
     timer.start();
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), side, folder});
+    child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, side, folder});
     QByteArray said;
     while (!said.contains('\n') && child.waitForReadyRead(60000))
         said += child.readAllStandardOutput();

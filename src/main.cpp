@@ -20,6 +20,8 @@
 #include <string>
 #include <string_view>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A database that can't be trusted is never written to; the message says what to put in its place.
@@ -42,10 +44,9 @@ void TellVersion() {
 
 int SayThatItRuns() {
     lorvo::Platform& platform = lorvo::ThePlatform();
-    platform.messages->Show(
-        QStringLiteral("Lorvo už nad složkou „%1“ běží. Přepněte se do jeho okna.")
-            .arg(QDir::toNativeSeparators(platform.programFolder)),
-        lorvo::MessageIcon::Information, lorvo::MessageButtons::Ok, QStringLiteral("Lorvo"));
+    platform.messages->Show(u"Lorvo už nad složkou „%1“ běží. Přepněte se do jeho okna."_s.arg(
+                                QDir::toNativeSeparators(platform.programFolder)),
+                            lorvo::MessageIcon::Information, lorvo::MessageButtons::Ok, u"Lorvo"_s);
     return 1;
 }
 
@@ -60,7 +61,7 @@ int main(int argc, char** argv) {
     lorvo::SpeakCzech();
     lorvo::InstallRealPlatform();
     lorvo::CloseOnTermination();
-    lorvo::Application::setWindowIcon(lorvo::ProgramIcon(QStringLiteral("lorvo")));
+    lorvo::Application::setWindowIcon(lorvo::ProgramIcon(u"lorvo"_s));
 
     const lorvo::ProgramLock desk(lorvo::ThePlatform().programFolder);
     if (!desk.IsMine())

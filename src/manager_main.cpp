@@ -14,6 +14,8 @@
 
 #include <QTextStream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Without a screen.
@@ -34,7 +36,7 @@ int RunWindow(int argc, char** argv) {
     lorvo::SpeakCzech();
     lorvo::InstallRealPlatform();
     lorvo::CloseOnTermination();
-    lorvo::Application::setWindowIcon(lorvo::ProgramIcon(QStringLiteral("lorvo")));
+    lorvo::Application::setWindowIcon(lorvo::ProgramIcon(u"lorvo"_s));
     return application.Run([] {
         lorvo::frmSpravce window;
         lorvo::OpenModal(window);

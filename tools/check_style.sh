@@ -12,6 +12,10 @@ if sources | xargs -0 grep -nE $'\t|[ \r]$'; then
   echo "Tabs, blanks or carriage returns at the end of the lines above." >&2
   exit 1
 fi
+if sources | xargs -0 grep -nE '"_qs\b' || find src tests tools bench -name '*.cpp' -print0 | xargs -0 grep -n 'QStringLiteral('; then
+  echo 'Literals are u"..."_s; QStringLiteral stands in headers only, where no using directive may.' >&2
+  exit 1
+fi
 echo "Formatting holds."
 if [ "${1:-}" = tidy ]; then
   cmake --preset release >/dev/null

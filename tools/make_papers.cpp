@@ -30,6 +30,8 @@
 #include <stdexcept>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace lorvo;
@@ -41,7 +43,7 @@ using Options = std::map<std::string, QString>;
 
 Options ReadOptions(int argc, char** argv) {
     Options options = {
-        {"--show", {}}, {"--out", {}}, {"--templates", QStringLiteral(LORVO_TEMPLATES)}};
+        {"--show", {}}, {"--out", {}}, {"--templates", QString::fromUtf8(LORVO_TEMPLATES)}};
     for (int i = 1; i < argc; i += 2) {
         if (!options.contains(argv[i]) || i + 1 == argc)
             throw std::invalid_argument(argv[i]);
@@ -66,7 +68,7 @@ class NeverStops final : public RunProgress {
 };
 
 QString ShowTitle() {
-    return QStringLiteral("Krajská výstava psů společenských plemen Zlín 14. května 2005");
+    return u"Krajská výstava psů společenských plemen Zlín 14. května 2005"_s;
 }
 
 QStringList ConfirmationTexts() {
@@ -83,7 +85,7 @@ void InstallPlatform(const QString& folder) {
     platform.clock = MakeClock();
     platform.wordProcessors =
         std::make_unique<DocxWordProcessors>(*platform.opener, *platform.clock, folder);
-    Module().MainCurrency = QStringLiteral("Kč");
+    Module().MainCurrency = u"Kč"_s;
 }
 
 class PaperMaker {
@@ -138,7 +140,7 @@ void PaperMaker::MakeDocuments() {
 }
 
 void PaperMaker::Page(const char16_t* name, const Append& append, TemplateKind kind) {
-    const QString file = QString::fromUtf16(name) + QStringLiteral(".html");
+    const QString file = QString::fromUtf16(name) + u".html"_s;
     Timed(file, [&] {
         const ReportTemplate pattern = ReportTemplate::Read(templates_.filePath(file), kind);
         const bool grouped = kind == TemplateKind::GroupedRows;

@@ -12,6 +12,8 @@
 #include <stdexcept>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace lorvo;
@@ -45,7 +47,7 @@ template<class T> T Known(const std::optional<T>& value, const std::string& text
 /// A file is either whole or not there, and one that is there is never overwritten.
 void MakeShow(const show::ShowSize& size, std::uint64_t seed, show::Numbers numbers,
               const QString& from, const QString& out) {
-    const QString unfinished = out + u".new"_qs;
+    const QString unfinished = out + u".new"_s;
     QFile::remove(unfinished);
     if (QFile::exists(out) || !QFile::copy(from, unfinished) ||
         !QFile::setPermissions(unfinished, QFile::permissions(unfinished) | QFile::WriteOwner))

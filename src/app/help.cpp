@@ -6,19 +6,20 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString HelpFile() {
-    return ThePlatform().programFolder + QStringLiteral("/Lorvo.chm");
+    return ThePlatform().programFolder + u"/Lorvo.chm"_s;
 }
 
 QString HelpPage(const QString& name) {
-    return ThePlatform().programFolder + QStringLiteral("/Nápověda/") + name +
-           QStringLiteral(".html");
+    return ThePlatform().programFolder + u"/Nápověda/"_s + name + u".html"_s;
 }
 
 QString FirstPage() {
-    return HelpPage(QStringLiteral("index"));
+    return HelpPage(u"index"_s);
 }
 
 } // namespace

@@ -3,10 +3,12 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString FullKey(const QString& key) {
-    return u"Software\\Hollow Peak\\Lorvo\\"_qs + key;
+    return u"Software\\Hollow Peak\\Lorvo\\"_s + key;
 }
 
 } // namespace

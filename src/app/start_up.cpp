@@ -9,10 +9,12 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kSys = QStringLiteral("Sys");
-const QString kRememberTree = QStringLiteral("RememberTree");
+const QString kSys = u"Sys"_s;
+const QString kRememberTree = u"RememberTree"_s;
 
 /// Rows of a statement that may fail; a failed one counts as none.
 std::vector<Meny> RowsIfReadable(std::vector<Meny> (*read)()) {
@@ -41,27 +43,27 @@ void MarkSomeCurrency() {
 /// Puts the first main currency's name where amounts find it; returns all that are marked.
 std::vector<Meny> NameMainCurrency() {
     std::vector<Meny> marked = RowsIfReadable(MainCurrencies);
-    Module().MainCurrency = marked.empty() ? QStringLiteral("Kč") : marked.front().Zkratka;
+    Module().MainCurrency = marked.empty() ? u"Kč"_s : marked.front().Zkratka;
     return marked;
 }
 
 } // namespace
 
 void OpenDatabase() {
-    TheDataModule().Conn1.Open(ThePlatform().programFolder + QStringLiteral("/data.mdb"));
+    TheDataModule().Conn1.Open(ThePlatform().programFolder + u"/data.mdb"_s);
 }
 
 void ReadShowClasses() {
-    Module().ShowClassesOn = ReadRegValue(kSys, QStringLiteral("ShowClasses")) == u"1";
+    Module().ShowClassesOn = ReadRegValue(kSys, u"ShowClasses"_s) == u"1";
 }
 
 bool ShowGridPreferred() {
-    return ReadRegValue(kSys, QStringLiteral("ShowGrid")) == u"1";
+    return ReadRegValue(kSys, u"ShowGrid"_s) == u"1";
 }
 
 void EnsureShow() {
     if (CountShows() == 0)
-        InsertShow(QStringLiteral("Hlavní výstava"));
+        InsertShow(u"Hlavní výstava"_s);
 }
 
 void ReadMainCurrency() {
@@ -90,7 +92,7 @@ void StoreTreeState(const QString& selected, const QStringList& expanded) {
     }
     if (!selected.isEmpty())
         WriteRegValue(kSys, kRememberTree, selected);
-    WriteRegValue(kSys, QStringLiteral("ExpandedItems"), expanded.join(u'|'));
+    WriteRegValue(kSys, u"ExpandedItems"_s, expanded.join(u'|'));
 }
 
 } // namespace lorvo

@@ -11,6 +11,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ButtonKind {
@@ -84,7 +86,7 @@ MessageAnswer DesktopMessageBoxes::Show(const QString& text, MessageIcon icon,
                                         MessageButtons buttons, const QString& title) {
     const QPointer<QWidget> below = WindowInFront();
     QMessageBox box(below);
-    box.setObjectName(QStringLiteral("messageBox"));
+    box.setObjectName(u"messageBox"_s);
     box.setTextFormat(Qt::PlainText);
     box.setIcon(IconOf(icon));
     box.setWindowTitle(title);

@@ -10,11 +10,13 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Menus take an ampersand as the mark of an access key.
 QString PlainText(QString text) {
-    return text.replace(u'&', QStringLiteral("&&"));
+    return text.replace(u'&', u"&&"_s);
 }
 
 void Fill(QMenu& menu, const std::vector<MenuEntry>& entries) {
@@ -42,7 +44,7 @@ void Fill(QMenu& menu, const std::vector<MenuEntry>& entries) {
 
 int DesktopPopupMenus::TrackPopup(const std::vector<MenuEntry>& entries) {
     QMenu menu(QApplication::activeWindow());
-    menu.setObjectName(QStringLiteral("popupMenu"));
+    menu.setObjectName(u"popupMenu"_s);
     Fill(menu, entries);
     const QAction* chosen = menu.exec(MenuPlace::Current().value_or(QCursor::pos()));
     RethrowFailure();

@@ -16,6 +16,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kColumns = 2;
@@ -37,11 +39,11 @@ DateValue ShowDate() {
 } // namespace
 
 DogClassBox::DogClassBox(QWidget* parent)
-    : QGroupBox(QStringLiteral("Třída"), parent),
-      Label8(Named(new QLabel(this), QStringLiteral("Label8"))), choice_(new QButtonGroup(this)) {
-    setObjectName(QStringLiteral("fraClasses"));
+    : QGroupBox(u"Třída"_s, parent), Label8(Named(new QLabel(this), u"Label8"_s)),
+      choice_(new QButtonGroup(this)) {
+    setObjectName(u"fraClasses"_s);
     Label8->setToolTip(
-        QStringLiteral("Vyberte jednu ze tříd. Třídy jsou dostupné podle věku psa v den výstavy"));
+        u"Vyberte jednu ze tříd. Třídy jsou dostupné podle věku psa v den výstavy"_s);
     Label8->setText(Label8->toolTip());
     Label8->setTextFormat(Qt::PlainText);
     Label8->setWordWrap(true);

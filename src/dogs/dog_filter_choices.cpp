@@ -9,6 +9,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void AddClasses(std::vector<ReportRow>& rows, const QString& letters, const TextTable& names) {
@@ -27,8 +29,8 @@ void AddRecords(std::vector<ReportRow>& rows, QChar letter, const Records& recor
 
 std::vector<ReportRow> ClassChoices() {
     std::vector<ReportRow> rows;
-    AddClasses(rows, QStringLiteral("CNO"), Tables().SpecialClassNames);
-    AddClasses(rows, QStringLiteral("C"), Module().ClassNames);
+    AddClasses(rows, u"CNO"_s, Tables().SpecialClassNames);
+    AddClasses(rows, u"C"_s, Module().ClassNames);
     return rows;
 }
 

@@ -50,13 +50,11 @@ void ShowText(QLineEdit& box, const QString& text) {
 } // namespace
 
 DogOwnerBox::DogOwnerBox(QWidget* parent)
-    : QGroupBox(QStringLiteral("Majitel"), parent), owners_(new OwnerListModel(this)),
-      cmbOwners(Named(new TypeSearchCombo(this), QStringLiteral("cmbOwners"))),
-      cmdAddName(Named(new QPushButton(QStringLiteral("Přidat &nového"), this),
-                       QStringLiteral("cmdAddName"))),
-      cmdAddNameCancel(Named(new QPushButton(QStringLiteral("Zpě&t"), this),
-                             QStringLiteral("cmdAddNameCancel"))) {
-    setObjectName(QStringLiteral("fraOwner"));
+    : QGroupBox(u"Majitel"_s, parent), owners_(new OwnerListModel(this)),
+      cmbOwners(Named(new TypeSearchCombo(this), u"cmbOwners"_s)),
+      cmdAddName(Named(new QPushButton(u"Přidat &nového"_s, this), u"cmdAddName"_s)),
+      cmdAddNameCancel(Named(new QPushButton(u"Zpě&t"_s, this), u"cmdAddNameCancel"_s)) {
+    setObjectName(u"fraOwner"_s);
     cmbOwners->setAccessibleName(title());
     cmbOwners->setModel(owners_);
     PrepareForLongList(*cmbOwners);

@@ -17,6 +17,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// ID of the dog whose node is selected in the tree; 0 when no node or none of a dog is.
@@ -34,7 +36,7 @@ void fm_Dog::Load() {
     SetStoredTexts(*icMatka, DistinctMothers());
     owner_->LoadMajitele();
     if (!Module().IsAddingDog) {
-        setWindowTitle(QStringLiteral("Upravit psa"));
+        setWindowTitle(u"Upravit psa"_s);
         Module().CurrentDogID = SelectedDog();
         if (Module().CurrentDogID == 0)
             return;
@@ -82,16 +84,16 @@ bool fm_Dog::Refuse(const QString& reason) const {
 bool fm_Dog::CheckPostCode() {
     const QString cleaned = CleanedPostCode(owner_->PostCodeBox().text());
     owner_->PostCodeBox().setText(cleaned);
-    return PostCodeFromText(cleaned).has_value() || Refuse(QStringLiteral("Chyba v zadání PSČ"));
+    return PostCodeFromText(cleaned).has_value() || Refuse(u"Chyba v zadání PSČ"_s);
 }
 
 bool fm_Dog::CheckOwner() {
     if (owner_->NameBox().text().isEmpty())
-        return Refuse(QStringLiteral("Jméno  majitele musí být vyplněno"));
+        return Refuse(u"Jméno  majitele musí být vyplněno"_s);
     // A name typed over the boxes of nobody would leave the dog without an owner.
     return owner_->HasOwner() ||
-           Refuse(QStringLiteral("Pes nemá majitele. Vyberte ho v seznamu, nebo ho zadejte po "
-                                 "stisku tlačítka „Přidat nového“."));
+           Refuse(u"Pes nemá majitele. Vyberte ho v seznamu, nebo ho zadejte po "
+                  "stisku tlačítka „Přidat nového“."_s);
 }
 
 Psi fm_Dog::DogFromBoxes() const {

@@ -15,6 +15,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kDesignedWidth = 760;
@@ -33,14 +35,13 @@ QLineEdit* TextBox(int index, QWidget* parent) {
 
 } // namespace
 
-fm_Dog::fm_Dog(QWidget* parent)
-    : Form("fm_Dog", QStringLiteral("Přidat psa"), Border::Sizable, parent) {
+fm_Dog::fm_Dog(QWidget* parent) : Form("fm_Dog", u"Přidat psa"_s, Border::Sizable, parent) {
     auto* sides = new QHBoxLayout;
     sides->setSpacing(kGapBetweenSides);
     sides->addWidget(MakeDogSide(), 1);
     sides->addWidget(MakeOwnerSide(), 1);
-    cmd_OK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmd_OK"));
-    cmdCancel = Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"));
+    cmd_OK = Named(new QPushButton(u"OK"_s, this), u"cmd_OK"_s);
+    cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     cmd_OK->setEnabled(false);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(sides);
@@ -68,22 +69,18 @@ QWidget* fm_Dog::MakeDogSide() {
     auto* side = new QWidget(this);
     auto* grid = new QGridLayout(side);
     grid->setContentsMargins({});
-    txtbox[0] = AddRow(*grid, QStringLiteral("&Jméno"), TextBox(0, side));
-    icStanice = AddRow(*grid, QStringLiteral("Chovatelská &stanice"),
-                       StoredTextsCombo(QStringLiteral("icStanice"), side));
-    grid->addWidget(new QLabel(QStringLiteral("Pohlaví"), side), grid->rowCount(), 0);
+    txtbox[0] = AddRow(*grid, u"&Jméno"_s, TextBox(0, side));
+    icStanice = AddRow(*grid, u"Chovatelská &stanice"_s, StoredTextsCombo(u"icStanice"_s, side));
+    grid->addWidget(new QLabel(u"Pohlaví"_s, side), grid->rowCount(), 0);
     grid->addWidget(MakeGenderRow(side), grid->rowCount() - 1, 1);
-    dtBorn = AddRow(*grid, QStringLiteral("&Datum narození"),
-                    DatePicker(QStringLiteral("dtBorn"), side, YearWindow::Past));
+    dtBorn = AddRow(*grid, u"&Datum narození"_s, DatePicker(u"dtBorn"_s, side, YearWindow::Past));
     SetPickedDate(*dtBorn, ThePlatform().clock->Now().DateOnly());
     classes_ = new DogClassBox(side);
     grid->addWidget(classes_, grid->rowCount(), 0, 1, 2);
-    icOtec =
-        AddRow(*grid, QStringLiteral("&Otec"), StoredTextsCombo(QStringLiteral("icOtec"), side));
-    icMatka =
-        AddRow(*grid, QStringLiteral("&Matka"), StoredTextsCombo(QStringLiteral("icMatka"), side));
-    txtbox[1] = AddRow(*grid, QStringLiteral("&Chovatel"), TextBox(1, side));
-    txtbox[2] = AddRow(*grid, QStringLiteral("Zkr. PK a č. &záp."), TextBox(2, side));
+    icOtec = AddRow(*grid, u"&Otec"_s, StoredTextsCombo(u"icOtec"_s, side));
+    icMatka = AddRow(*grid, u"&Matka"_s, StoredTextsCombo(u"icMatka"_s, side));
+    txtbox[1] = AddRow(*grid, u"&Chovatel"_s, TextBox(1, side));
+    txtbox[2] = AddRow(*grid, u"Zkr. PK a č. &záp."_s, TextBox(2, side));
     grid->setColumnStretch(1, 1);
     return side;
 }
@@ -92,9 +89,8 @@ QWidget* fm_Dog::MakeGenderRow(QWidget* parent) {
     auto* gender = new QWidget(parent);
     auto* row = new QHBoxLayout(gender);
     row->setContentsMargins({});
-    optGender = {
-        Named(new QRadioButton(QStringLiteral("&Pes"), gender), ElementName("optGender", 0)),
-        Named(new QRadioButton(QStringLiteral("&Fena"), gender), ElementName("optGender", 1))};
+    optGender = {Named(new QRadioButton(u"&Pes"_s, gender), ElementName("optGender", 0)),
+                 Named(new QRadioButton(u"&Fena"_s, gender), ElementName("optGender", 1))};
     for (QRadioButton* button : optGender)
         row->addWidget(button);
     row->addStretch();
@@ -109,7 +105,7 @@ QWidget* fm_Dog::MakeOwnerSide() {
     owner_ = new DogOwnerBox(side);
     column->addWidget(owner_);
     auto* grid = new QGridLayout;
-    txtbox[3] = AddRow(*grid, QStringLiteral("Poznám&ka"), TextBox(3, side));
+    txtbox[3] = AddRow(*grid, u"Poznám&ka"_s, TextBox(3, side));
     column->addLayout(grid);
     column->addStretch();
     return side;

@@ -4,6 +4,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 int OwnerListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(owners_.size());
 }
@@ -14,7 +16,7 @@ QVariant OwnerListModel::data(const QModelIndex& index, int role) const {
     const OwnerName& owner = owners_.at(static_cast<size_t>(index.row()));
     switch (role) {
     case Qt::DisplayRole:
-        return owner.ID == 0 ? QString() : owner.Jmeno + QStringLiteral("  ") + owner.Mesto;
+        return owner.ID == 0 ? QString() : owner.Jmeno + u"  "_s + owner.Mesto;
     case Qt::UserRole:
         return owner.ID;
     default:

@@ -4,9 +4,10 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 TotalsBar::TotalsBar(const char* name, QWidget* parent)
-    : QStatusBar(parent), panels_{ValueLabel(QStringLiteral("Počet"), this),
-                                  ValueLabel(QStringLiteral("Součty"), this)} {
+    : QStatusBar(parent), panels_{ValueLabel(u"Počet"_s, this), ValueLabel(u"Součty"_s, this)} {
     setObjectName(QString::fromLatin1(name));
     for (int index = 0; index < static_cast<int>(panels_.size()); ++index) {
         QLabel* panel = panels_.at(static_cast<size_t>(index));

@@ -11,6 +11,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString FailureText(const std::exception_ptr& failure) {
@@ -19,7 +21,7 @@ QString FailureText(const std::exception_ptr& failure) {
     } catch (const std::exception& error) {
         return QString::fromUtf8(error.what());
     } catch (...) {
-        return QStringLiteral("Neznámá chyba.");
+        return u"Neznámá chyba."_s;
     }
 }
 
@@ -36,9 +38,9 @@ bool IsDamage(const std::exception_ptr& failure) {
 /// What the clerk's work has come to: each edit is on the disk before the next can be made, but of
 /// a damaged file nothing can be promised.
 QString WhatBecameOfTheWork(const std::exception_ptr& failure) {
-    const QString kept = QStringLiteral("\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno "
-                                        "před ním, je uloženo.");
-    return (IsDamage(failure) ? QString() : kept) + QStringLiteral("\n\nProgram se ukončí.");
+    const QString kept = u"\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno "
+                         "před ním, je uloženo."_s;
+    return (IsDamage(failure) ? QString() : kept) + u"\n\nProgram se ukončí."_s;
 }
 
 } // namespace
@@ -46,9 +48,7 @@ QString WhatBecameOfTheWork(const std::exception_ptr& failure) {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setStyle(new AccessKeyStyle);
     // Machines without Tahoma show its nearest relatives, which have all Czech letters.
-    QFont::insertSubstitutions(QStringLiteral("Tahoma"),
-                               {QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans"),
-                                QStringLiteral("Liberation Sans")});
+    QFont::insertSubstitutions(u"Tahoma"_s, {u"Verdana"_s, u"DejaVu Sans"_s, u"Liberation Sans"_s});
     installEventFilter(new WheelGuard(this));
 }
 
@@ -74,7 +74,7 @@ int Application::Run(const std::function<void()>& start) {
         return code;
     ThePlatform().messages->Show(started ? FailureText(failure) + WhatBecameOfTheWork(failure)
                                          : FailureText(failure),
-                                 MessageIcon::Stop, MessageButtons::Ok, QStringLiteral("Lorvo"));
+                                 MessageIcon::Stop, MessageButtons::Ok, u"Lorvo"_s);
     return 1;
 }
 

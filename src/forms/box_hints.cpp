@@ -7,14 +7,15 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 void HintAt(QLineEdit& box, const QString& hint) {
     QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())), hint, &box);
 }
 
 void TellItsLimit(QLineEdit& box) {
-    Connect(&box, &QLineEdit::inputRejected, &box, [&box] {
-        HintAt(box, QStringLiteral("Do pole se vejde nejvýš %1 znaků.").arg(box.maxLength()));
-    });
+    Connect(&box, &QLineEdit::inputRejected, &box,
+            [&box] { HintAt(box, u"Do pole se vejde nejvýš %1 znaků."_s.arg(box.maxLength())); });
 }
 
 void TellWhatFits(QLineEdit& box, const std::function<bool(const QString&)>& fits,

@@ -11,8 +11,10 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 QString ElementName(const char* array, int index) {
-    return QStringLiteral("%1(%2)").arg(QString::fromLatin1(array)).arg(index);
+    return u"%1(%2)"_s.arg(QString::fromLatin1(array)).arg(index);
 }
 
 QLabel* CaptionFor(QWidget* field, const QString& caption, QWidget* parent) {

@@ -19,6 +19,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a desktop draws around a window: edges, and the title with the upper edge.
@@ -31,7 +33,7 @@ constexpr int kWidestColumn = 10'000;
 enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
 QString PositionKey(const QWidget& window) {
-    return QStringLiteral("Form Positions\\") + window.objectName();
+    return u"Form Positions\\"_s + window.objectName();
 }
 
 QString ListKey(const char* root, const QWidget& window, const ReportList& list) {
@@ -45,7 +47,7 @@ std::optional<int> StoredSize(const QString& key, const char* name) {
 
 void RestoreColumnWidths(const QString& key, ReportList& list) {
     for (int column = 0; column < list.ColumnCount(); ++column) {
-        const auto width = StoredNumber(key, QStringLiteral("ColWidth %1").arg(column + 1));
+        const auto width = StoredNumber(key, u"ColWidth %1"_s.arg(column + 1));
         if (width && *width >= 0)
             list.DrawColumn(column,
                             qBound(list.header()->minimumSectionSize(), *width, kWidestColumn));
@@ -56,7 +58,7 @@ void RestoreColumnPositions(const QString& key, QHeaderView& header) {
     std::vector<std::pair<int, int>> places; // position and column, in the order of columns
     std::set<int> positions;
     for (int column = 0; column < header.count(); ++column) {
-        const auto position = StoredNumber(key, QStringLiteral("ColPosition %1").arg(column + 1));
+        const auto position = StoredNumber(key, u"ColPosition %1"_s.arg(column + 1));
         if (!position || *position < 1 || *position > header.count())
             continue;
         places.emplace_back(*position, column);
@@ -73,7 +75,7 @@ void RestoreList(const QWidget& window, ReportList& list) {
     QHeaderView& header = *list.header();
     RestoreColumnWidths(ListKey("ColWidths\\", window, list), list);
     RestoreColumnPositions(ListKey("ColPos\\", window, list), header);
-    if (ReadRegValue(QStringLiteral("Sys"), QStringLiteral("ShowGrid")) == u"1")
+    if (ReadRegValue(u"Sys"_s, u"ShowGrid"_s) == u"1")
         list.SetGridLines(true);
 }
 
@@ -82,9 +84,9 @@ void SaveColumns(const QWidget& window, const ReportList& list) {
     const QString widths = ListKey("ColWidths\\", window, list);
     const QString positions = ListKey("ColPos\\", window, list);
     for (int column = 0; column < header.count(); ++column) {
-        WriteRegValue(widths, QStringLiteral("ColWidth %1").arg(column + 1),
+        WriteRegValue(widths, u"ColWidth %1"_s.arg(column + 1),
                       QString::number(list.ColumnWidth(column)));
-        WriteRegValue(positions, QStringLiteral("ColPosition %1").arg(column + 1),
+        WriteRegValue(positions, u"ColPosition %1"_s.arg(column + 1),
                       QString::number(header.visualIndex(column) + 1));
     }
 }
@@ -157,7 +159,7 @@ void LoadFormSettings(QWidget& window, bool fixedBorder) {
     for (ReportList* list : window.findChildren<ReportList*>())
         RestoreList(window, *list);
     QFont font = window.font();
-    font.setFamily(QStringLiteral("Tahoma"));
+    font.setFamily(u"Tahoma"_s);
     window.setFont(font);
     if (!fixedBorder)
         RestoreSize(window);

@@ -13,6 +13,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kRowAir = 5; ///< pixels that a row is higher than its text
 /// Lives as long as the editor.
@@ -75,7 +77,7 @@ QWidget* LabelEditDelegate::createEditor(QWidget* parent, const QStyleOptionView
         if (mayEdit && !mayEdit(index))
             return nullptr;
         editor_ = new QLineEdit(parent);
-        editor_->setObjectName(view_.objectName() + QStringLiteral(".editor"));
+        editor_->setObjectName(view_.objectName() + u".editor"_s);
         editor_->setFrame(false);
         editor_->setMaxLength(kLongestText);
         editor_->setAutoFillBackground(true);

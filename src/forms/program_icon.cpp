@@ -13,6 +13,8 @@ static void LoadIconResources() {
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QHash<QString, QIcon>& LoadedIcons() {
@@ -25,14 +27,14 @@ QStringList LoadSides() {
     LoadIconResources();
     // Pictures must not outlive the application.
     qAddPostRoutine([] { LoadedIcons().clear(); });
-    return QDir(QStringLiteral(":/lorvo/icons")).entryList(QDir::Dirs);
+    return QDir(u":/lorvo/icons"_s).entryList(QDir::Dirs);
 }
 
 QIcon LoadIcon(const QString& name) {
     static const QStringList sides = LoadSides();
     QIcon icon;
     for (const QString& side : sides) {
-        const QString file = QStringLiteral(":/lorvo/icons/%1/%2.png").arg(side, name);
+        const QString file = u":/lorvo/icons/%1/%2.png"_s.arg(side, name);
         if (QFile::exists(file)) // the icon would take a missing file for a blank picture
             icon.addFile(file, QSize(side.toInt(), side.toInt()));
     }

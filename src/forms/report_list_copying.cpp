@@ -9,21 +9,23 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// An amount without grouping and currency, which a sheet reckons with; any other text as it is.
 QString SheetNumber(const QString& shown) {
     static const QRegularExpression amount(
-        QStringLiteral("^\\s*([-+]?\\d[\\d\\s]*(?:[.,]\\d+)?)(?:\\s+[^\\d\\s]+)?\\s*$"));
+        u"^\\s*([-+]?\\d[\\d\\s]*(?:[.,]\\d+)?)(?:\\s+[^\\d\\s]+)?\\s*$"_s);
     const QRegularExpressionMatch match = amount.match(shown);
-    static const QRegularExpression blanks(QStringLiteral("\\s"));
+    static const QRegularExpression blanks(u"\\s"_s);
     return match.hasMatch() ? match.captured(1).remove(blanks) : shown;
 }
 
 /// A sign that parts cells and rows in a sheet must not stand within one.
 QString OneCell(QString text) {
-    static const QRegularExpression parting(QStringLiteral("[\\t\\r\\n]+"));
-    return text.replace(parting, QStringLiteral(" "));
+    static const QRegularExpression parting(u"[\\t\\r\\n]+"_s);
+    return text.replace(parting, u" "_s);
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 ReportListModel::ReportListModel(const QStringList& headings, QObject* parent)
     : QAbstractTableModel(parent), headings_(headings),
       rightAligned_(static_cast<size_t>(headings.size())) {}
@@ -53,9 +55,8 @@ QVariant ReportListModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
         return AlignmentOf(index.column());
     case Qt::AccessibleTextRole:
-        return cell.text.isEmpty() || cell.spoken.isEmpty()
-                   ? cell.text + cell.spoken
-                   : cell.text + QStringLiteral(", ") + cell.spoken;
+        return cell.text.isEmpty() || cell.spoken.isEmpty() ? cell.text + cell.spoken
+                                                            : cell.text + u", "_s + cell.spoken;
     case Qt::CheckStateRole:
         return first && checkBoxes ? QVariant(row.checked ? Qt::Checked : Qt::Unchecked)
                                    : QVariant();
@@ -89,11 +90,11 @@ QVariant ReportListModel::headerData(int section, Qt::Orientation orientation, i
     case Qt::DecorationRole:
         switch (PictureOf(section)) {
         case HeaderPicture::Descending:
-            return ProgramIcon(QStringLiteral("sort-down"));
+            return ProgramIcon(u"sort-down"_s);
         case HeaderPicture::Ascending:
-            return ProgramIcon(QStringLiteral("sort-up"));
+            return ProgramIcon(u"sort-up"_s);
         case HeaderPicture::Neutral:
-            return ProgramIcon(QStringLiteral("sort-neutral"));
+            return ProgramIcon(u"sort-neutral"_s);
         case HeaderPicture::None:
             break;
         }

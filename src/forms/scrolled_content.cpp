@@ -8,6 +8,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Asks for as much as its content does, where the toolkit's own asks for a part of a screen.
@@ -40,7 +42,7 @@ void ScrollContent(QWidget& window) {
     auto* column = qobject_cast<QVBoxLayout*>(window.layout());
     if (!column || column->count() < 2)
         return;
-    auto* area = Named(new ContentArea(&window), QStringLiteral("scrContent"));
+    auto* area = Named(new ContentArea(&window), u"scrContent"_s);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);

@@ -10,12 +10,14 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kPictureSize = 256;
 
 QString MailAddress() {
-    return QStringLiteral("lorvo@hollowpeak.example");
+    return u"lorvo@hollowpeak.example"_s;
 }
 
 QString VersionText(const QString& pattern) {
@@ -25,19 +27,16 @@ QString VersionText(const QString& pattern) {
 } // namespace
 
 AboutPanel::AboutPanel(QWidget* parent)
-    : QWidget(parent), imgBkg(Named(new QLabel(this), QStringLiteral("imgBkg"))),
-      lbl_About(Named(new QLabel(this), QStringLiteral("lbl_About"))),
-      lbl_Ver(Named(new QLabel(this), QStringLiteral("lbl_Ver"))),
-      lbl_copyright(
-          Named(new QLabel(QString::fromUtf8(kCopyright), this), QStringLiteral("lbl_copyright"))),
-      lbl_Mailto(Named(new LinkLabel(QStringLiteral("Tým Lorvo, Hollow Peak"), this),
-                       QStringLiteral("lbl_Mailto"))),
-      Label9(Named(
-          new QLabel(QStringLiteral("Věnováno všem, kdo v kanceláři výstavy drží pořádek."), this),
-          QStringLiteral("Label9"))) {
-    setObjectName(QStringLiteral("picAbout"));
-    imgBkg->setPixmap(ProgramIcon(QStringLiteral("lorvo"))
-                          .pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+    : QWidget(parent), imgBkg(Named(new QLabel(this), u"imgBkg"_s)),
+      lbl_About(Named(new QLabel(this), u"lbl_About"_s)),
+      lbl_Ver(Named(new QLabel(this), u"lbl_Ver"_s)),
+      lbl_copyright(Named(new QLabel(QString::fromUtf8(kCopyright), this), u"lbl_copyright"_s)),
+      lbl_Mailto(Named(new LinkLabel(u"Tým Lorvo, Hollow Peak"_s, this), u"lbl_Mailto"_s)),
+      Label9(Named(new QLabel(u"Věnováno všem, kdo v kanceláři výstavy drží pořádek."_s, this),
+                   u"Label9"_s)) {
+    setObjectName(u"picAbout"_s);
+    imgBkg->setPixmap(
+        ProgramIcon(u"lorvo"_s).pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
     imgBkg->resize(kPictureSize, kPictureSize);
     LayOut();
     lbl_Mailto->installEventFilter(this);
@@ -60,14 +59,13 @@ void AboutPanel::LayOut() {
 }
 
 void AboutPanel::ShowVersion() {
-    lbl_About->setText(QStringLiteral("Lorvo"));
-    lbl_Ver->setText(VersionText(QStringLiteral("Verze %1.%2 build %3")));
+    lbl_About->setText(u"Lorvo"_s);
+    lbl_Ver->setText(VersionText(u"Verze %1.%2 build %3"_s));
 }
 
 void AboutPanel::WriteToAuthor() {
-    const QString subject = VersionText(QStringLiteral("Lorvo_%1.%2.%3"));
-    ThePlatform().opener->OpenAddress(
-        QStringLiteral("mailto:%1?subject=%2").arg(MailAddress(), subject));
+    const QString subject = VersionText(u"Lorvo_%1.%2.%3"_s);
+    ThePlatform().opener->OpenAddress(u"mailto:%1?subject=%2"_s.arg(MailAddress(), subject));
 }
 
 bool AboutPanel::eventFilter(QObject* watched, QEvent* event) {

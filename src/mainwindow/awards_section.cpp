@@ -8,15 +8,16 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kOpenUnits = 1400;
 }
 
 AwardsSection::AwardsSection(QWidget* parent)
-    : CollapsibleFrame("fraOceneni", QStringLiteral("Ocenění"), kOpenUnits, Growth::TakesRest,
-                       parent),
-      lvwOceneni(new ReportList("lvwOceneni", {QStringLiteral("Název")}, Content())) {
-    lvwOceneni->setAccessibleName(QStringLiteral("Ocenění psa"));
+    : CollapsibleFrame("fraOceneni", u"Ocenění"_s, kOpenUnits, Growth::TakesRest, parent),
+      lvwOceneni(new ReportList("lvwOceneni", {u"Název"_s}, Content())) {
+    lvwOceneni->setAccessibleName(u"Ocenění psa"_s);
     lvwOceneni->SetCheckBoxes(true);
     lvwOceneni->SetLabelEdit(false);
     lvwOceneni->SetColumnWidths({360});

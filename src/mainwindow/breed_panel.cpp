@@ -6,17 +6,17 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 BreedPanel::BreedPanel(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("picPlemenoInfo"));
+    setObjectName(u"picPlemenoInfo"_s);
     ValueGrid grid(1);
-    lblDogsCount = grid.AddText(0, QStringLiteral("Počet psů:"), QStringLiteral("lblDogsCount"));
-    lblDogsCountPrc =
-        grid.AddText(0, QStringLiteral("Podíl všech psů:"), QStringLiteral("lblDogsCountPrc"));
-    lblFCIplemene =
-        grid.AddText(0, QStringLiteral("Skupina FCI:"), QStringLiteral("lblFCIplemene"));
+    lblDogsCount = grid.AddText(0, u"Počet psů:"_s, u"lblDogsCount"_s);
+    lblDogsCountPrc = grid.AddText(0, u"Podíl všech psů:"_s, u"lblDogsCountPrc"_s);
+    lblFCIplemene = grid.AddText(0, u"Skupina FCI:"_s, u"lblFCIplemene"_s);
 
     auto* column = new QVBoxLayout(this);
-    column->addWidget(PanelHeading(QStringLiteral("Detailní informace o plemeni"), this));
+    column->addWidget(PanelHeading(u"Detailní informace o plemeni"_s, this));
     column->addLayout(grid.Layout());
     column->addStretch();
 }

@@ -18,6 +18,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 CardActions::CardActions(MainTree& tree, NodePanels& panels, DogPanel& dogPanel,
                          OwnerPanel& ownerPanel, OwnerNavigation& navigation)
     : tree_(tree), panels_(panels), navigation_(navigation) {
@@ -76,12 +78,12 @@ void CardActions::EditDog() {
     tree_.SelectNode(dog);
     Module().IsAddingDog = false;
     Module().CurrentBreedID = panels_.Dog().PlemenoID;
-    Open(QStringLiteral("fm_Dog"));
+    Open(u"fm_Dog"_s);
 }
 
 void CardActions::EditOwner() {
     if (TakeDogOnShow())
-        Open(QStringLiteral("frmEditMan"));
+        Open(u"frmEditMan"_s);
 }
 
 void CardActions::ShowOwnersDogs() {
@@ -100,33 +102,33 @@ void CardActions::WriteEmail(const QString& address) {
     if (address.isEmpty())
         return;
     if (IsEmailValid(address))
-        ThePlatform().opener->OpenAddress(QStringLiteral("mailto:") + address);
+        ThePlatform().opener->OpenAddress(u"mailto:"_s + address);
     else
-        ShowMessage(QStringLiteral("Neplatný tvar e-mailové adresy"), MessageIcon::Information);
+        ShowMessage(u"Neplatný tvar e-mailové adresy"_s, MessageIcon::Information);
 }
 
 void CardActions::TakePayment() {
     if (CountCurrencies() == 0) {
-        ShowMessage(QStringLiteral("Platbu nelze přijmout, v seznamu měn není vytvořena žádná "
-                                   "měna. Můžete ji přidat v okně Nastavení/Měny"),
+        ShowMessage(u"Platbu nelze přijmout, v seznamu měn není vytvořena žádná "
+                    "měna. Můžete ji přidat v okně Nastavení/Měny"_s,
                     MessageIcon::Exclamation);
         return;
     }
     if (TakeDogOnShow())
-        Open(QStringLiteral("frmPlatba"));
+        Open(u"frmPlatba"_s);
 }
 
 void CardActions::ShowPaymentsOfDog() {
     if (!TakeDogOnShow())
         return;
     Module().PaymentsOwner = 0;
-    Open(QStringLiteral("frmUhrady"));
+    Open(u"frmUhrady"_s);
 }
 
 void CardActions::ShowPaymentsOfOwner() {
     Module().CurrentOwner = panels_.Owner().ID;
     Module().PaymentsOwner = panels_.Owner().ID;
-    Open(QStringLiteral("frmUhrady"));
+    Open(u"frmUhrady"_s);
 }
 
 // The events run after the writes and not among them, so that another tick finds all rows written.

@@ -6,14 +6,15 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 ClassPanel::ClassPanel(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("picTridaInfo"));
+    setObjectName(u"picTridaInfo"_s);
     ValueGrid grid(1);
-    lblClassDogCount =
-        grid.AddText(0, QStringLiteral("Počet psů:"), QStringLiteral("lblClassDogCount"));
+    lblClassDogCount = grid.AddText(0, u"Počet psů:"_s, u"lblClassDogCount"_s);
 
     auto* column = new QVBoxLayout(this);
-    column->addWidget(PanelHeading(QStringLiteral("Detailní informace o třídě"), this));
+    column->addWidget(PanelHeading(u"Detailní informace o třídě"_s, this));
     column->addLayout(grid.Layout());
     column->addStretch();
 }

@@ -9,6 +9,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kCollapsedUnits = 260;
 constexpr int kStepUnits = 50;
@@ -29,7 +31,7 @@ CollapsibleFrame::CollapsibleFrame(const char* name, const QString& title, int o
     policy.setHeightForWidth(fixed);
     setSizePolicy(policy);
 
-    header_->setObjectName(objectName() + QStringLiteral(".header"));
+    header_->setObjectName(objectName() + u".header"_s);
     header_->setText(title);
     header_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     header_->setArrowType(Qt::DownArrow);

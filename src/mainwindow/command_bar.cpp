@@ -14,32 +14,33 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kContextHelp = QStringLiteral("HELP:CONTEXT");
+const QString kContextHelp = u"HELP:CONTEXT"_s;
 
 /// The window that a command opens.
 const QMap<QString, QString>& WindowsOfCommands() {
     static const QMap<QString, QString> windows = {
-        {QStringLiteral("SETTINGS"), QStringLiteral("fm_Settings")},
-        {QStringLiteral("TABLES:PLEMENA"), QStringLiteral("fm_Plemena")},
-        {QStringLiteral("TABLES:PSI"), QStringLiteral("fm_DogsList")},
-        {QStringLiteral("TABLES:BARVY"), QStringLiteral("fm_Colors")},
-        {QStringLiteral("TABLES:SOUTEZE"), QStringLiteral("fm_Souteze")},
-        {QStringLiteral("TABLES:VYSTAVY"), QStringLiteral("frmVystavy")},
-        {QStringLiteral("TABLES:VYSTAVOVATELE"), QStringLiteral("frmVystavovatele")},
-        {QStringLiteral("TABLES:OCENENI"), QStringLiteral("frmOceneni")},
-        {QStringLiteral("TABLES:PLATBY"), QStringLiteral("frmPrehledPlateb")},
-        {QStringLiteral("TABLES:RODICE"), QStringLiteral("frmParents")},
-        {QStringLiteral("EXPORT:SEZNAMPSU"), QStringLiteral("frmTiskSeznamuPsu")},
-        {QStringLiteral("EXPORT:DIPLOMY"), QStringLiteral("fmDiplom")},
-        {QStringLiteral("EXPORT:PREHLEDPLEMEN"), QStringLiteral("frmPrehledPlemen")},
-        {QStringLiteral("EXPORT:SEZNAMVYSTAVOVATELU"),
-         QStringLiteral("frmTiskSeznamVystavovatelu")},
-        {QStringLiteral("EXPORT:POSUDKOVELISTY"), QStringLiteral("frmTiskPosudku")},
-        {QStringLiteral("EXPORT:KATALOG"), QStringLiteral("frmTiskKatalog")},
-        {QStringLiteral("EXPORT:POZVANKY"), QStringLiteral("frmTiskPozvanek")},
-        {QStringLiteral("EXPORT:PLATBY"), QStringLiteral("frmTiskPlateb")},
+        {u"SETTINGS"_s, u"fm_Settings"_s},
+        {u"TABLES:PLEMENA"_s, u"fm_Plemena"_s},
+        {u"TABLES:PSI"_s, u"fm_DogsList"_s},
+        {u"TABLES:BARVY"_s, u"fm_Colors"_s},
+        {u"TABLES:SOUTEZE"_s, u"fm_Souteze"_s},
+        {u"TABLES:VYSTAVY"_s, u"frmVystavy"_s},
+        {u"TABLES:VYSTAVOVATELE"_s, u"frmVystavovatele"_s},
+        {u"TABLES:OCENENI"_s, u"frmOceneni"_s},
+        {u"TABLES:PLATBY"_s, u"frmPrehledPlateb"_s},
+        {u"TABLES:RODICE"_s, u"frmParents"_s},
+        {u"EXPORT:SEZNAMPSU"_s, u"frmTiskSeznamuPsu"_s},
+        {u"EXPORT:DIPLOMY"_s, u"fmDiplom"_s},
+        {u"EXPORT:PREHLEDPLEMEN"_s, u"frmPrehledPlemen"_s},
+        {u"EXPORT:SEZNAMVYSTAVOVATELU"_s, u"frmTiskSeznamVystavovatelu"_s},
+        {u"EXPORT:POSUDKOVELISTY"_s, u"frmTiskPosudku"_s},
+        {u"EXPORT:KATALOG"_s, u"frmTiskKatalog"_s},
+        {u"EXPORT:POZVANKY"_s, u"frmTiskPozvanek"_s},
+        {u"EXPORT:PLATBY"_s, u"frmTiskPlateb"_s},
     };
     return windows;
 }
@@ -47,10 +48,8 @@ const QMap<QString, QString>& WindowsOfCommands() {
 } // namespace
 
 MainCommandBar::MainCommandBar(CommandTarget& target, QObject* parent)
-    : CommandCollection(QStringLiteral("cmdBar"),
-                        {QStringLiteral("ADD"), QStringLiteral("TABLES"), QStringLiteral("EXPORT"),
-                         QStringLiteral("SETTINGS"), QStringLiteral("HELP"),
-                         QStringLiteral("COLORS")},
+    : CommandCollection(u"cmdBar"_s,
+                        {u"ADD"_s, u"TABLES"_s, u"EXPORT"_s, u"SETTINGS"_s, u"HELP"_s, u"COLORS"_s},
                         parent),
       target_(target) {
     const auto& windows = WindowsOfCommands();

@@ -16,6 +16,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Between two sections.
@@ -26,7 +28,7 @@ constexpr int kGapUnits = 105;
 class SectionsArea : public QScrollArea {
   public:
     explicit SectionsArea(QWidget* parent) : QScrollArea(parent) {
-        setObjectName(QStringLiteral("areaSections"));
+        setObjectName(u"areaSections"_s);
         setFrameShape(QFrame::NoFrame);
         setWidgetResizable(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -45,11 +47,10 @@ class SectionsArea : public QScrollArea {
 } // namespace
 
 DogPanel::DogPanel(QWidget* parent)
-    : QWidget(parent),
-      lblEdit(Named(new LinkLabel(QStringLiteral("Editovat"), this), QStringLiteral("lblEdit"))) {
-    setObjectName(QStringLiteral("picPesInfo"));
+    : QWidget(parent), lblEdit(Named(new LinkLabel(u"Editovat"_s, this), u"lblEdit"_s)) {
+    setObjectName(u"picPesInfo"_s);
     auto* top = new QHBoxLayout;
-    top->addWidget(PanelHeading(QStringLiteral("Detailní informace o psovi"), this));
+    top->addWidget(PanelHeading(u"Detailní informace o psovi"_s, this));
     top->addStretch();
     top->addWidget(lblEdit);
 
@@ -80,7 +81,7 @@ QScrollArea* DogPanel::Sections() {
 }
 
 void DogPanel::ShowCard(const DogCard& card) {
-    lblEdit->setEnabled(CanOpen(QStringLiteral("fm_Dog")));
+    lblEdit->setEnabled(CanOpen(u"fm_Dog"_s));
     fraPuvod->ShowCard(card);
     fraMajitel->ShowCard(card);
     fraVystavy->ShowCard(card);

@@ -11,6 +11,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kOpenUnits = 3000;
@@ -25,18 +27,16 @@ LinkLabel* PaymentLink(const char* name, const QString& text, const QString& too
 } // namespace
 
 EntriesSection::EntriesSection(QWidget* parent)
-    : CollapsibleFrame("fraVystavy", QStringLiteral("Výstavy a soutěže"), kOpenUnits,
-                       Growth::TakesRest, parent) {
+    : CollapsibleFrame("fraVystavy", u"Výstavy a soutěže"_s, kOpenUnits, Growth::TakesRest,
+                       parent) {
     // Closing and first-dog mark of an entered show stand beside its price, without a heading.
-    lvwSouteze = new ReportList(
-        "lvwSouteze", {QStringLiteral("Název"), QStringLiteral("Cena"), QString(), QString()},
-        Content());
-    lvwSouteze->setAccessibleName(QStringLiteral("Výstavy a soutěže psa"));
+    lvwSouteze =
+        new ReportList("lvwSouteze", {u"Název"_s, u"Cena"_s, QString(), QString()}, Content());
+    lvwSouteze->setAccessibleName(u"Výstavy a soutěže psa"_s);
     lvwSouteze->SetCheckBoxes(true);
     lvwSouteze->SetLabelEdit(false);
     lvwSouteze->SetColumnWidths({260, 90, 100, 60});
-    lvwSouteze->SetIcons(
-        {ProgramIcon(QStringLiteral("show")), ProgramIcon(QStringLiteral("competition"))});
+    lvwSouteze->SetIcons({ProgramIcon(u"show"_s), ProgramIcon(u"competition"_s)});
     auto* column = new QVBoxLayout(Content());
     column->addLayout(Values());
     column->addWidget(lvwSouteze, 1);
@@ -49,13 +49,13 @@ EntriesSection::EntriesSection(QWidget* parent)
 
 QLayout* EntriesSection::Values() {
     ValueGrid grid(2, SectionCaptions());
-    closing_ = grid.AddText(0, QStringLiteral("Uzávěrka:"));
-    firstDog_ = grid.AddText(0, QStringLiteral("První pes:"));
-    price_ = grid.AddAmount(1, QStringLiteral("Cena celkem:"));
-    paid_ = grid.AddAmount(1, QStringLiteral("Uhrazeno:"));
-    balance_ = ValueLabel(QStringLiteral("Rozdíl:"), nullptr);
+    closing_ = grid.AddText(0, u"Uzávěrka:"_s);
+    firstDog_ = grid.AddText(0, u"První pes:"_s);
+    price_ = grid.AddAmount(1, u"Cena celkem:"_s);
+    paid_ = grid.AddAmount(1, u"Uhrazeno:"_s);
+    balance_ = ValueLabel(u"Rozdíl:"_s, nullptr);
     balanceWord_ = new QLabel;
-    balanceWord_->setObjectName(QStringLiteral("lblBalanceWord"));
+    balanceWord_->setObjectName(u"lblBalanceWord"_s);
     balance_->setFont(paid_->font());
     balanceWord_->setFont(paid_->font());
     auto* both = new QWidget;
@@ -63,16 +63,15 @@ QLayout* EntriesSection::Values() {
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(balance_);
     row->addWidget(balanceWord_, 1);
-    grid.Add(1, QStringLiteral("Rozdíl:"), both);
+    grid.Add(1, u"Rozdíl:"_s, both);
     return grid.Layout();
 }
 
 QLayout* EntriesSection::Links() {
-    lblNovaPlatba = PaymentLink("lblNovaPlatba", QStringLiteral("Příjem platby"),
-                                QStringLiteral("Přidat novou platbu"), Content());
-    lblSeznamPlateb =
-        PaymentLink("lblSeznamPlateb", QStringLiteral("Seznam přijatých plateb"),
-                    QStringLiteral("Zobrazit seznam všech přijatých plateb za psa"), Content());
+    lblNovaPlatba =
+        PaymentLink("lblNovaPlatba", u"Příjem platby"_s, u"Přidat novou platbu"_s, Content());
+    lblSeznamPlateb = PaymentLink("lblSeznamPlateb", u"Seznam přijatých plateb"_s,
+                                  u"Zobrazit seznam všech přijatých plateb za psa"_s, Content());
     auto* row = new QHBoxLayout;
     row->addWidget(lblNovaPlatba);
     row->addSpacing(fontMetrics().height());
@@ -90,8 +89,8 @@ void EntriesSection::ShowCard(const DogCard& card) {
     paid_->setText(card.Uhrazeno);
     ShowText(*balance_, card.Rozdil);
     ShowText(*balanceWord_, card.balanceWord);
-    lblNovaPlatba->setEnabled(CanOpen(QStringLiteral("frmPlatba")));
-    lblSeznamPlateb->setEnabled(CanOpen(QStringLiteral("frmUhrady")));
+    lblNovaPlatba->setEnabled(CanOpen(u"frmPlatba"_s));
+    lblSeznamPlateb->setEnabled(CanOpen(u"frmUhrady"_s));
 }
 
 void EntriesSection::Tick(int position) {

@@ -6,16 +6,16 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 FciPanel::FciPanel(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("picFCIInfo"));
+    setObjectName(u"picFCIInfo"_s);
     ValueGrid grid(1);
-    lblPlemenaInFCICount =
-        grid.AddText(0, QStringLiteral("Počet plemen:"), QStringLiteral("lblPlemenaInFCICount"));
-    lblDogsInFCICount =
-        grid.AddText(0, QStringLiteral("Počet psů:"), QStringLiteral("lblDogsInFCICount"));
+    lblPlemenaInFCICount = grid.AddText(0, u"Počet plemen:"_s, u"lblPlemenaInFCICount"_s);
+    lblDogsInFCICount = grid.AddText(0, u"Počet psů:"_s, u"lblDogsInFCICount"_s);
 
     auto* column = new QVBoxLayout(this);
-    column->addWidget(PanelHeading(QStringLiteral("Detailní informace o FCI"), this));
+    column->addWidget(PanelHeading(u"Detailní informace o FCI"_s, this));
     column->addLayout(grid.Layout());
     column->addStretch();
 }

@@ -30,6 +30,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Shows a dog's panel whole where the screen is high enough.
@@ -38,8 +40,8 @@ constexpr QSize kDesignedSize(1180, 830);
 constexpr QSize kFrame(16, 40);
 constexpr int kDesignedTreeWidth = 340;
 
-const QString kSplitterKey = QStringLiteral("Splitters\\fm_main");
-const QString kLeft = QStringLiteral("Left");
+const QString kSplitterKey = u"Splitters\\fm_main"_s;
+const QString kLeft = u"Left"_s;
 
 /// Puts the divider at `left`; what is right of it follows the window's width.
 void PlaceSplitter(QSplitter& splitter, int left) {
@@ -49,18 +51,17 @@ void PlaceSplitter(QSplitter& splitter, int left) {
 } // namespace
 
 fm_main::fm_main()
-    : cmdBar(new MainCommandBar(*this, this)),
-      sbMain(new StatusPanels(QStringLiteral("sbMain"), this)) {
-    setObjectName(QStringLiteral("fm_main"));
-    setWindowTitle(QStringLiteral("Lorvo"));
+    : cmdBar(new MainCommandBar(*this, this)), sbMain(new StatusPanels(u"sbMain"_s, this)) {
+    setObjectName(u"fm_main"_s);
+    setWindowTitle(u"Lorvo"_s);
     resize(kDesignedSize.boundedTo(screen()->availableSize() - kFrame));
-    addToolBar(cmdBar->MakeBar(QStringLiteral("STANDARD"), this));
+    addToolBar(cmdBar->MakeBar(u"STANDARD"_s, this));
     setStatusBar(sbMain);
     MakeSplitter();
     MakeAboutPanel();
     treeCommands_ = new TreeCommands(*tvwMain, *this, this);
     Connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [] { OpenHelpOn(QStringLiteral("okno")); });
+            [] { OpenHelpOn(u"okno"_s); });
     new AccessKeys(*this);
     SetTheMainWindow(this);
     SetActivatedBelow(this);
@@ -75,7 +76,7 @@ fm_main::~fm_main() {
 }
 
 void fm_main::MakeSplitter() {
-    vbuSplit = Named(new QSplitter(this), QStringLiteral("vbuSplit"));
+    vbuSplit = Named(new QSplitter(this), u"vbuSplit"_s);
     tvwMain = new MainTree(nodes_, vbuSplit);
     picDetails = new NodePanels(*tvwMain, *sbMain, history_, vbuSplit);
     vbuSplit->addWidget(tvwMain);
@@ -136,7 +137,7 @@ void fm_main::Load() {
 void fm_main::SayDiskFailure() {
     const QString failure = TakeSkippedDiskFailure();
     if (!failure.isEmpty())
-        ThePlatform().messages->Show(QStringLiteral("Data nelze načíst celá.\n\n") + failure,
+        ThePlatform().messages->Show(u"Data nelze načíst celá.\n\n"_s + failure,
                                      MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
 }
 
@@ -280,7 +281,7 @@ void fm_main::AddDog() {
 }
 
 void fm_main::ShowAbout() {
-    picDetails->SetTitle(QStringLiteral("O programu"));
+    picDetails->SetTitle(u"O programu"_s);
     picDetails->BringToFront(picAbout);
     picAbout->ShowVersion();
     picDetails->SetPicture(QIcon());

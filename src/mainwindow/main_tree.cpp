@@ -13,14 +13,15 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kPictureSize = 16;
 
 TreeModel::Icons NodeIcons() {
-    return {ProgramIcon(QStringLiteral("ring")), ProgramIcon(QStringLiteral("breed")),
-            ProgramIcon(QStringLiteral("class")), ProgramIcon(QStringLiteral("dog")),
-            ProgramIcon(QStringLiteral("root"))};
+    return {ProgramIcon(u"ring"_s), ProgramIcon(u"breed"_s), ProgramIcon(u"class"_s),
+            ProgramIcon(u"dog"_s), ProgramIcon(u"root"_s)};
 }
 
 } // namespace
@@ -28,8 +29,8 @@ TreeModel::Icons NodeIcons() {
 MainTree::MainTree(TreeNodes& nodes, QWidget* parent)
     : QTreeView(parent), nodes_(nodes), model_(new TreeModel(nodes, this)),
       delegate_(new NodeDelegate(this)) {
-    setObjectName(QStringLiteral("tvwMain"));
-    setAccessibleName(QStringLiteral("Kruhy, plemena a psi"));
+    setObjectName(u"tvwMain"_s);
+    setAccessibleName(u"Kruhy, plemena a psi"_s);
     model_->SetIcons(NodeIcons());
     setModel(model_);
     setItemDelegate(delegate_);
@@ -61,7 +62,7 @@ void MainTree::LoadData() {
     SetCurrent(nodes_.Find(key));
     if (!Module().ShowClassesOn)
         return;
-    const QString expanded = ReadRegValue(QStringLiteral("Sys"), QStringLiteral("ExpandedItems"));
+    const QString expanded = ReadRegValue(u"Sys"_s, u"ExpandedItems"_s);
     for (const TreeNode* node : NodesToExpand(nodes_, expanded))
         expand(model_->IndexOf(node));
 }

@@ -7,6 +7,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 void NodeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     if (!selectionBarShown)
@@ -18,7 +20,7 @@ QWidget* NodeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     return GuardedAnswer(static_cast<QWidget*>(nullptr), [&]() -> QWidget* {
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
         if (auto* line = qobject_cast<QLineEdit*>(editor)) {
-            line->setObjectName(QStringLiteral("tvwMain.editor"));
+            line->setObjectName(u"tvwMain.editor"_s);
             line->setMaxLength(kLongestText);
         }
         return editor;

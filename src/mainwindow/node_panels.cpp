@@ -25,6 +25,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// How many nodes the path to a node has, itself included.
@@ -54,7 +56,7 @@ NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& histor
       picPlemenoInfo(new BreedPanel(nullptr)), picTridaInfo(new ClassPanel(nullptr)),
       picFCIInfo(new FciPanel(nullptr)), picPesInfo(new DogPanel(nullptr)),
       picMajitelInfo(new OwnerPanel(nullptr)) {
-    setObjectName(QStringLiteral("picDetails"));
+    setObjectName(u"picDetails"_s);
     KeepLight(*this);
     setAutoFillBackground(true);
     auto* column = new QVBoxLayout(this);
@@ -135,8 +137,7 @@ void NodePanels::ShowPanelOf(const TreeNode& node) {
 
 void NodePanels::ShowRing(const TreeNode& ring) {
     BringToFront(picKruhInfo);
-    picKruhInfo->SetEditable(ring.Kind() == NodeKind::Ring &&
-                             CanOpen(QStringLiteral("frmNazevKruhu")));
+    picKruhInfo->SetEditable(ring.Kind() == NodeKind::Ring && CanOpen(u"frmNazevKruhu"_s));
     picKruhInfo->ShowFigures(FiguresOfRing(ring.Id()));
 }
 
@@ -172,7 +173,7 @@ void NodePanels::ShowOwner() {
     BringToFront(picMajitelInfo);
     FillOwnerLines(ownerCard_, Module().CurrentOwner);
     SetTitle(ownerCard_.title);
-    SetPicture(ProgramIcon(QStringLiteral("owner")));
+    SetPicture(ProgramIcon(u"owner"_s));
     RefillOwnerDogs();
 }
 
@@ -235,7 +236,7 @@ void NodePanels::MarkPath(const TreeNode& node) {
 // The ring's window works on the selected node, which the history may have left behind.
 void NodePanels::EditRing() {
     tree_.SelectNode(&nodes_.Get(onShow_));
-    Open(QStringLiteral("frmNazevKruhu"));
+    Open(u"frmNazevKruhu"_s);
 }
 
 void NodePanels::SetTitle(const QString& title) {

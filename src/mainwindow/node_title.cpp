@@ -8,12 +8,14 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kPictureSize = 32;
 
 QLabel* TitleLabel(QWidget* parent) {
-    auto* label = Named(new QLabel(parent), QStringLiteral("lblItemTitle"));
+    auto* label = Named(new QLabel(parent), u"lblItemTitle"_s);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     TakeGivenWidth(*label);
@@ -34,12 +36,10 @@ QPushButton* HistoryButton(const QString& name, const QString& text, const QStri
 } // namespace
 
 NodeTitle::NodeTitle(NodeHistory& history, const NodeHistory::Show& show, QWidget* parent)
-    : QWidget(parent), history_(history),
-      picMode(Named(new QLabel(this), QStringLiteral("picMode"))), lblItemTitle(TitleLabel(this)),
-      cmdHistoryBack(HistoryButton(QStringLiteral("cmdHistoryBack"), QStringLiteral("Zpět"),
-                                   QStringLiteral("back"), this)),
-      cmdHistoryFwd(HistoryButton(QStringLiteral("cmdHistoryFwd"), QStringLiteral("Vpřed"),
-                                  QStringLiteral("forward"), this)) {
+    : QWidget(parent), history_(history), picMode(Named(new QLabel(this), u"picMode"_s)),
+      lblItemTitle(TitleLabel(this)),
+      cmdHistoryBack(HistoryButton(u"cmdHistoryBack"_s, u"Zpět"_s, u"back"_s, this)),
+      cmdHistoryFwd(HistoryButton(u"cmdHistoryFwd"_s, u"Vpřed"_s, u"forward"_s, this)) {
     picMode->setFixedSize(kPictureSize, kPictureSize);
     Connect(cmdHistoryBack, &QPushButton::clicked, this, [this, show] {
         history_.GoBack(show);

@@ -6,28 +6,30 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kOpenUnits = 1956;
 }
 
 OriginSection::OriginSection(QWidget* parent)
-    : CollapsibleFrame("fraPuvod", QStringLiteral("Původ"), kOpenUnits, Growth::Fixed, parent) {
+    : CollapsibleFrame("fraPuvod", u"Původ"_s, kOpenUnits, Growth::Fixed, parent) {
     ValueGrid grid(2, SectionCaptions());
-    breed_ = grid.AddText(0, QStringLiteral("Plemeno:"));
-    sex_ = grid.AddText(0, QStringLiteral("Pohlaví:"));
-    birthDate_ = grid.AddText(0, QStringLiteral("Datum narození:"));
-    class_ = grid.AddText(0, QStringLiteral("Třída:"));
-    note_ = grid.AddText(0, QStringLiteral("Poznámka:"));
-    kennel_ = grid.AddText(1, QStringLiteral("Chovatelská stanice:"));
-    studBook_ = grid.AddText(1, QStringLiteral("PK:"));
-    father_ = grid.AddText(1, QStringLiteral("Otec:"));
-    mother_ = grid.AddText(1, QStringLiteral("Matka:"));
-    breeder_ = grid.AddText(1, QStringLiteral("Chovatel:"));
+    breed_ = grid.AddText(0, u"Plemeno:"_s);
+    sex_ = grid.AddText(0, u"Pohlaví:"_s);
+    birthDate_ = grid.AddText(0, u"Datum narození:"_s);
+    class_ = grid.AddText(0, u"Třída:"_s);
+    note_ = grid.AddText(0, u"Poznámka:"_s);
+    kennel_ = grid.AddText(1, u"Chovatelská stanice:"_s);
+    studBook_ = grid.AddText(1, u"PK:"_s);
+    father_ = grid.AddText(1, u"Otec:"_s);
+    mother_ = grid.AddText(1, u"Matka:"_s);
+    breeder_ = grid.AddText(1, u"Chovatel:"_s);
     // Captions whose values stay empty.
-    grid.AddText(0, QStringLiteral("Velikost:"));
-    grid.AddText(0, QStringLiteral("Srst:"));
-    grid.AddText(1, QStringLiteral("Barva:"));
-    grid.AddText(1, QStringLiteral("FCI:"));
+    grid.AddText(0, u"Velikost:"_s);
+    grid.AddText(0, u"Srst:"_s);
+    grid.AddText(1, u"Barva:"_s);
+    grid.AddText(1, u"FCI:"_s);
     note_->setAutoFillBackground(true);
 
     auto* column = new QVBoxLayout(Content());

@@ -10,6 +10,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Numbers of the menu's entries; a positive one is a dog's ID.
@@ -38,9 +40,8 @@ std::vector<MenuEntry> DogMenu(int ownerID) {
         entries.back().checked = dog.ID == Module().CurrentDogID;
     }
     entries.push_back(MenuEntry::Separator());
-    entries.push_back(
-        Entry(kHighlightNumber, QStringLiteral("Zvýraznit všechny psy tohoto majitele")));
-    entries.push_back(Entry(kClearNumber, QStringLiteral("Zrušit zvýraznění")));
+    entries.push_back(Entry(kHighlightNumber, u"Zvýraznit všechny psy tohoto majitele"_s));
+    entries.push_back(Entry(kClearNumber, u"Zrušit zvýraznění"_s));
     return entries;
 }
 

@@ -10,6 +10,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::array<InkedText, 9> CellsOf(const OwnerDogLine& dog) {
@@ -31,23 +33,21 @@ std::array<InkedText, 9> CellsOf(const OwnerDogLine& dog) {
 
 OwnerPanel::OwnerPanel(QWidget* parent)
     : QWidget(parent),
-      lvwDogs(new ReportList(
-          "lvwDogs",
-          {QStringLiteral("Jméno"), QStringLiteral("Výstava"), QStringLiteral("Uzávěrka"),
-           QStringLiteral("První pes"), QStringLiteral("Soutěže"), QStringLiteral("Cena"),
-           QStringLiteral("Uhrazeno"), QStringLiteral("Rozdíl"), QStringLiteral("Poznámka")},
-          this)),
-      lblSeznamPlateb1(Named(new LinkLabel(QStringLiteral("Seznam přijatých plateb"), this),
-                             QStringLiteral("lblSeznamPlateb1"))),
-      Label21(Named(new LinkLabel(QStringLiteral("Zpět"), this), QStringLiteral("Label21"))) {
-    setObjectName(QStringLiteral("picMajitelInfo"));
-    lvwDogs->setAccessibleName(QStringLiteral("Psi vystavovatele"));
+      lvwDogs(new ReportList("lvwDogs",
+                             {u"Jméno"_s, u"Výstava"_s, u"Uzávěrka"_s, u"První pes"_s, u"Soutěže"_s,
+                              u"Cena"_s, u"Uhrazeno"_s, u"Rozdíl"_s, u"Poznámka"_s},
+                             this)),
+      lblSeznamPlateb1(
+          Named(new LinkLabel(u"Seznam přijatých plateb"_s, this), u"lblSeznamPlateb1"_s)),
+      Label21(Named(new LinkLabel(u"Zpět"_s, this), u"Label21"_s)) {
+    setObjectName(u"picMajitelInfo"_s);
+    lvwDogs->setAccessibleName(u"Psi vystavovatele"_s);
     lvwDogs->SetLabelEdit(false);
     lvwDogs->AlignRight({5, 6, 7});
     lvwDogs->SetColumnWidths({110, 112, 64, 64, 124, 72, 68, 76, 104});
 
     auto* top = new QHBoxLayout;
-    top->addWidget(PanelHeading(QStringLiteral("Detailní informace o vystavovateli"), this));
+    top->addWidget(PanelHeading(u"Detailní informace o vystavovateli"_s, this));
     top->addStretch();
     top->addWidget(lblSeznamPlateb1);
     top->addSpacing(fontMetrics().height());
@@ -68,21 +68,21 @@ OwnerPanel::OwnerPanel(QWidget* parent)
 
 QLayout* OwnerPanel::Lines() {
     ValueGrid grid(2);
-    name_ = grid.AddText(0, QStringLiteral("Jméno:"));
-    street_ = grid.AddText(0, QStringLiteral("Ulice:"));
-    postCode_ = grid.AddText(0, QStringLiteral("PSČ:"));
-    town_ = grid.AddText(1, QStringLiteral("Město:"));
-    phone_ = grid.AddText(1, QStringLiteral("Telefon:"));
-    email_ = grid.AddLink(1, QStringLiteral("Email:"));
+    name_ = grid.AddText(0, u"Jméno:"_s);
+    street_ = grid.AddText(0, u"Ulice:"_s);
+    postCode_ = grid.AddText(0, u"PSČ:"_s);
+    town_ = grid.AddText(1, u"Město:"_s);
+    phone_ = grid.AddText(1, u"Telefon:"_s);
+    email_ = grid.AddLink(1, u"Email:"_s);
     return grid.Layout();
 }
 
 QLayout* OwnerPanel::Totals() {
     ValueGrid grid(2);
-    Label19 = Named(grid.AddAmount(0, QStringLiteral("Celkem psů:")), QStringLiteral("Label19"));
-    price_ = grid.AddAmount(1, QStringLiteral("Cena:"));
-    paid_ = grid.AddAmount(0, QStringLiteral("Uhrazeno:"));
-    balance_ = grid.AddAmount(1, QStringLiteral("Bilance:"));
+    Label19 = Named(grid.AddAmount(0, u"Celkem psů:"_s), u"Label19"_s);
+    price_ = grid.AddAmount(1, u"Cena:"_s);
+    paid_ = grid.AddAmount(0, u"Uhrazeno:"_s);
+    balance_ = grid.AddAmount(1, u"Bilance:"_s);
     return grid.Layout();
 }
 
@@ -98,7 +98,7 @@ void OwnerPanel::ShowCard(const OwnerCard& card) {
     price_->setText(card.price);
     paid_->setText(card.paid);
     ShowText(*balance_, card.balance);
-    lblSeznamPlateb1->setEnabled(CanOpen(QStringLiteral("frmUhrady")));
+    lblSeznamPlateb1->setEnabled(CanOpen(u"frmUhrady"_s));
 }
 
 void OwnerPanel::ShowDogs(const std::vector<OwnerDogLine>& dogs) {

@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kOpenUnits = 1815;
@@ -35,7 +37,7 @@ void ShowNeighbour(QToolButton& picture, const DogCard::Neighbour& neighbour) {
 } // namespace
 
 OwnerSection::OwnerSection(QWidget* parent)
-    : CollapsibleFrame("fraMajitel", QStringLiteral("Majitel"), kOpenUnits, Growth::Fixed, parent) {
+    : CollapsibleFrame("fraMajitel", u"Majitel"_s, kOpenUnits, Growth::Fixed, parent) {
     auto* column = new QVBoxLayout(Content());
     column->addLayout(Lines());
     column->addStretch();
@@ -56,26 +58,22 @@ OwnerSection::OwnerSection(QWidget* parent)
 
 QLayout* OwnerSection::Lines() {
     ValueGrid grid(2, SectionCaptions());
-    name_ = grid.AddLink(0, QStringLiteral("Jméno:"));
-    street_ = grid.AddText(0, QStringLiteral("Ulice:"));
-    postCode_ = grid.AddText(0, QStringLiteral("PSČ:"));
-    town_ = grid.AddText(0, QStringLiteral("Město:"));
-    country_ = grid.AddText(1, QStringLiteral("Stát:"));
-    phone_ = grid.AddText(1, QStringLiteral("Telefon:"));
-    email_ = grid.AddLink(1, QStringLiteral("Email:"));
+    name_ = grid.AddLink(0, u"Jméno:"_s);
+    street_ = grid.AddText(0, u"Ulice:"_s);
+    postCode_ = grid.AddText(0, u"PSČ:"_s);
+    town_ = grid.AddText(0, u"Město:"_s);
+    country_ = grid.AddText(1, u"Stát:"_s);
+    phone_ = grid.AddText(1, u"Telefon:"_s);
+    email_ = grid.AddLink(1, u"Email:"_s);
     grid.AddRow(1, Pictures());
     return grid.Layout();
 }
 
 QLayout* OwnerSection::Pictures() {
-    picPrev = Picture(QStringLiteral("picPrev"), QStringLiteral("previous"),
-                      QStringLiteral("Předchozí pes tohoto majitele"), Content());
-    picNext = Picture(QStringLiteral("picNext"), QStringLiteral("next"),
-                      QStringLiteral("Další pes tohoto majitele"), Content());
-    picList = Picture(QStringLiteral("picList"), QStringLiteral("list"),
-                      QStringLiteral("Seznam psů tohoto majitele"), Content());
-    picEditMajitele = Picture(QStringLiteral("picEditMajitele"), QStringLiteral("edit"),
-                              QStringLiteral("Upravit majitele"), Content());
+    picPrev = Picture(u"picPrev"_s, u"previous"_s, u"Předchozí pes tohoto majitele"_s, Content());
+    picNext = Picture(u"picNext"_s, u"next"_s, u"Další pes tohoto majitele"_s, Content());
+    picList = Picture(u"picList"_s, u"list"_s, u"Seznam psů tohoto majitele"_s, Content());
+    picEditMajitele = Picture(u"picEditMajitele"_s, u"edit"_s, u"Upravit majitele"_s, Content());
     auto* row = new QHBoxLayout;
     for (QToolButton* picture : {picPrev, picNext, picList, picEditMajitele})
         row->addWidget(picture);
@@ -96,7 +94,7 @@ void OwnerSection::ShowCard(const DogCard& card) {
     ShowNeighbour(*picPrev, card.previous);
     ShowNeighbour(*picNext, card.next);
     picList->setVisible(!previousKey_.isEmpty() || !nextKey_.isEmpty());
-    picEditMajitele->setEnabled(CanOpen(QStringLiteral("frmEditMan")));
+    picEditMajitele->setEnabled(CanOpen(u"frmEditMan"_s));
 }
 
 // The link reaches a little beyond the name, so that a short name is easy to hit too.

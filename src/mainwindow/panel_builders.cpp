@@ -8,6 +8,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Blank columns between the pairs of a grid.
@@ -24,9 +26,9 @@ QFont Bold(QFont font) {
 QString IconWord(LineIcon icon) {
     switch (icon) {
     case LineIcon::Show:
-        return QStringLiteral("výstava");
+        return u"výstava"_s;
     case LineIcon::Competition:
-        return QStringLiteral("soutěž");
+        return u"soutěž"_s;
     default:
         return {};
     }
@@ -76,7 +78,7 @@ QLabel* PanelHeading(const QString& text, QWidget* panel) {
 }
 
 QStringList SectionCaptions() {
-    return {QStringLiteral("Datum narození:"), QStringLiteral("Chovatelská stanice:")};
+    return {u"Datum narození:"_s, u"Chovatelská stanice:"_s};
 }
 
 void TakeGivenWidth(QLabel& label) {

@@ -8,21 +8,20 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 RingPanel::RingPanel(QWidget* parent)
-    : QWidget(parent), lblEditKruh(Named(new LinkLabel(QStringLiteral("Přejmenovat kruh"), this),
-                                         QStringLiteral("lblEditKruh"))) {
-    setObjectName(QStringLiteral("picKruhInfo"));
+    : QWidget(parent),
+      lblEditKruh(Named(new LinkLabel(u"Přejmenovat kruh"_s, this), u"lblEditKruh"_s)) {
+    setObjectName(u"picKruhInfo"_s);
     ValueGrid grid(1);
-    lblPlemenaCnt =
-        grid.AddText(0, QStringLiteral("Počet plemen:"), QStringLiteral("lblPlemenaCnt"));
-    lblPlemenaCntPrc =
-        grid.AddText(0, QStringLiteral("Podíl všech plemen:"), QStringLiteral("lblPlemenaCntPrc"));
-    lblDogsCnt = grid.AddText(0, QStringLiteral("Počet psů:"), QStringLiteral("lblDogsCnt"));
-    lblDogsCntPrc =
-        grid.AddText(0, QStringLiteral("Podíl všech psů:"), QStringLiteral("lblDogsCntPrc"));
+    lblPlemenaCnt = grid.AddText(0, u"Počet plemen:"_s, u"lblPlemenaCnt"_s);
+    lblPlemenaCntPrc = grid.AddText(0, u"Podíl všech plemen:"_s, u"lblPlemenaCntPrc"_s);
+    lblDogsCnt = grid.AddText(0, u"Počet psů:"_s, u"lblDogsCnt"_s);
+    lblDogsCntPrc = grid.AddText(0, u"Podíl všech psů:"_s, u"lblDogsCntPrc"_s);
 
     auto* column = new QVBoxLayout(this);
-    column->addWidget(PanelHeading(QStringLiteral("Souhrnné informace o kruhu"), this));
+    column->addWidget(PanelHeading(u"Souhrnné informace o kruhu"_s, this));
     column->addLayout(grid.Layout());
     column->addWidget(lblEditKruh, 0, Qt::AlignLeft);
     column->addStretch();

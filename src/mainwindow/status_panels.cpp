@@ -9,6 +9,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 StatusPanels::StatusPanels(const QString& name, QWidget* parent) : QStatusBar(parent) {
     setObjectName(name);
     for (int number = 1; number <= kCount; ++number) {
@@ -20,12 +22,12 @@ StatusPanels::StatusPanels(const QString& name, QWidget* parent) : QStatusBar(pa
 }
 
 StatusPanels::Panel StatusPanels::MakePanel(int number) {
-    const QString name = QStringLiteral("%1(%2)").arg(objectName()).arg(number);
+    const QString name = u"%1(%2)"_s.arg(objectName()).arg(number);
     auto* text = Named(new ElidedLabel(this), name);
     // The panels share the bar: a long name is cut, and no other panel pays for it.
     text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    text->setAccessibleName(QStringLiteral("Cesta %1").arg(number));
-    auto* picture = Named(new QLabel(text), name + QStringLiteral(".picture"));
+    text->setAccessibleName(u"Cesta %1"_s.arg(number));
+    auto* picture = Named(new QLabel(text), name + u".picture"_s);
     auto* row = new QHBoxLayout(text);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(picture);

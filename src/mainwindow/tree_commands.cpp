@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* parent)
     : QObject(parent), tree_(tree), nodes_(tree.Nodes()), window_(window),
       edits_(std::make_unique<TreeEdits>(nodes_, window)) {
@@ -42,7 +44,7 @@ TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* 
 TreeCommands::~TreeCommands() = default;
 
 void TreeCommands::AddRing() {
-    const QString name = QStringLiteral("Nový kruh");
+    const QString name = u"Nový kruh"_s;
     TreeNode* ring = nodes_.AddRingWithoutKey(name);
     nodes_.GiveKey(ring, InsertRing(name));
     tree_.SelectNode(ring);
@@ -67,7 +69,7 @@ void TreeCommands::RenameSelected() {
 void TreeCommands::RenameInWindow(TreeNode* ring) {
     tree_.SelectNode(ring);
     if (ring->text != UnassignedRootText())
-        Open(QStringLiteral("frmNazevKruhu"));
+        Open(u"frmNazevKruhu"_s);
 }
 
 void TreeCommands::HideEmpty() {
@@ -97,8 +99,8 @@ void TreeCommands::ToggleDetail() {
 }
 
 void TreeCommands::Find() {
-    if (CanOpen(QStringLiteral("frmFind")))
-        Open(QStringLiteral("frmFind"));
+    if (CanOpen(u"frmFind"_s))
+        Open(u"frmFind"_s);
 }
 
 void TreeCommands::FindNext() {
@@ -117,7 +119,7 @@ void TreeCommands::AddDogToSelected() {
     if (node && node->IsDog())
         node = node->parent->Kind() == NodeKind::Class ? node->parent->parent : node->parent;
     if (!node || node->Kind() != NodeKind::Breed)
-        return edits_->Exclaim(QStringLiteral("Není vybráno plemeno, do kterého se má pes přidat"));
+        return edits_->Exclaim(u"Není vybráno plemeno, do kterého se má pes přidat"_s);
     if (edits_->HasShowDateRow())
         OpenDogWindow(true, node->Id());
 }
@@ -131,7 +133,7 @@ void TreeCommands::EditDog(const TreeNode* dog) {
 void TreeCommands::OpenDogWindow(bool adding, int breedID) {
     Module().IsAddingDog = adding;
     Module().CurrentBreedID = breedID;
-    Open(QStringLiteral("fm_Dog"));
+    Open(u"fm_Dog"_s);
 }
 
 void TreeCommands::ShowSelected() {

@@ -14,9 +14,11 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kNoShowDate = QStringLiteral("Psa nelze přidat. Datum výstavy nebylo určeno");
+const QString kNoShowDate = u"Psa nelze přidat. Datum výstavy nebylo určeno"_s;
 
 } // namespace
 
@@ -37,10 +39,10 @@ bool TreeEdits::Remove(TreeNode* node) {
 
 bool TreeEdits::RemoveRing(TreeNode* ring) {
     if (CountBreedsOfRing(ring->Id()) != 0) {
-        Stop(QStringLiteral("Tento kruh nelze odstranit, obsahuje položky"));
+        Stop(u"Tento kruh nelze odstranit, obsahuje položky"_s);
         return false;
     }
-    if (!Confirm(QStringLiteral("Určitě chcete odstranit kruh %1?").arg(ring->text)))
+    if (!Confirm(u"Určitě chcete odstranit kruh %1?"_s.arg(ring->text)))
         return false;
     DeleteRing(ring->Id());
     nodes_.Remove(ring);
@@ -49,10 +51,10 @@ bool TreeEdits::RemoveRing(TreeNode* ring) {
 
 bool TreeEdits::RemoveBreed(TreeNode* breed) {
     if (CountDogsOfBreed(breed->Id()) != 0) {
-        Stop(QStringLiteral("Toto plemeno nelze odstranit"));
+        Stop(u"Toto plemeno nelze odstranit"_s);
         return false;
     }
-    if (!Confirm(QStringLiteral("Určitě chcete odstranit plemeno %1?").arg(breed->text)))
+    if (!Confirm(u"Určitě chcete odstranit plemeno %1?"_s.arg(breed->text)))
         return false;
     DeleteBreed(breed->Id());
     nodes_.Remove(breed);
@@ -60,7 +62,7 @@ bool TreeEdits::RemoveBreed(TreeNode* breed) {
 }
 
 bool TreeEdits::RemoveDog(TreeNode* dog) {
-    if (!Confirm(QStringLiteral("Určitě chcete ze seznamu odstranit psa %1?").arg(dog->text)))
+    if (!Confirm(u"Určitě chcete ze seznamu odstranit psa %1?"_s.arg(dog->text)))
         return false;
     DeleteDog(dog->Id());
     nodes_.Remove(dog);
@@ -101,11 +103,11 @@ void TreeEdits::MakeFirstDog() {
 
 bool TreeEdits::MayAddDog() {
     if (MainCurrencies().empty()) {
-        Exclaim(QStringLiteral("Psa nelze přidat. V seznamu měn není zadána hlavní měna"));
+        Exclaim(u"Psa nelze přidat. V seznamu měn není zadána hlavní měna"_s);
         return false;
     }
     if (NumberOfFirstRow().value_or(0) > 0) {
-        Exclaim(QStringLiteral("Psa nelze přidat. Psi mají přiřazena čísla"));
+        Exclaim(u"Psa nelze přidat. Psi mají přiřazena čísla"_s);
         return false;
     }
     EnsureShow();

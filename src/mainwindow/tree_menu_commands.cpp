@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int Choose(const std::vector<MenuEntry>& menu) {
@@ -90,12 +92,12 @@ void TreeCommands::ShowDogMenu(TreeNode* dog) {
         return;
     case kTakePayment:
         Module().CurrentDogID = dog->Id();
-        Open(QStringLiteral("frmPlatba"));
+        Open(u"frmPlatba"_s);
         return ShowSelected();
     case kPayments:
         Module().CurrentDogID = dog->Id();
         Module().PaymentsOwner = 0;
-        Open(QStringLiteral("frmUhrady"));
+        Open(u"frmUhrady"_s);
         return ShowSelected();
     case kHighlightOwner:
         return HighlightOwnersDogs(tree_);

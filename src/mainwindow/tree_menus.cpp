@@ -9,6 +9,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 MenuEntry Entry(int number, const QString& text, bool enabled = true, bool checked = false) {
@@ -25,7 +27,7 @@ std::vector<MenuEntry> FciMenu(const Plemena& breed) {
     std::vector<MenuEntry> entries;
     for (int number = kFciNone; number <= kFciLast; ++number) {
         const int fci = number - kFciNone;
-        const QString text = fci ? QStringLiteral("FCI %1").arg(fci) : UnassignedText();
+        const QString text = fci ? u"FCI %1"_s.arg(fci) : UnassignedText();
         entries.push_back(Entry(number, text, breed.Vlastni, breed.FCI == fci));
     }
     return entries;
@@ -36,16 +38,16 @@ std::vector<MenuEntry> FciMenu(const Plemena& breed) {
 std::vector<MenuEntry> RootMenu() {
     using namespace root_menu;
     return {
-        Entry(kAddRing, QStringLiteral("Přidat kruh")),
+        Entry(kAddRing, u"Přidat kruh"_s),
         MenuEntry::Separator(),
-        Entry(kHideEmpty, QStringLiteral("Skrýt prázdné")),
-        Entry(kShowAll, QStringLiteral("Zobrazit vše")),
-        Entry(kClearColours, QStringLiteral("Zrušit zvýraznění")),
+        Entry(kHideEmpty, u"Skrýt prázdné"_s),
+        Entry(kShowAll, u"Zobrazit vše"_s),
+        Entry(kClearColours, u"Zrušit zvýraznění"_s),
         MenuEntry::Separator(),
-        Entry(kExpandAll, QStringLiteral("Rozbalit vše")),
-        Entry(kCollapseAll, QStringLiteral("Sbalit vše")),
+        Entry(kExpandAll, u"Rozbalit vše"_s),
+        Entry(kCollapseAll, u"Sbalit vše"_s),
         MenuEntry::Separator(),
-        Entry(kFind, QStringLiteral("Hledat     Ctrl+F"), CanOpen(QStringLiteral("frmFind"))),
+        Entry(kFind, u"Hledat     Ctrl+F"_s, CanOpen(u"frmFind"_s)),
     };
 }
 
@@ -53,16 +55,16 @@ std::vector<MenuEntry> RingMenu(const TreeNode& ring) {
     using namespace ring_menu;
     const bool isRing = ring.Kind() == NodeKind::Ring;
     return {
-        Entry(kRename, QStringLiteral("Přejmenovat kruh"), isRing),
-        Entry(kRemove, QStringLiteral("Odstranit kruh"), isRing),
+        Entry(kRename, u"Přejmenovat kruh"_s, isRing),
+        Entry(kRemove, u"Odstranit kruh"_s, isRing),
     };
 }
 
 std::vector<MenuEntry> BreedMenu(const TreeNode& breed) {
     using namespace breed_menu;
-    MenuEntry groups = Entry(kFci, QStringLiteral("FCI"));
+    MenuEntry groups = Entry(kFci, u"FCI"_s);
     groups.submenu = FciMenu(BreedByID(breed.Id()).value_or(Plemena()));
-    return {groups, Entry(kAddDog, QStringLiteral("Přidat psa"))};
+    return {groups, Entry(kAddDog, u"Přidat psa"_s)};
 }
 
 std::vector<MenuEntry> DogMenu() {
@@ -70,16 +72,16 @@ std::vector<MenuEntry> DogMenu() {
     const std::optional<Psi> shown = DogByID(Module().CurrentDogID);
     const bool first = shown && shown->PrvniUzaverka;
     return {
-        Entry(kRemove, QStringLiteral("Odstranit psa")),
-        Entry(kTakePayment, QStringLiteral("Příjem platby")),
-        Entry(kPayments, QStringLiteral("Zobrazit seznam přijatých plateb")),
+        Entry(kRemove, u"Odstranit psa"_s),
+        Entry(kTakePayment, u"Příjem platby"_s),
+        Entry(kPayments, u"Zobrazit seznam přijatých plateb"_s),
         MenuEntry::Separator(),
-        Entry(kHighlightOwner, QStringLiteral("Zvýraznit všechny psy stejného majitele")),
-        Entry(kClearHighlight, QStringLiteral("Zrušit zvýraznění")),
+        Entry(kHighlightOwner, u"Zvýraznit všechny psy stejného majitele"_s),
+        Entry(kClearHighlight, u"Zrušit zvýraznění"_s),
         MenuEntry::Separator(),
-        Entry(kFirstClosing, QStringLiteral("První uzávěrka"), shown.has_value(), first),
-        Entry(kSecondClosing, QStringLiteral("Druhá uzávěrka"), shown.has_value(), !first),
-        Entry(kFirstDog, QStringLiteral("První pes"), shown.has_value(), shown && shown->PrvniPes),
+        Entry(kFirstClosing, u"První uzávěrka"_s, shown.has_value(), first),
+        Entry(kSecondClosing, u"Druhá uzávěrka"_s, shown.has_value(), !first),
+        Entry(kFirstDog, u"První pes"_s, shown.has_value(), shown && shown->PrvniPes),
     };
 }
 

@@ -8,6 +8,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Null when nothing fits, or when the text can't be searched for.
@@ -16,7 +18,7 @@ const TreeNode* NextMatch(const TreeNodes& nodes) {
         return FindByText(nodes, Module().FindText, Module().FindStart);
     } catch (const Error& error) {
         ThePlatform().messages->Show(QString::fromUtf8(error.what()), MessageIcon::Exclamation,
-                                     MessageButtons::Ok, QStringLiteral("Hledat text"));
+                                     MessageButtons::Ok, u"Hledat text"_s);
         return nullptr;
     }
 }

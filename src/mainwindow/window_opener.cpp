@@ -35,6 +35,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
@@ -43,31 +45,31 @@ template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
 
 std::map<QString, WindowFactory>& Windows() {
     static std::map<QString, WindowFactory> windows{
-        {QStringLiteral("fm_Colors"), Make<fm_Colors>},
-        {QStringLiteral("fmDiplom"), Make<fmDiplom>},
-        {QStringLiteral("fm_Dog"), Make<fm_Dog>},
-        {QStringLiteral("fm_DogsList"), Make<fm_DogsList>},
-        {QStringLiteral("fm_Plemena"), Make<fm_Plemena>},
-        {QStringLiteral("fm_Settings"), Make<fm_Settings>},
-        {QStringLiteral("fm_Souteze"), Make<fm_Souteze>},
-        {QStringLiteral("frmEditMan"), Make<frmEditMan>},
-        {QStringLiteral("frmFind"), Make<frmFind>},
-        {QStringLiteral("frmJmenoRozhodciho"), Make<frmJmenoRozhodciho>},
-        {QStringLiteral("frmNazevKruhu"), Make<frmNazevKruhu>},
-        {QStringLiteral("frmOceneni"), Make<frmOceneni>},
-        {QStringLiteral("frmParents"), Make<frmParents>},
-        {QStringLiteral("frmPlatba"), Make<frmPlatba>},
-        {QStringLiteral("frmPrehledPlateb"), Make<frmPrehledPlateb>},
-        {QStringLiteral("frmPrehledPlemen"), Make<frmPrehledPlemen>},
-        {QStringLiteral("frmTiskKatalog"), Make<frmTiskKatalog>},
-        {QStringLiteral("frmTiskPlateb"), Make<frmTiskPlateb>},
-        {QStringLiteral("frmTiskPosudku"), Make<frmTiskPosudku>},
-        {QStringLiteral("frmTiskPozvanek"), Make<frmTiskPozvanek>},
-        {QStringLiteral("frmTiskSeznamuPsu"), Make<frmTiskSeznamuPsu>},
-        {QStringLiteral("frmTiskSeznamVystavovatelu"), Make<frmTiskSeznamVystavovatelu>},
-        {QStringLiteral("frmUhrady"), Make<frmUhrady>},
-        {QStringLiteral("frmVystavovatele"), Make<frmVystavovatele>},
-        {QStringLiteral("frmVystavy"), Make<frmVystavy>},
+        {u"fm_Colors"_s, Make<fm_Colors>},
+        {u"fmDiplom"_s, Make<fmDiplom>},
+        {u"fm_Dog"_s, Make<fm_Dog>},
+        {u"fm_DogsList"_s, Make<fm_DogsList>},
+        {u"fm_Plemena"_s, Make<fm_Plemena>},
+        {u"fm_Settings"_s, Make<fm_Settings>},
+        {u"fm_Souteze"_s, Make<fm_Souteze>},
+        {u"frmEditMan"_s, Make<frmEditMan>},
+        {u"frmFind"_s, Make<frmFind>},
+        {u"frmJmenoRozhodciho"_s, Make<frmJmenoRozhodciho>},
+        {u"frmNazevKruhu"_s, Make<frmNazevKruhu>},
+        {u"frmOceneni"_s, Make<frmOceneni>},
+        {u"frmParents"_s, Make<frmParents>},
+        {u"frmPlatba"_s, Make<frmPlatba>},
+        {u"frmPrehledPlateb"_s, Make<frmPrehledPlateb>},
+        {u"frmPrehledPlemen"_s, Make<frmPrehledPlemen>},
+        {u"frmTiskKatalog"_s, Make<frmTiskKatalog>},
+        {u"frmTiskPlateb"_s, Make<frmTiskPlateb>},
+        {u"frmTiskPosudku"_s, Make<frmTiskPosudku>},
+        {u"frmTiskPozvanek"_s, Make<frmTiskPozvanek>},
+        {u"frmTiskSeznamuPsu"_s, Make<frmTiskSeznamuPsu>},
+        {u"frmTiskSeznamVystavovatelu"_s, Make<frmTiskSeznamVystavovatelu>},
+        {u"frmUhrady"_s, Make<frmUhrady>},
+        {u"frmVystavovatele"_s, Make<frmVystavovatele>},
+        {u"frmVystavy"_s, Make<frmVystavy>},
     };
     return windows;
 }

@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Cause {
@@ -47,8 +49,8 @@ QString CauseOfFailure(int error) {
         if (cause.error == error)
             return QString::fromUtf16(cause.text);
     }
-    return QStringLiteral("systém operaci odmítl (%1)")
-        .arg(QString::fromLocal8Bit(std::generic_category().message(error).c_str()));
+    return u"systém operaci odmítl (%1)"_s.arg(
+        QString::fromLocal8Bit(std::generic_category().message(error).c_str()));
 }
 
 QString CauseOfFailure(const QFileDevice& file) {
@@ -57,7 +59,7 @@ QString CauseOfFailure(const QFileDevice& file) {
         if (qt_error_string(cause.error) == file.errorString())
             return QString::fromUtf16(cause.text);
     }
-    return QStringLiteral("systém operaci odmítl (%1)").arg(file.errorString());
+    return u"systém operaci odmítl (%1)"_s.arg(file.errorString());
 }
 
 QString CauseOfSystemFailure(int code) {
@@ -75,13 +77,13 @@ QString CauseOfLastFailure() {
 }
 
 void FailOnFile(const QString& what, const QString& path, int error) {
-    throw PlatformError(QStringLiteral("%1 „%2“: %3")
-                            .arg(what, QDir::toNativeSeparators(path), CauseOfFailure(error))
-                            .toStdString());
+    throw PlatformError(
+        u"%1 „%2“: %3"_s.arg(what, QDir::toNativeSeparators(path), CauseOfFailure(error))
+            .toStdString());
 }
 
 void FailToWriteFile(const QString& path, int error) {
-    FailOnFile(QStringLiteral("Soubor nelze zapsat"), path, error);
+    FailOnFile(u"Soubor nelze zapsat"_s, path, error);
 }
 
 } // namespace lorvo

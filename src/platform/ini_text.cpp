@@ -6,6 +6,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool Same(QStringView left, QStringView right) {
@@ -80,7 +82,7 @@ void IniText::SplitLines(const QString& text) {
         while (end < text.size() && text.at(end) != u'\n' && text.at(end) != u'\r')
             ++end;
         qsizetype next = std::min(end + 1, text.size());
-        if (text.mid(end, 2) == u"\r\n"_qs)
+        if (text.mid(end, 2) == u"\r\n"_s)
             next = end + 2;
         lines_.push_back({text.mid(start, end - start), text.mid(end, next - end)});
         start = next;
@@ -89,7 +91,7 @@ void IniText::SplitLines(const QString& text) {
 
 QString IniText::LineEnd() const {
     const bool known = !lines_.empty() && !lines_.front().end.isEmpty();
-    return known ? lines_.front().end : u"\r\n"_qs;
+    return known ? lines_.front().end : u"\r\n"_s;
 }
 
 std::size_t IniText::SectionStart(const QString& section) const {

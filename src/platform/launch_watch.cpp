@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// An opener that finds nothing says so sooner; one that runs as long as what it opened is all
@@ -21,9 +23,9 @@ constexpr int kStep = 20;
 
 std::set<int> Children() {
     std::set<int> children;
-    QDir tasks(QStringLiteral("/proc/self/task"));
+    QDir tasks(u"/proc/self/task"_s);
     for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile list(tasks.filePath(task + QStringLiteral("/children")));
+        QFile list(tasks.filePath(task + u"/children"_s));
         if (!list.open(QIODevice::ReadOnly))
             continue;
         for (const QByteArray& child : list.readAll().simplified().split(' ')) {

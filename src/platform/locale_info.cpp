@@ -7,6 +7,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool IsCzech(const QLocale& locale) {
@@ -16,10 +18,10 @@ bool IsCzech(const QLocale& locale) {
 /// Four digits of the year whatever the locale's short form has: a dog may be born in any century.
 QString DatePatternOf(const QLocale& locale) {
     if (IsCzech(locale))
-        return QStringLiteral("d.M.yyyy");
+        return u"d.M.yyyy"_s;
     QString pattern = locale.dateFormat(QLocale::ShortFormat);
-    if (!pattern.contains(u"yyyy"_qs))
-        pattern.replace(u"yy"_qs, u"yyyy"_qs);
+    if (!pattern.contains(u"yyyy"_s))
+        pattern.replace(u"yy"_s, u"yyyy"_s);
     return pattern;
 }
 
@@ -76,7 +78,7 @@ QString TimeText(DateValue value) {
 /// groups everywhere.
 char GroupOf(const QLocale& locale) {
     const QString group = locale.groupSeparator();
-    return group == u","_qs || group == u"."_qs ? group.at(0).toLatin1() : '\0';
+    return group == u","_s || group == u"."_s ? group.at(0).toLatin1() : '\0';
 }
 
 class QtLocaleInfo final : public LocaleInfo {
@@ -87,7 +89,7 @@ class QtLocaleInfo final : public LocaleInfo {
     QString Item(int item) const override {
         return item == kLocaleCurrencySymbol ? locale_.currencySymbol() : QString();
     }
-    char DecimalSign() const override { return locale_.decimalPoint() == u","_qs ? ',' : '.'; }
+    char DecimalSign() const override { return locale_.decimalPoint() == u","_s ? ',' : '.'; }
     QString DateText(DateValue value) const override {
         if (value.SecondOfDay() == 0)
             return ShortDate(value);

@@ -14,12 +14,14 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 #ifdef Q_OS_WIN
 
 // A folder can't be locked here; a byte far behind the database's end can.
 ProgramLock::ProgramLock(const QString& programFolder) {
     constexpr DWORD kFarAway = 0x7fffffff;
-    const QString path = QDir::toNativeSeparators(programFolder + u"/data.mdb"_qs);
+    const QString path = QDir::toNativeSeparators(programFolder + u"/data.mdb"_s);
     file_ = CreateFileW(reinterpret_cast<const wchar_t*>(path.utf16()), GENERIC_READ,
                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -10,6 +10,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class StoredSettings final : public SettingsTree {
@@ -59,7 +61,7 @@ class StoredSettings final : public SettingsTree {
     /// The toolkit waits half a minute for a lock beside the file that nobody holds: torn by a
     /// kill, or brought along when the folder was copied from another computer.
     void RemoveDeadLock() const {
-        const QString path = settings_.fileName() + u".lock"_qs;
+        const QString path = settings_.fileName() + u".lock"_s;
         if (settings_.format() == QSettings::NativeFormat || !QFile::exists(path))
             return;
         qint64 process = 0;
@@ -85,9 +87,9 @@ class StoredSettings final : public SettingsTree {
 
 std::unique_ptr<SettingsTree> MakeSettingsTree([[maybe_unused]] const QString& programFolder) {
 #ifdef Q_OS_WIN
-    return std::make_unique<StoredSettings>(u"HKEY_LOCAL_MACHINE"_qs, QSettings::NativeFormat);
+    return std::make_unique<StoredSettings>(u"HKEY_LOCAL_MACHINE"_s, QSettings::NativeFormat);
 #else
-    return std::make_unique<StoredSettings>(programFolder + u"/Lorvo.settings"_qs,
+    return std::make_unique<StoredSettings>(programFolder + u"/Lorvo.settings"_s,
                                             QSettings::IniFormat);
 #endif
 }

@@ -17,6 +17,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The cause of what has just failed; a failure without one is told as a full disk's, which is what
@@ -53,7 +55,7 @@ class Draft {
   public:
     /// `path` is the name that the file is meant for, and that a failure names.
     Draft(const QString& path, const QByteArray& bytes)
-        : folder_(QFileInfo(path).path()), file_(folder_ + QStringLiteral("/Lorvo-XXXXXX.tmp")) {
+        : folder_(QFileInfo(path).path()), file_(folder_ + u"/Lorvo-XXXXXX.tmp"_s) {
         errno = 0;
         if (!file_.open() || file_.write(bytes) != bytes.size() || !file_.flush() ||
             !Sync(file_.handle()))
@@ -112,7 +114,7 @@ QString WriteNewFile(const QString& folder, const QString& stem, const QString& 
     Draft draft(first, bytes);
     QString path = first;
     for (int number = 2; !draft.NameAnew(path); ++number)
-        path = QStringLiteral("%1/%2 (%3).%4").arg(folder, stem, QString::number(number), ending);
+        path = u"%1/%2 (%3).%4"_s.arg(folder, stem, QString::number(number), ending);
     return path;
 }
 

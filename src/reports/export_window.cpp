@@ -13,6 +13,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char* kTag = "tag";
@@ -27,7 +29,7 @@ QString ProgramFile(const QString& name) {
 }
 
 QString UnderWay() {
-    return QStringLiteral("jede");
+    return u"jede"_s;
 }
 
 } // namespace
@@ -36,9 +38,9 @@ ExportWindow::ExportWindow(const ExportTraits& traits, QWidget* parent)
     : Form(traits.name, traits.caption, Border::Fixed, parent), traits_(traits) {}
 
 void ExportWindow::LayOut(QWidget* options) {
-    chkHTML = Named(new QCheckBox(QStringLiteral("HTML formát"), this), QStringLiteral("chkHTML"));
-    cmdOK = Named(new QPushButton(traits_.startCaption, this), QStringLiteral("cmdOK"));
-    cmdCancel = Named(new QPushButton(traits_.closeCaption, this), QStringLiteral("cmdCancel"));
+    chkHTML = Named(new QCheckBox(u"HTML formát"_s, this), u"chkHTML"_s);
+    cmdOK = Named(new QPushButton(traits_.startCaption, this), u"cmdOK"_s);
+    cmdCancel = Named(new QPushButton(traits_.closeCaption, this), u"cmdCancel"_s);
     Connect(cmdOK, &QPushButton::clicked, this, &ExportWindow::StartOrStop);
     Connect(cmdCancel, &QPushButton::clicked, this, &ExportWindow::reject);
 
@@ -56,8 +58,8 @@ QWidget* ExportWindow::NoOptions(QWidget* above) {
     layout->setContentsMargins({});
     if (above)
         layout->addWidget(above);
-    auto* options = new QGroupBox(QStringLiteral("Volby"), area);
-    (new QVBoxLayout(options))->addWidget(new QLabel(QStringLiteral("(žádné volby)"), options));
+    auto* options = new QGroupBox(u"Volby"_s, area);
+    (new QVBoxLayout(options))->addWidget(new QLabel(u"(žádné volby)"_s, options));
     layout->addWidget(options);
     return area;
 }
@@ -76,7 +78,7 @@ void ExportWindow::StartOrStop() {
 }
 
 void ExportWindow::Stop() {
-    cmdOK->setText(QStringLiteral("Start"));
+    cmdOK->setText(u"Start"_s);
     if (traits_.stopEnablesClosing)
         cmdCancel->setEnabled(true);
     Preruseno = true;
@@ -86,7 +88,7 @@ void ExportWindow::Start() {
     const bool asTemplate = chkHTML->isChecked();
     const QString captionBefore = windowTitle();
     QString failure;
-    cmdOK->setText(QStringLiteral("Přerušit"));
+    cmdOK->setText(u"Přerušit"_s);
     cmdCancel->setEnabled(asTemplate && !traits_.templateDisablesClosing);
     try {
         Run(asTemplate);
@@ -97,7 +99,7 @@ void ExportWindow::Start() {
     }
     setWindowTitle(failure.isEmpty() ? traits_.title : captionBefore);
     cmdCancel->setEnabled(true);
-    cmdOK->setText(QStringLiteral("Start"));
+    cmdOK->setText(u"Start"_s);
     if (!failure.isEmpty())
         ShowFailure(failure);
     else if (asTemplate ? traits_.closesAfterTemplate : traits_.closesAfterDocument)
@@ -173,11 +175,10 @@ bool ExportWindow::CheckTemplate(const ReportTemplate& pattern) const {
     const ReportTemplate::Fault fault = pattern.Check();
     if (fault == ReportTemplate::Fault::None)
         return true;
-    ThePlatform().messages->Show(
-        fault == ReportTemplate::Fault::MarkerMissing
-            ? QStringLiteral("Šablona poškozena, položka nebyla nalezena.")
-            : QStringLiteral("Šablona poškozena, nesouhlasí pořadí položek."),
-        MessageIcon::None, MessageButtons::Ok, QStringLiteral("Lorvo"));
+    ThePlatform().messages->Show(fault == ReportTemplate::Fault::MarkerMissing
+                                     ? u"Šablona poškozena, položka nebyla nalezena."_s
+                                     : u"Šablona poškozena, nesouhlasí pořadí položek."_s,
+                                 MessageIcon::None, MessageButtons::Ok, u"Lorvo"_s);
     return false;
 }
 

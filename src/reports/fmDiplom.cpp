@@ -6,18 +6,20 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits DiplomaTraits() {
     return {
         .name = "fmDiplom",
-        .caption = QStringLiteral("Tisk diplomů"),
-        .title = QStringLiteral("Export katalogu"),
-        .startCaption = QStringLiteral("Tisk"),
-        .closeCaption = QStringLiteral("Storno"),
-        .paper = QStringLiteral("Diplomy"),
-        .templateFile = QStringLiteral("Šablony/Diplomy.html"),
-        .outputFile = QStringLiteral("Šablony/Výstup.html"),
+        .caption = u"Tisk diplomů"_s,
+        .title = u"Export katalogu"_s,
+        .startCaption = u"Tisk"_s,
+        .closeCaption = u"Storno"_s,
+        .paper = u"Diplomy"_s,
+        .templateFile = u"Šablony/Diplomy.html"_s,
+        .outputFile = u"Šablony/Výstup.html"_s,
         .closesAfterTemplate = true,
         .closesAfterDocument = true,
     };
@@ -26,8 +28,8 @@ ExportTraits DiplomaTraits() {
 } // namespace
 
 fmDiplom::fmDiplom(QWidget* parent) : ExportWindow(DiplomaTraits(), parent) {
-    auto* description = new QLabel(QStringLiteral("Vygeneruje seznam všech psů. Sestava je určena "
-                                                  "pro tisk na předtištěné diplomy."),
+    auto* description = new QLabel(u"Vygeneruje seznam všech psů. Sestava je určena "
+                                   "pro tisk na předtištěné diplomy."_s,
                                    this);
     description->setWordWrap(true);
     LayOut(NoOptions(description));

@@ -10,6 +10,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kNameWidth = 280;
@@ -22,15 +24,14 @@ std::optional<int> SelectedRing() {
 } // namespace
 
 frmJmenoRozhodciho::frmJmenoRozhodciho(QWidget* parent)
-    : Form("frmJmenoRozhodciho", QStringLiteral("Jméno rozhodčího"), Border::Fixed, parent),
-      txtRozhodci(Named(new QLineEdit(this), QStringLiteral("txtRozhodci"))),
-      cmdOK(Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"))),
-      cmdCancel(
-          Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"))) {
+    : Form("frmJmenoRozhodciho", u"Jméno rozhodčího"_s, Border::Fixed, parent),
+      txtRozhodci(Named(new QLineEdit(this), u"txtRozhodci"_s)),
+      cmdOK(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s)),
+      cmdCancel(Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s)) {
     txtRozhodci->setMinimumWidth(kNameWidth);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(CaptionFor(txtRozhodci, QStringLiteral("Jméno rozhodčího"), this));
+    layout->addWidget(CaptionFor(txtRozhodci, u"Jméno rozhodčího"_s, this));
     layout->addWidget(txtRozhodci);
     layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
 

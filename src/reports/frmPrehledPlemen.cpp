@@ -11,21 +11,21 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kTitleWidth = 360;
 }
 
 frmPrehledPlemen::frmPrehledPlemen(QWidget* parent)
-    : Form("frmPrehledPlemen", QStringLiteral("Přehled plemen"), Border::Fixed, parent) {
-    auto* options = new QGroupBox(QStringLiteral("Volby"), this);
-    txtTitle =
-        Named(new QLineEdit(QStringLiteral("Krajská výstava psů společenských plemen v ..."), this),
-              QStringLiteral("txtTitle"));
+    : Form("frmPrehledPlemen", u"Přehled plemen"_s, Border::Fixed, parent) {
+    auto* options = new QGroupBox(u"Volby"_s, this);
+    txtTitle = Named(new QLineEdit(u"Krajská výstava psů společenských plemen v ..."_s, this),
+                     u"txtTitle"_s);
     txtTitle->setMinimumWidth(kTitleWidth);
-    (new QFormLayout(options))
-        ->addRow(CaptionFor(txtTitle, QStringLiteral("Titulek"), options), txtTitle);
-    cmdOK = Named(new QPushButton(QStringLiteral("Tisk"), this), QStringLiteral("cmdOK"));
-    cmdCancel = Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"));
+    (new QFormLayout(options))->addRow(CaptionFor(txtTitle, u"Titulek"_s, options), txtTitle);
+    cmdOK = Named(new QPushButton(u"Tisk"_s, this), u"cmdOK"_s);
+    cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     Connect(cmdOK, &QPushButton::clicked, this, &frmPrehledPlemen::Print);
     Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 
@@ -50,7 +50,7 @@ void frmPrehledPlemen::Print() {
 
 ShownDocument frmPrehledPlemen::PutOut() const {
     const WaitCursor wait(*ThePlatform().ui);
-    const auto word = ThePlatform().wordProcessors->Create(QStringLiteral("Přehled plemen"));
+    const auto word = ThePlatform().wordProcessors->Create(u"Přehled plemen"_s);
     TypeBreedOverview(*word, txtTitle->text());
     return word->Show();
 }

@@ -7,25 +7,26 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits CatalogueTraits() {
     return {
         .name = "frmTiskKatalog",
-        .caption = QStringLiteral("Tisk katalogu"),
-        .title = QStringLiteral("Tisk katalogu"),
-        .startCaption = QStringLiteral("Tisk"),
-        .closeCaption = QStringLiteral("Storno"),
-        .paper = QStringLiteral("Katalog"),
+        .caption = u"Tisk katalogu"_s,
+        .title = u"Tisk katalogu"_s,
+        .startCaption = u"Tisk"_s,
+        .closeCaption = u"Storno"_s,
+        .paper = u"Katalog"_s,
     };
 }
 
 } // namespace
 
 frmTiskKatalog::frmTiskKatalog(QWidget* parent) : ExportWindow(CatalogueTraits(), parent) {
-    auto* options = new QGroupBox(QStringLiteral("Volby"), this);
-    chkEX = Named(new QCheckBox(QStringLiteral("Generovat povýstavní katalog"), options),
-                  QStringLiteral("chkEX"));
+    auto* options = new QGroupBox(u"Volby"_s, this);
+    chkEX = Named(new QCheckBox(u"Generovat povýstavní katalog"_s, options), u"chkEX"_s);
     (new QVBoxLayout(options))->addWidget(chkEX, 0, Qt::AlignLeft);
     LayOut(options);
     chkHTML->setChecked(false);

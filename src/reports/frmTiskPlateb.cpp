@@ -6,18 +6,20 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits PaymentTraits() {
     return {
         .name = "frmTiskPlateb",
-        .caption = QStringLiteral("Platby"),
-        .title = QStringLiteral("Export plateb"),
-        .startCaption = QStringLiteral("Tisk"),
-        .closeCaption = QStringLiteral("Storno"),
-        .paper = QStringLiteral("Platby"),
-        .templateFile = QStringLiteral("Šablony/Platby.html"),
-        .outputFile = QStringLiteral("Šablony/Výstup.html"),
+        .caption = u"Platby"_s,
+        .title = u"Export plateb"_s,
+        .startCaption = u"Tisk"_s,
+        .closeCaption = u"Storno"_s,
+        .paper = u"Platby"_s,
+        .templateFile = u"Šablony/Platby.html"_s,
+        .outputFile = u"Šablony/Výstup.html"_s,
     };
 }
 
@@ -44,9 +46,9 @@ bool frmTiskPlateb::QueryUnload() {
     if (!ExportWindow::QueryUnload())
         return false;
     if (Exported &&
-        ThePlatform().messages->Show(
-            QStringLiteral("Označit všechny vyexportované platby jako 'vytištěné'?"),
-            MessageIcon::Question, MessageButtons::YesNo, windowTitle()) == MessageAnswer::Yes)
+        ThePlatform().messages->Show(u"Označit všechny vyexportované platby jako 'vytištěné'?"_s,
+                                     MessageIcon::Question, MessageButtons::YesNo,
+                                     windowTitle()) == MessageAnswer::Yes)
         MarkAllPaymentsPrinted();
     return true;
 }

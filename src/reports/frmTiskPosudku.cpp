@@ -5,18 +5,20 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits SheetTraits() {
     return {
         .name = "frmTiskPosudku",
-        .caption = QStringLiteral("Export posudků"),
-        .title = QStringLiteral("Export posudků"),
-        .startCaption = QStringLiteral("Start"),
-        .closeCaption = QStringLiteral("Zavřít"),
-        .paper = QStringLiteral("Posudkové listy"),
-        .templateFile = QStringLiteral("Šablony/Posudkové listy.html"),
-        .outputFile = QStringLiteral("Šablony/Výstup.html"),
+        .caption = u"Export posudků"_s,
+        .title = u"Export posudků"_s,
+        .startCaption = u"Start"_s,
+        .closeCaption = u"Zavřít"_s,
+        .paper = u"Posudkové listy"_s,
+        .templateFile = u"Šablony/Posudkové listy.html"_s,
+        .outputFile = u"Šablony/Výstup.html"_s,
         .closesAfterTemplate = true,
     };
 }
@@ -29,8 +31,7 @@ constexpr const char16_t* kLabels[] = {u"Nadpis",     u"Úvod",       u"Odstavec
 
 frmTiskPosudku::frmTiskPosudku(QWidget* parent)
     : ExportWindow(SheetTraits(), parent), boxes_(new TextLineBoxes(this)) {
-    const auto title =
-        QStringLiteral("Krajská výstava psů společenských plemen Zlín 14. května 2005");
+    const auto title = u"Krajská výstava psů společenských plemen Zlín 14. května 2005"_s;
     for (const char16_t* label : kLabels)
         boxes_->Add(QString::fromUtf16(label), label == kLabels[0] ? title : QString());
     LayOut(boxes_);

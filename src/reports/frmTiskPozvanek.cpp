@@ -5,18 +5,20 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits ConfirmationTraits() {
     return {
         .name = "frmTiskPozvanek",
-        .caption = QStringLiteral("Export pozvánek"),
-        .title = QStringLiteral("Export pozvánek"),
-        .startCaption = QStringLiteral("Start"),
-        .closeCaption = QStringLiteral("Zavřít"),
-        .paper = QStringLiteral("Pozvánky"),
-        .templateFile = QStringLiteral("Šablony/Pozvánky.html"),
-        .outputFile = QStringLiteral("HTMLVýstup.html"),
+        .caption = u"Export pozvánek"_s,
+        .title = u"Export pozvánek"_s,
+        .startCaption = u"Start"_s,
+        .closeCaption = u"Zavřít"_s,
+        .paper = u"Pozvánky"_s,
+        .templateFile = u"Šablony/Pozvánky.html"_s,
+        .outputFile = u"HTMLVýstup.html"_s,
         .closesAfterTemplate = true,
         .closesAfterDocument = true,
         .templateDisablesClosing = false,

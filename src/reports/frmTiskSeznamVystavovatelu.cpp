@@ -5,18 +5,20 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits ExhibitorTraits() {
     return {
         .name = "frmTiskSeznamVystavovatelu",
-        .caption = QStringLiteral("Export seznamu vystavovatelů"),
-        .title = QStringLiteral("Export seznamu vystavovatelů"),
-        .startCaption = QStringLiteral("Start"),
-        .closeCaption = QStringLiteral("Zavřít"),
-        .paper = QStringLiteral("Seznam vystavovatelů"),
-        .templateFile = QStringLiteral("Šablony/Seznam vystavovatelů.html"),
-        .outputFile = QStringLiteral("Šablony/Výstup.html"),
+        .caption = u"Export seznamu vystavovatelů"_s,
+        .title = u"Export seznamu vystavovatelů"_s,
+        .startCaption = u"Start"_s,
+        .closeCaption = u"Zavřít"_s,
+        .paper = u"Seznam vystavovatelů"_s,
+        .templateFile = u"Šablony/Seznam vystavovatelů.html"_s,
+        .outputFile = u"Šablony/Výstup.html"_s,
         .closesAfterTemplate = true,
     };
 }
@@ -27,10 +29,9 @@ ExportTraits ExhibitorTraits() {
 frmTiskSeznamVystavovatelu::frmTiskSeznamVystavovatelu(QWidget* parent)
     : ExportWindow(ExhibitorTraits(), parent) {
     auto* boxes = new TextLineBoxes(this);
-    boxes->Add(QStringLiteral("Nadpis"),
-               QStringLiteral("Krajská výstava psů společenských plemen Zlín 14. května 2005"));
-    boxes->Add(QStringLiteral("Úvod"));
-    boxes->Add(QStringLiteral("Odstavec 1"));
+    boxes->Add(u"Nadpis"_s, u"Krajská výstava psů společenských plemen Zlín 14. května 2005"_s);
+    boxes->Add(u"Úvod"_s);
+    boxes->Add(u"Odstavec 1"_s);
     LayOut(NoOptions(boxes));
 }
 

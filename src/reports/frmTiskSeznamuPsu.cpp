@@ -8,22 +8,24 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits DogListTraits() {
     return {
         .name = "frmTiskSeznamuPsu",
-        .caption = QStringLiteral("Export seznamu psů"),
-        .title = QStringLiteral("Export seznamu psů"),
-        .startCaption = QStringLiteral("Start"),
-        .closeCaption = QStringLiteral("Zavřít"),
-        .paper = QStringLiteral("Seznam psů"),
-        .templateFile = QStringLiteral("Šablony/Seznam psů.html"),
-        .outputFile = QStringLiteral("Šablony/Výstup.html"),
+        .caption = u"Export seznamu psů"_s,
+        .title = u"Export seznamu psů"_s,
+        .startCaption = u"Start"_s,
+        .closeCaption = u"Zavřít"_s,
+        .paper = u"Seznam psů"_s,
+        .templateFile = u"Šablony/Seznam psů.html"_s,
+        .outputFile = u"Šablony/Výstup.html"_s,
         .closesAfterTemplate = true,
         .closesAfterDocument = true,
         .stopEnablesClosing = false,
-        .progressText = QStringLiteral(" - Generuji: "),
+        .progressText = u" - Generuji: "_s,
     };
 }
 
@@ -46,7 +48,7 @@ frmTiskSeznamuPsu::frmTiskSeznamuPsu(QWidget* parent) : ExportWindow(DogListTrai
 }
 
 QGroupBox* frmTiskSeznamuPsu::MakeOptions() {
-    auto* options = new QGroupBox(QStringLiteral("Seskupit podle "), this);
+    auto* options = new QGroupBox(u"Seskupit podle "_s, this);
     auto* layout = new QVBoxLayout(options);
     for (std::size_t i = 0; i < kOptions.size(); ++i) {
         const SortKeyOption& option = kOptions[i];

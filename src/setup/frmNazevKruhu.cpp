@@ -10,21 +10,22 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kNameWidth = 280;
 }
 
 frmNazevKruhu::frmNazevKruhu(QWidget* parent)
-    : Form("frmNazevKruhu", QStringLiteral("Název kruhu"), Border::Fixed, parent),
-      txtName(Named(new QLineEdit(this), QStringLiteral("txtName"))),
-      cmdOK(Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"))),
-      cmdCancel(
-          Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"))) {
+    : Form("frmNazevKruhu", u"Název kruhu"_s, Border::Fixed, parent),
+      txtName(Named(new QLineEdit(this), u"txtName"_s)),
+      cmdOK(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s)),
+      cmdCancel(Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s)) {
     txtName->setMinimumWidth(kNameWidth);
     cmdOK->setEnabled(false);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(CaptionFor(txtName, QStringLiteral("Název kruhu"), this));
+    layout->addWidget(CaptionFor(txtName, u"Název kruhu"_s, this));
     layout->addWidget(txtName);
     layout->addLayout(ButtonRow({cmdOK, cmdCancel}));
 

@@ -15,6 +15,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kBusyMillisecondsAtEnd = 200; ///< nobody waits gladly for a window to close
@@ -64,14 +66,14 @@ void RequireShowTables(const Schema& schema, const QString& path) {
         return schema.FindTable(name) != nullptr;
     });
     if (!hasAny)
-        throw StoreError(AboutFile(path, u"v souboru není žádná tabulka programu Lorvo"_qs));
+        throw StoreError(AboutFile(path, u"v souboru není žádná tabulka programu Lorvo"_s));
 }
 
 /// Every page that a table or an index uses can be read and makes sense.
 void RequireWholePages(SQLite::Database& database, const QString& path) {
     SQLite::Statement check(database, "PRAGMA quick_check(1)");
     if (!check.executeStep() || check.getColumn(0).getString() != "ok")
-        throw CorruptStoreError(AboutFile(path, u"soubor je poškozený"_qs));
+        throw CorruptStoreError(AboutFile(path, u"soubor je poškozený"_s));
 }
 
 /// Raises what speaks against working on the file; touches neither it nor a journal beside it.
@@ -201,7 +203,7 @@ QString TakeSkippedDiskFailure() {
 
 std::string Quoted(const QString& text) {
     QString doubled = text;
-    doubled.replace(u'\'', u"''"_qs);
+    doubled.replace(u'\'', u"''"_s);
     return '\'' + doubled.toStdString() + '\'';
 }
 

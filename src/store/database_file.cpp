@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The first bytes of every database file of the engine.
@@ -40,17 +42,17 @@ qint64 PromisedLength(const QByteArray& header) {
 QByteArray ReadHeader(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + CauseOfFailure(file)));
+        throw DiskError(AboutFile(path, u"soubor nelze číst: "_s + CauseOfFailure(file)));
     return file.read(kHeaderSize);
 }
 
 void RequireWritable(const QString& path) {
     const QFileInfo info(path);
     if (!info.isWritable())
-        throw DiskError(AboutFile(path, u"soubor je jen pro čtení"_qs) +
+        throw DiskError(AboutFile(path, u"soubor je jen pro čtení"_s) +
                         " Povolte do něj zápis, nebo program přesuňte tam, kam smíte zapisovat.");
     if (!QFileInfo(info.absolutePath()).isWritable())
-        throw DiskError(AboutFile(path, u"do složky souboru nelze zapisovat"_qs) +
+        throw DiskError(AboutFile(path, u"do složky souboru nelze zapisovat"_s) +
                         " Povolte do ní zápis, nebo program přesuňte tam, kam smíte zapisovat.");
 }
 
@@ -59,32 +61,32 @@ void RequireWritable(const QString& path) {
 constexpr int kRoomForEdits = 256 * 1024;
 
 void RequireRoom(const QString& path) {
-    QTemporaryFile file(QFileInfo(path).absolutePath() + u"/lorvo-XXXXXX"_qs);
+    QTemporaryFile file(QFileInfo(path).absolutePath() + u"/lorvo-XXXXXX"_s);
     const bool hasRoom = file.open() &&
                          file.write(QByteArray(kRoomForEdits, '\x5a')) == kRoomForEdits &&
                          file.flush();
     if (!hasRoom)
         throw DiskError(
-            AboutFile(path, u"do složky souboru nelze zapisovat: "_qs + CauseOfFailure(file)) +
+            AboutFile(path, u"do složky souboru nelze zapisovat: "_s + CauseOfFailure(file)) +
             " Uvolněte na disku místo a povolte do složky zápis.");
 }
 
 void RequireFile(const QFileInfo& info, const QString& path) {
     if (info.isDir())
-        throw StoreError(AboutFile(path, u"na místě souboru je složka téhož jména"_qs) +
+        throw StoreError(AboutFile(path, u"na místě souboru je složka téhož jména"_s) +
                          " Přejmenujte ji a vraťte na její místo soubor.");
     if (!info.isFile())
-        throw StoreError(AboutFile(path, u"soubor neexistuje"_qs) +
+        throw StoreError(AboutFile(path, u"soubor neexistuje"_s) +
                          " Vraťte ho na toto místo, například ze složky Zálohy.");
     if (info.size() == 0)
-        throw StoreError(AboutFile(path, u"soubor je prázdný"_qs) +
+        throw StoreError(AboutFile(path, u"soubor je prázdný"_s) +
                          " Vraťte na jeho místo kopii, například ze složky Zálohy.");
 }
 
 } // namespace
 
 std::string AboutFile(const QString& path, const QString& reason) {
-    return u"Databáze %1: %2."_qs.arg(QDir::toNativeSeparators(path), reason).toStdString();
+    return u"Databáze %1: %2."_s.arg(QDir::toNativeSeparators(path), reason).toStdString();
 }
 
 void RequireDatabaseFile(const QString& path) {
@@ -92,11 +94,11 @@ void RequireDatabaseFile(const QString& path) {
     RequireFile(info, path);
     const QByteArray header = ReadHeader(path);
     if (!header.startsWith(kMagic) && !kMagic.startsWith(header))
-        throw StoreError(AboutFile(path, u"soubor není databáze programu Lorvo"_qs));
+        throw StoreError(AboutFile(path, u"soubor není databáze programu Lorvo"_s));
     // What is missing behind the end may still stand in the journal.
     const bool isShort = info.size() < PromisedLength(header) && !HasLeftoverJournal(path);
     if (isShort || header.size() < kHeaderSize)
-        throw CorruptStoreError(AboutFile(path, u"soubor není úplný, jeho konec chybí"_qs));
+        throw CorruptStoreError(AboutFile(path, u"soubor není úplný, jeho konec chybí"_s));
     RequireWritable(path);
     RequireRoom(path);
 }

@@ -10,6 +10,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum class Kind { Statement, Disk, Damage };
@@ -59,9 +61,9 @@ Cause CauseOf(int code) {
 /// statement.
 QString Details(const Cause& cause, int systemCode, const char* message) {
     if (cause.kind == Kind::Disk && systemCode != 0)
-        return u": "_qs + CauseOfSystemFailure(systemCode);
+        return u": "_s + CauseOfSystemFailure(systemCode);
     if (cause.kind == Kind::Statement)
-        return u" (%1)"_qs.arg(QString::fromUtf8(message));
+        return u" (%1)"_s.arg(QString::fromUtf8(message));
     return {};
 }
 

@@ -9,6 +9,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool IsBlankText(const Value& value) {
@@ -99,9 +101,9 @@ std::string AboutCell(sqlite3_stmt* statement, const ResultColumn& column, const
     const char* path = sqlite3_db_filename(sqlite3_db_handle(statement), "main");
     const QString table = column.table.empty()
                               ? QString()
-                              : u"tabulka %1, "_qs.arg(QString::fromStdString(column.table));
+                              : u"tabulka %1, "_s.arg(QString::fromStdString(column.table));
     return AboutFile(QString::fromUtf8(path),
-                     table + u"pole %1: "_qs.arg(QString::fromStdString(column.name)) +
+                     table + u"pole %1: "_s.arg(QString::fromStdString(column.name)) +
                          QString::fromUtf8(reason));
 }
 

@@ -13,6 +13,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Fields of the file's header, by their places.
@@ -20,17 +22,17 @@ constexpr qsizetype kVersions = 18; ///< of writing and reading; 2 asks for a wr
 constexpr qsizetype kFirstFreeTrunk = 32;
 
 QString LogOf(const QString& path) {
-    return path + u"-wal"_qs;
+    return path + u"-wal"_s;
 }
 
 QString RollbackOf(const QString& path) {
-    return path + u"-journal"_qs;
+    return path + u"-journal"_s;
 }
 
 QByteArray ReadWhole(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw DiskError(AboutFile(path, u"soubor nelze číst: "_qs + CauseOfFailure(file)));
+        throw DiskError(AboutFile(path, u"soubor nelze číst: "_s + CauseOfFailure(file)));
     return file.readAll();
 }
 
@@ -59,7 +61,7 @@ void RequireNoneMissing(const QByteArray& content, const JournalPages& journal, 
     for (quint32 page = 1; page <= journal.pageCount; ++page) {
         const bool inFile = qint64(page) * journal.pageSize <= fileSize;
         if (!inFile && !journal.pages.contains(page) && !free.contains(page))
-            throw CorruptStoreError(AboutFile(path, u"soubor není úplný, jeho konec chybí"_qs));
+            throw CorruptStoreError(AboutFile(path, u"soubor není úplný, jeho konec chybí"_s));
     }
 }
 

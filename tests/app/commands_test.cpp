@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Nullptr when there is no such command.
@@ -39,13 +42,13 @@ TEST(Commands, OfEveryBarExist) {
 }
 
 TEST(Commands, StandInTheOrderOfTheirBars) {
-    EXPECT_EQ(Buttons(u"STANDARD").join(u' '), u"ADD TABLES EXPORT SETTINGS HELP"_qs);
-    EXPECT_EQ(Buttons(u"ADD").join(u' '), u"ADD:CIRCLE ADD:DOG"_qs);
-    EXPECT_EQ(Buttons(u"HELP").join(u' '), u"HELP:GENERAL HELP:ABOUT"_qs);
-    EXPECT_EQ(Buttons(u"TABLES").indexOf(u"TABLES:SEP1"_qs), 2);
-    EXPECT_EQ(Buttons(u"TABLES").indexOf(u"TABLES:SEP2"_qs), 8);
-    EXPECT_EQ(Buttons(u"EXPORT").constFirst(), u"EXPORT:KATALOG"_qs);
-    EXPECT_EQ(Buttons(u"EXPORT").constLast(), u"EXPORT:PLATBY"_qs);
+    EXPECT_EQ(Buttons(u"STANDARD").join(u' '), u"ADD TABLES EXPORT SETTINGS HELP"_s);
+    EXPECT_EQ(Buttons(u"ADD").join(u' '), u"ADD:CIRCLE ADD:DOG"_s);
+    EXPECT_EQ(Buttons(u"HELP").join(u' '), u"HELP:GENERAL HELP:ABOUT"_s);
+    EXPECT_EQ(Buttons(u"TABLES").indexOf(u"TABLES:SEP1"_s), 2);
+    EXPECT_EQ(Buttons(u"TABLES").indexOf(u"TABLES:SEP2"_s), 8);
+    EXPECT_EQ(Buttons(u"EXPORT").constFirst(), u"EXPORT:KATALOG"_s);
+    EXPECT_EQ(Buttons(u"EXPORT").constLast(), u"EXPORT:PLATBY"_s);
 }
 
 TEST(Commands, WithoutAButtonExistAllTheSame) {

@@ -7,14 +7,17 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class HelpTest : public ::testing::Test {
   protected:
     QString Path(const QString& name) const { return platform.ProgramFolder() + u'/' + name; }
     void PutPage(const QString& name) {
-        ASSERT_TRUE(QDir(platform.ProgramFolder()).mkpath(u"Nápověda"_qs));
-        QFile page(Path(u"Nápověda/"_qs + name));
+        ASSERT_TRUE(QDir(platform.ProgramFolder()).mkpath(u"Nápověda"_s));
+        QFile page(Path(u"Nápověda/"_s + name));
         ASSERT_TRUE(page.open(QIODevice::WriteOnly));
     }
 
@@ -22,32 +25,32 @@ class HelpTest : public ::testing::Test {
 };
 
 TEST_F(HelpTest, IsOpenedWhole) {
-    PutPage(u"index.html"_qs);
+    PutPage(u"index.html"_s);
     OpenHelp();
-    EXPECT_EQ(platform.openedFiles, QStringList(Path(u"Lorvo.chm"_qs)));
+    EXPECT_EQ(platform.openedFiles, QStringList(Path(u"Lorvo.chm"_s)));
 }
 
 TEST_F(HelpTest, WithoutAViewerItsPagesAreOpened) {
     platform.filesOpen = false;
-    PutPage(u"index.html"_qs);
+    PutPage(u"index.html"_s);
     OpenHelp();
     EXPECT_EQ(platform.openedFiles,
-              QStringList({Path(u"Lorvo.chm"_qs), Path(u"Nápověda/index.html"_qs)}));
+              QStringList({Path(u"Lorvo.chm"_s), Path(u"Nápověda/index.html"_s)}));
 }
 
 TEST_F(HelpTest, WithoutViewerAndPagesTheDesktopSaysWhatItCan) {
     platform.filesOpen = false;
     OpenHelp();
-    EXPECT_EQ(platform.openedFiles, QStringList(Path(u"Lorvo.chm"_qs)));
+    EXPECT_EQ(platform.openedFiles, QStringList(Path(u"Lorvo.chm"_s)));
 }
 
 TEST_F(HelpTest, AWindowHasItsPageOrTheFirstOne) {
-    PutPage(u"index.html"_qs);
-    PutPage(u"fm_Dog.html"_qs);
-    OpenHelpOn(u"fm_Dog"_qs);
-    OpenHelpOn(u"frmPlatba"_qs);
+    PutPage(u"index.html"_s);
+    PutPage(u"fm_Dog.html"_s);
+    OpenHelpOn(u"fm_Dog"_s);
+    OpenHelpOn(u"frmPlatba"_s);
     EXPECT_EQ(platform.openedFiles,
-              QStringList({Path(u"Nápověda/fm_Dog.html"_qs), Path(u"Nápověda/index.html"_qs)}));
+              QStringList({Path(u"Nápověda/fm_Dog.html"_s), Path(u"Nápověda/index.html"_s)}));
 }
 
 } // namespace

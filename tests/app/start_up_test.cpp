@@ -13,6 +13,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class StartUp : public ::testing::Test {
@@ -28,13 +31,13 @@ class StartUp : public ::testing::Test {
     static QString CurrencyMarks() {
         QStringList marks;
         for (const Meny& money : Currencies())
-            marks << money.Zkratka + (money.Hlavni ? u"*"_qs : QString());
+            marks << money.Zkratka + (money.Hlavni ? u"*"_s : QString());
         return marks.join(u' ');
     }
     void SetSetting(const QString& name, const QString& text) {
-        platform_.settings[u"Sys\\"_qs + name] = text;
+        platform_.settings[u"Sys\\"_s + name] = text;
     }
-    QString Setting(const QString& name) { return platform_.settings[u"Sys\\"_qs + name]; }
+    QString Setting(const QString& name) { return platform_.settings[u"Sys\\"_s + name]; }
 
     test::RecordingPlatform platform_;
     TempDatabase database_;
@@ -46,9 +49,9 @@ TEST_F(StartUp, AMissingDatabaseIsNamedWithTheReason) {
         OpenDatabase();
         FAIL() << "opened a file that isn't there";
     } catch (const StoreError& error) {
-        EXPECT_TRUE(QString::fromUtf8(error.what()).contains(u"data.mdb"_qs)) << error.what();
+        EXPECT_TRUE(QString::fromUtf8(error.what()).contains(u"data.mdb"_s)) << error.what();
     }
-    EXPECT_FALSE(QFile::exists(platform_.ProgramFolder() + u"/data.mdb"_qs));
+    EXPECT_FALSE(QFile::exists(platform_.ProgramFolder() + u"/data.mdb"_s));
 }
 
 TEST_F(StartUp, TheDatabaseLiesInTheProgramFolder) {
@@ -56,7 +59,7 @@ TEST_F(StartUp, TheDatabaseLiesInTheProgramFolder) {
     TempDatabase::CopyTo(platform_.ProgramFolder());
     OpenDatabase();
     EXPECT_TRUE(TheDataModule().Conn1.IsOpen());
-    EXPECT_EQ(TheDataModule().Conn1.Path(), platform_.ProgramFolder() + u"/data.mdb"_qs);
+    EXPECT_EQ(TheDataModule().Conn1.Path(), platform_.ProgramFolder() + u"/data.mdb"_s);
     TheDataModule().Conn1.Close();
 }
 
@@ -64,78 +67,78 @@ TEST_F(StartUp, AnEmptyTableOfShowsGetsTheMainShowEachTime) {
     for (int start = 0; start < 2; ++start) {
         EnsureShow();
         ASSERT_EQ(Shows().size(), 1u);
-        EXPECT_EQ(Shows().front().Nazev, u"Hlavní výstava"_qs);
+        EXPECT_EQ(Shows().front().Nazev, u"Hlavní výstava"_s);
         EXPECT_FALSE(Shows().front().Uzaverka1);
         database_.Execute("DELETE FROM Vystavy");
     }
 }
 
 TEST_F(StartUp, ShowsThatAreThereAreLeftAlone) {
-    InsertShow(u"Krajská"_qs);
+    InsertShow(u"Krajská"_s);
     EnsureShow();
     ASSERT_EQ(Shows().size(), 1u);
-    EXPECT_EQ(Shows().front().Nazev, u"Krajská"_qs);
+    EXPECT_EQ(Shows().front().Nazev, u"Krajská"_s);
 }
 
 TEST_F(StartUp, TheFirstCurrencyBecomesMainWhateverTheLocaleSays) {
-    AddCurrency(u"EUR"_qs, false);
-    AddCurrency(u"Kč"_qs, false);
+    AddCurrency(u"EUR"_s, false);
+    AddCurrency(u"Kč"_s, false);
     EnsureMainCurrency();
-    EXPECT_EQ(CurrencyMarks(), u"EUR* Kč"_qs);
-    EXPECT_EQ(Module().MainCurrency, u"EUR"_qs);
+    EXPECT_EQ(CurrencyMarks(), u"EUR* Kč"_s);
+    EXPECT_EQ(Module().MainCurrency, u"EUR"_s);
 }
 
 TEST_F(StartUp, ACurrencyWithoutAbbreviationBecomesMainBeforeTheFirst) {
-    AddCurrency(u"EUR"_qs, false);
+    AddCurrency(u"EUR"_s, false);
     AddCurrency(QString(), false);
     EnsureMainCurrency();
-    EXPECT_EQ(CurrencyMarks(), u"EUR *"_qs);
+    EXPECT_EQ(CurrencyMarks(), u"EUR *"_s);
     EXPECT_EQ(Module().MainCurrency, QString());
 }
 
 TEST_F(StartUp, OfTwoMainCurrenciesTheFirstWins) {
-    AddCurrency(u"USD"_qs, false);
-    AddCurrency(u"EUR"_qs, true);
-    AddCurrency(u"Kč"_qs, true);
+    AddCurrency(u"USD"_s, false);
+    AddCurrency(u"EUR"_s, true);
+    AddCurrency(u"Kč"_s, true);
     EnsureMainCurrency();
-    EXPECT_EQ(CurrencyMarks(), u"USD EUR* Kč"_qs);
-    EXPECT_EQ(Module().MainCurrency, u"EUR"_qs);
+    EXPECT_EQ(CurrencyMarks(), u"USD EUR* Kč"_s);
+    EXPECT_EQ(Module().MainCurrency, u"EUR"_s);
 }
 
 TEST_F(StartUp, RowsWithTheWinnersAbbreviationKeepTheirMark) {
-    AddCurrency(u"EUR"_qs, true);
-    AddCurrency(u"Kč"_qs, true);
-    AddCurrency(u"EUR"_qs, true);
+    AddCurrency(u"EUR"_s, true);
+    AddCurrency(u"Kč"_s, true);
+    AddCurrency(u"EUR"_s, true);
     EnsureMainCurrency();
-    EXPECT_EQ(CurrencyMarks(), u"EUR* Kč EUR*"_qs);
+    EXPECT_EQ(CurrencyMarks(), u"EUR* Kč EUR*"_s);
 }
 
 TEST_F(StartUp, WithoutCurrenciesTheTableStaysEmptyAndAmountsAreInCrowns) {
     EnsureMainCurrency();
     EXPECT_EQ(CountCurrencies(), 0);
-    EXPECT_EQ(Module().MainCurrency, u"Kč"_qs);
+    EXPECT_EQ(Module().MainCurrency, u"Kč"_s);
 }
 
 TEST_F(StartUp, AMissingTableOfCurrenciesIsPassedOverInSilence) {
     database_.Execute("DROP TABLE Meny");
     EnsureMainCurrency();
-    EXPECT_EQ(Module().MainCurrency, u"Kč"_qs);
+    EXPECT_EQ(Module().MainCurrency, u"Kč"_s);
 }
 
 TEST_F(StartUp, ClassesAreShownOnlyByTheTextOne) {
-    for (const QString& text : {QString(), u"0"_qs, u"2"_qs, u"true"_qs}) {
-        SetSetting(u"ShowClasses"_qs, text);
+    for (const QString& text : {QString(), u"0"_s, u"2"_s, u"true"_s}) {
+        SetSetting(u"ShowClasses"_s, text);
         ReadShowClasses();
         EXPECT_FALSE(Module().ShowClassesOn) << text.toStdString();
     }
-    SetSetting(u"ShowClasses"_qs, u"1"_qs);
+    SetSetting(u"ShowClasses"_s, u"1"_s);
     ReadShowClasses();
     EXPECT_TRUE(Module().ShowClassesOn);
 }
 
 TEST_F(StartUp, ARememberedNodeSwitchesRememberingOn) {
-    SetSetting(u"RememberTree"_qs, u"P12"_qs);
-    EXPECT_EQ(RememberedNode(), u"P12"_qs);
+    SetSetting(u"RememberTree"_s, u"P12"_s);
+    EXPECT_EQ(RememberedNode(), u"P12"_s);
     EXPECT_TRUE(Module().RememberTreeOn);
 }
 
@@ -147,20 +150,20 @@ TEST_F(StartUp, WithoutARememberedNodeRememberingIsOff) {
 
 TEST_F(StartUp, TheTreesStateIsStoredWhenRemembered) {
     Module().RememberTreeOn = true;
-    StoreTreeState(u"R5"_qs, {u"K1"_qs, u"R5"_qs});
-    EXPECT_EQ(Setting(u"RememberTree"_qs), u"R5"_qs);
-    EXPECT_EQ(Setting(u"ExpandedItems"_qs), u"K1|R5"_qs);
+    StoreTreeState(u"R5"_s, {u"K1"_s, u"R5"_s});
+    EXPECT_EQ(Setting(u"RememberTree"_s), u"R5"_s);
+    EXPECT_EQ(Setting(u"ExpandedItems"_s), u"K1|R5"_s);
     StoreTreeState(QString(), {});
-    EXPECT_EQ(Setting(u"RememberTree"_qs), u"R5"_qs) << "no selected node overwrites nothing";
-    EXPECT_EQ(Setting(u"ExpandedItems"_qs), QString());
+    EXPECT_EQ(Setting(u"RememberTree"_s), u"R5"_s) << "no selected node overwrites nothing";
+    EXPECT_EQ(Setting(u"ExpandedItems"_s), QString());
 }
 
 TEST_F(StartUp, WithoutRememberingOnlyTheNodeIsForgotten) {
-    SetSetting(u"RememberTree"_qs, u"R5"_qs);
-    SetSetting(u"ExpandedItems"_qs, u"K1|R5"_qs);
-    StoreTreeState(u"R7"_qs, {u"K2"_qs});
-    EXPECT_EQ(Setting(u"RememberTree"_qs), QString());
-    EXPECT_EQ(Setting(u"ExpandedItems"_qs), u"K1|R5"_qs);
+    SetSetting(u"RememberTree"_s, u"R5"_s);
+    SetSetting(u"ExpandedItems"_s, u"K1|R5"_s);
+    StoreTreeState(u"R7"_s, {u"K2"_s});
+    EXPECT_EQ(Setting(u"RememberTree"_s), QString());
+    EXPECT_EQ(Setting(u"ExpandedItems"_s), u"K1|R5"_s);
 }
 
 } // namespace

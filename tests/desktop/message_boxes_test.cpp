@@ -9,18 +9,21 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Shows a box and runs `inside` with it.
 MessageAnswer Answer(MessageButtons buttons, const std::function<void(QMessageBox&)>& inside,
                      MessageIcon icon = MessageIcon::Question,
-                     const QString& text = QStringLiteral("Smazat psa?")) {
+                     const QString& text = u"Smazat psa?"_s) {
     QTimer::singleShot(0, qApp, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_TRUE(box);
         inside(*box);
     });
-    return DesktopMessageBoxes().Show(text, icon, buttons, QStringLiteral("Lorvo"));
+    return DesktopMessageBoxes().Show(text, icon, buttons, u"Lorvo"_s);
 }
 
 void Press(QMessageBox& box, const char* name) {
@@ -74,8 +77,8 @@ TEST(MessageBoxesTest, EscAndTheCloseBoxAnswerTheMildest) {
 }
 
 TEST(MessageBoxesTest, IsNeverLargerThanTheScreenWhateverWasPastedIn) {
-    for (const QString& text : {QStringLiteral("Rex\n").repeated(3000),
-                                QStringLiteral("Rex a Alík ").repeated(3000), QString(30000, u'x')})
+    for (const QString& text :
+         {u"Rex\n"_s.repeated(3000), u"Rex a Alík "_s.repeated(3000), QString(30000, u'x')})
         Answer(
             MessageButtons::Ok,
             [&text](QMessageBox& box) {
@@ -89,7 +92,7 @@ TEST(MessageBoxesTest, IsNeverLargerThanTheScreenWhateverWasPastedIn) {
 }
 
 TEST(MessageBoxesTest, ShowsTheTextAsItIsWithItsIconAndTitle) {
-    const QString text = QStringLiteral("<b>Rex</b> & Alík\ndruhý řádek");
+    const QString text = u"<b>Rex</b> & Alík\ndruhý řádek"_s;
     const auto check = [&](MessageIcon icon, QMessageBox::Icon expected) {
         Answer(
             MessageButtons::Ok,
@@ -97,7 +100,7 @@ TEST(MessageBoxesTest, ShowsTheTextAsItIsWithItsIconAndTitle) {
                 EXPECT_EQ(box.icon(), expected);
                 EXPECT_EQ(box.text(), text);
                 EXPECT_EQ(box.textFormat(), Qt::PlainText);
-                EXPECT_EQ(box.windowTitle(), QStringLiteral("Lorvo"));
+                EXPECT_EQ(box.windowTitle(), u"Lorvo"_s);
                 box.close();
             },
             icon, text);

@@ -8,6 +8,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 MenuEntry Entry(int number, const char* text) {
@@ -56,7 +59,7 @@ TEST(PopupMenusTest, ShowsMarksGreyingSeparatorsAndPlainTexts) {
     Track({marked, MenuEntry::Separator(), greyed}, [](QMenu& menu) {
         const QList<QAction*> actions = menu.actions();
         ASSERT_EQ(actions.size(), 3);
-        EXPECT_EQ(actions[0]->text(), QStringLiteral("První && druhá"));
+        EXPECT_EQ(actions[0]->text(), u"První && druhá"_s);
         EXPECT_EQ(actions[0]->data().toInt(), 606);
         EXPECT_TRUE(actions[0]->isChecked());
         EXPECT_TRUE(actions[1]->isSeparator());

@@ -1,6 +1,9 @@
 #include "dogs/dog_editor_fixture.h"
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class AddDogTest : public DogEditorTest {};
@@ -49,15 +52,14 @@ TEST_F(AddDogTest, AddsTheNodeToItsBreedAndSelectsIt) {
         Press(window, "cmd_OK");
     });
     const QString node = Node(Module().CurrentDogID);
-    EXPECT_EQ(tree.calls,
-              (QStringList{QStringLiteral("AddDogNode %1 %2 Alík male").arg(Breed(), node),
-                           QStringLiteral("SelectNode %1").arg(node)}));
+    EXPECT_EQ(tree.calls, (QStringList{u"AddDogNode %1 %2 Alík male"_s.arg(Breed(), node),
+                                       u"SelectNode %1"_s.arg(node)}));
     EXPECT_EQ(Module().SavedOwnerID, petr);
 }
 
 TEST_F(AddDogTest, AddsTheNodeToItsClassWhileTheTreeShowsClasses) {
     Module().ShowClassesOn = true;
-    const QString node = QStringLiteral("TR%1|5").arg(breed);
+    const QString node = u"TR%1|5"_s.arg(breed);
     tree.AddNode(node, Text("otevřená"), Breed());
     AddDog([&](QWidget& window) {
         FillIn(window);

@@ -4,6 +4,9 @@
 #include <QTest>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class EditDogTest : public DogEditorTest {};
@@ -61,10 +64,9 @@ TEST_F(EditDogTest, PatchesTheNodeAndTheTitleWithoutMovingTheNode) {
         Press(window, "cmd_OK");
     });
     const QString node = Node(dog);
-    EXPECT_EQ(tree.calls, (QStringList{QStringLiteral("ShowNodeInfo %1").arg(node),
-                                       QStringLiteral("SetItemTitle Alík z Lhoty"),
-                                       QStringLiteral("SetNodeText %1 Alík 17").arg(node),
-                                       QStringLiteral("SelectNode %1").arg(node)}));
+    EXPECT_EQ(tree.calls,
+              (QStringList{u"ShowNodeInfo %1"_s.arg(node), u"SetItemTitle Alík z Lhoty"_s,
+                           u"SetNodeText %1 Alík 17"_s.arg(node), u"SelectNode %1"_s.arg(node)}));
     EXPECT_EQ(tree.ParentNode(node), Breed());
     EXPECT_EQ(Dog("Trida"), "6");
 }
@@ -149,7 +151,7 @@ TEST_F(EditDogTest, APercentSignInTheNameStaysAPercentSign) {
 
 TEST_F(EditDogTest, ANodeThatIsNoDogsIsNotTakenForTheDogOfItsNumber) {
     const int dog = StoredDog();
-    tree.selected = QStringLiteral("R%1").arg(dog);
+    tree.selected = u"R%1"_s.arg(dog);
     Module().IsAddingDog = false;
     fm_Dog window(nullptr);
     WhileOpen([&] { OpenModal(window); },
@@ -163,7 +165,7 @@ TEST_F(EditDogTest, ADogThatIsGoneFails) {
 
 TEST_F(EditDogTest, ABreedOfTheSameNumberIsNotTakenForTheDog) {
     const int dog = StoredDog();
-    tree.selected = QStringLiteral("R%1").arg(dog);
+    tree.selected = u"R%1"_s.arg(dog);
     Module().IsAddingDog = false;
     fm_Dog window(nullptr);
     WhileOpen([&] { OpenModal(window); },

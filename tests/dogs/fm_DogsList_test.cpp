@@ -16,6 +16,9 @@
 #include <QToolBar>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum Column {
@@ -99,7 +102,7 @@ TEST_F(fm_DogsListTest, ShowsADogWithAllThatBelongsToIt) {
         EXPECT_EQ(Line(list, 0),
                   "Rex z Lhoty | Pes | Jana Malá | Boxer | hlídat | Jarní | I | 600 Kč | Mladý "
                   "vystavovatel, Pár | 75 Kč | CAC, BOB | 1000,5 Kč | 325,5 Kč");
-        EXPECT_EQ(list.Row(0).key, QStringLiteral("P%1").arg(dog));
+        EXPECT_EQ(list.Row(0).key, u"P%1"_s.arg(dog));
         EXPECT_EQ(list.Row(0).tag, QString::number(dog));
         EXPECT_EQ(Colour(list, 0, kBalance), QColor(0, 160, 0));
         EXPECT_EQ(Panel(window, 2), Text("Poplatky celkem:  675,00 Kč, uhrazeno celkem: 1 000,50 "
@@ -215,7 +218,7 @@ TEST_F(fm_DogsListTest, TextsOfTheListAreNotEdited) {
 }
 
 TEST_F(fm_DogsListTest, ADoubleClickJumpsToTheDogAndCloses) {
-    const QString node = QStringLiteral("P%1").arg(AddDog("Rex"));
+    const QString node = u"P%1"_s.arg(AddDog("Rex"));
     tree.AddNode(node, Text("Rex"));
     Module().ListJumpedToDog = true;
     Open([](QWidget& window) {

@@ -14,13 +14,16 @@
 #include <QToolButton>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class frmParentsTest : public DogListsTest {
   protected:
     int AddChild(const char* name, const char* father, const char* mother) {
         const int dog = AddDog(name, {{"Otec", Text(father)}, {"Matka", Text(mother)}});
-        tree.AddNode(QStringLiteral("P%1").arg(dog), Text(name));
+        tree.AddNode(u"P%1"_s.arg(dog), Text(name));
         return dog;
     }
     static void Open(const std::function<void(QWidget&)>& inside) {
@@ -94,19 +97,19 @@ TEST_F(frmParentsTest, AnItemOffersTheOffspringOfItsColour) {
         ASSERT_EQ(Names(window), "Bak m,Dan m,Bak f,Čita f,Dina f");
         RightClick(window, 0, rex);
         EXPECT_EQ(platform.LastMenuLines().join(u'\n'), Text("%1 Asta\n%2 Rex").arg(asta).arg(rex));
-        EXPECT_EQ(tree.selected, QStringLiteral("P%1").arg(rex));
+        EXPECT_EQ(tree.selected, u"P%1"_s.arg(rex));
         EXPECT_TRUE(window.isVisible());
         RightClick(window, 2, cvrk);
-        EXPECT_EQ(tree.selected, QStringLiteral("P%1").arg(cvrk));
+        EXPECT_EQ(tree.selected, u"P%1"_s.arg(cvrk));
         RightClick(window, 2, 0);
-        EXPECT_EQ(tree.selected, QStringLiteral("P%1").arg(cvrk));
+        EXPECT_EQ(tree.selected, u"P%1"_s.arg(cvrk));
     });
 }
 
 TEST_F(frmParentsTest, ANameWithAnApostropheFindsItsOffspring) {
     const int dog = AddChild("Rex", "Bak z D'Arcy", "");
     Open([&](QWidget& window) { RightClick(window, 0, dog); });
-    EXPECT_EQ(tree.selected, QStringLiteral("P%1").arg(dog));
+    EXPECT_EQ(tree.selected, u"P%1"_s.arg(dog));
 }
 
 TEST_F(frmParentsTest, ADogThatTheTreeDoesNotShowIsLeftAlone) {

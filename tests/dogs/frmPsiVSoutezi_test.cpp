@@ -13,6 +13,9 @@
 #include <QTreeView>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class CompetitionEntriesTest : public RoutinesTest {
@@ -135,7 +138,7 @@ TEST_F(CompetitionEntriesTest, APairIsADogAndABitchOfOneBreeder) {
         Click(dogs, 0);
         ReportList& partners = List(window, "lvwDogs2");
         ASSERT_EQ(partners.RowCount(), 2);
-        EXPECT_EQ(partners.Row(1).key, QStringLiteral("P%1").arg(bea));
+        EXPECT_EQ(partners.Row(1).key, u"P%1"_s.arg(bea));
         EXPECT_EQ(partners.CellText(1, 1), u"J. O'Hara");
         for (const int row : {0, 1}) {
             partners.SelectRow(row);

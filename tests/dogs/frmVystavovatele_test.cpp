@@ -15,6 +15,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ExhibitorListTest : public ExhibitorsTest {
@@ -59,7 +61,7 @@ class ExhibitorListTest : public ExhibitorsTest {
         return texts.join(u'|').toStdString();
     }
     static int RowOf(const ReportList& list, int owner) {
-        return list.FindRow(QStringLiteral("M%1").arg(owner));
+        return list.FindRow(u"M%1"_s.arg(owner));
     }
     static QPoint Middle(const ReportList& list, int position) {
         return list.visualRect(list.model()->index(position, 0)).center();
@@ -89,7 +91,7 @@ TEST_F(ExhibitorListTest, ListsAllOwnersInCzechOrderWithTheirFigures) {
         EXPECT_EQ(Line(list, 1), "Chána|||000 00||||1| 0,00 Kč| 12,50 Kč| 12,50 Kč");
         EXPECT_EQ(Line(list, 2), "Jana|Lesní 1|Kolín|012 34|ČR|777 123|jana@lesni.cz|2|"
                                  "1 950,00 Kč|1 200,00 Kč|- 750,00 Kč");
-        EXPECT_EQ(list.Row(2).key, QStringLiteral("M%1").arg(jana));
+        EXPECT_EQ(list.Row(2).key, u"M%1"_s.arg(jana));
         EXPECT_EQ(list.Row(2).tag, QString::number(jana));
         EXPECT_EQ(list.Row(0).cells[10].colour, std::nullopt);
         EXPECT_EQ(list.Row(1).cells[10].colour, QColor(0, 180, 0));
@@ -191,7 +193,7 @@ TEST_F(ExhibitorListTest, DeletingAnOwnerLeavesTheDogs) {
 }
 
 TEST_F(ExhibitorListTest, TheMenuLeadsToTheOwnersDogs) {
-    tree.AddNode(QStringLiteral("P%1").arg(bara), Text("Bára"));
+    tree.AddNode(u"P%1"_s.arg(bara), Text("Bára"));
     Open([this](QWidget& window) {
         ReportList& list = List(window);
         platform.ExpectMenu(bara);
@@ -199,11 +201,11 @@ TEST_F(ExhibitorListTest, TheMenuLeadsToTheOwnersDogs) {
         EXPECT_EQ(platform.LastMenuLines(),
                   (QStringList{Text("%1 F Bára").arg(bara), Text("%1 P Rex").arg(rex), Text("---"),
                                Text("-3 Zobrazit platby")}));
-        EXPECT_EQ(tree.selected, QStringLiteral("P%1").arg(bara));
+        EXPECT_EQ(tree.selected, u"P%1"_s.arg(bara));
         EXPECT_TRUE(window.isVisible());
         platform.ExpectMenu(rex);
         RightClick(list, RowOf(list, jana));
-        EXPECT_EQ(tree.selected, QStringLiteral("P%1").arg(bara)) << "Rex is not on the tree";
+        EXPECT_EQ(tree.selected, u"P%1"_s.arg(bara)) << "Rex is not on the tree";
         platform.ExpectMenu(0);
         RightClick(list, RowOf(list, cyril));
         EXPECT_EQ(platform.LastMenuLines(), (QStringList{Text("---"), Text("-3 Zobrazit platby")}));

@@ -21,6 +21,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Hundredths of the main currency; the test's own money.
@@ -83,14 +85,14 @@ class DeskMorning : public RoutinesTest {
                   [&](QWidget& window) {
                       const char* const texts[] = {name, abbreviation, rate};
                       for (int i = 0; i < 3; ++i)
-                          window.findChild<QLineEdit*>(QStringLiteral("txtEditCurr(%1)").arg(i))
+                          window.findChild<QLineEdit*>(u"txtEditCurr(%1)"_s.arg(i))
                               ->setText(Text(texts[i]));
                       Control<QPushButton>(window, "cmdOK").click();
                   });
     }
 
     void Select(int dog) {
-        const QString node = QStringLiteral("P%1").arg(dog);
+        const QString node = u"P%1"_s.arg(dog);
         window_->SelectNode(node);
         window_->ShowNodeInfo(node);
     }
@@ -184,11 +186,11 @@ TEST_F(DeskMorning, EveryWindowTellsTheSameSums) {
         feesByOwner[1 + dog % kOwners] += kFee;
         paidByAll += paid_[dog];
     }
-    WhileOpen([] { Open(QStringLiteral("frmVystavovatele")); },
+    WhileOpen([] { Open(u"frmVystavovatele"_s); },
               [&](QWidget& window) {
                   const auto& list = Control<ReportList>(window, "lvwList");
                   for (int owner = 1; owner <= kOwners; ++owner) {
-                      const int row = list.FindRow(QStringLiteral("M%1").arg(owner));
+                      const int row = list.FindRow(u"M%1"_s.arg(owner));
                       const auto cell = [&](int column) {
                           return list.CellText(row, column).toStdString();
                       };
@@ -202,7 +204,7 @@ TEST_F(DeskMorning, EveryWindowTellsTheSameSums) {
                                 ", uhrazeno celkem: " + Amount(paidByAll) +
                                 ", bilance: " + (balance > 0 ? "+" : "") + Amount(balance));
               });
-    WhileOpen([] { Open(QStringLiteral("frmPrehledPlateb")); },
+    WhileOpen([] { Open(u"frmPrehledPlateb"_s); },
               [](QWidget& window) {
                   EXPECT_EQ(Control<ReportList>(window, "lvwUhrady").RowCount(), kPayments - 2);
               });

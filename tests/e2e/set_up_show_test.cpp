@@ -20,6 +20,9 @@
 #include <memory>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SetUpShow : public ::testing::Test {
@@ -80,8 +83,8 @@ constexpr int kPoodle = 172 + 783;
 void SetUpShow::SettleDatesAndCurrency() {
     OpenBy("SETTINGS", [&](QWidget& settings) {
         OpenIn(settings, "CURRENCIESLIST:ADD", [](QWidget& editor) {
-            SetText(editor, "txtEditCurr(0)", QStringLiteral("Koruna česká"));
-            SetText(editor, "txtEditCurr(1)", QStringLiteral("Kč"));
+            SetText(editor, "txtEditCurr(0)", u"Koruna česká"_s);
+            SetText(editor, "txtEditCurr(1)", u"Kč"_s);
             Press(editor, "cmdOK");
         });
         Control<QDateEdit>(settings, "dtMeeting").setDate({2005, 5, 14});
@@ -95,18 +98,14 @@ void SetUpShow::SettleShows() {
     OpenBy("TABLES:VYSTAVY", [&](QWidget& list) {
         auto& shows = Control<ReportList>(list, "lvwList");
         Control<QAction>(list, "VYSTAVY:ADD").trigger();
-        TypeInPlace(shows, QStringLiteral("Krajská výstava"));
+        TypeInPlace(shows, u"Krajská výstava"_s);
         for (int row = 0; row < 2; ++row) {
             shows.SelectRow(row);
             OpenIn(list, "VYSTAVY:EDIT", [row](QWidget& editor) {
                 for (int slot = 0; slot < 18; ++slot)
                     for (int closing = 1; closing <= 2; ++closing)
                         SetText(editor,
-                                QStringLiteral("txtPrice%1(%2)")
-                                    .arg(closing)
-                                    .arg(slot)
-                                    .toLatin1()
-                                    .constData(),
+                                u"txtPrice%1(%2)"_s.arg(closing).arg(slot).toLatin1().constData(),
                                 QString::number(1000 * row + 100 * closing + slot));
                 Press(editor, "cmdOK");
             });
@@ -128,24 +127,24 @@ void SetUpShow::SettleBreeds() {
                               breeds.visualRect(node).center());
         }
         OpenIn(window_, "PLEMENA:ADD", [](QWidget& naming) {
-            SetText(naming, "txtPlemenoName", QStringLiteral("Pudl hnědý"));
+            SetText(naming, "txtPlemenoName", u"Pudl hnědý"_s);
             Press(naming, "cmdOK");
         });
     });
 }
 
 void SetUpShow::EnterDog() {
-    window->SelectNode(QStringLiteral("R%1").arg(kPoodle));
+    window->SelectNode(u"R%1"_s.arg(kPoodle));
     OpenBy("ADD:DOG", [](QWidget& editor) {
-        SetText(editor, "txtbox(0)", QStringLiteral("Alík"));
+        SetText(editor, "txtbox(0)", u"Alík"_s);
         Control<QDateEdit>(editor, "dtBorn").setDate({2003, 5, 14});
         Control<QRadioButton>(editor, "optClasses(4)").click();
         Press(editor, "cmdAddName");
-        SetText(editor, "txtbox(7)", QStringLiteral("Jana"));
-        SetText(editor, "txtbox(4)", QStringLiteral("Malá"));
-        SetText(editor, "txtbox(8)", QStringLiteral("Lesní 1"));
-        SetText(editor, "txtbox(9)", QStringLiteral("28002"));
-        SetText(editor, "txtbox(10)", QStringLiteral("Kolín"));
+        SetText(editor, "txtbox(7)", u"Jana"_s);
+        SetText(editor, "txtbox(4)", u"Malá"_s);
+        SetText(editor, "txtbox(8)", u"Lesní 1"_s);
+        SetText(editor, "txtbox(9)", u"28002"_s);
+        SetText(editor, "txtbox(10)", u"Kolín"_s);
         Press(editor, "cmd_OK");
         EXPECT_FALSE(editor.isVisible());
     });
@@ -154,8 +153,7 @@ void SetUpShow::EnterDog() {
 void SetUpShow::NumberDogs() {
     OpenBy("SETTINGS", [&](QWidget& settings) {
         EXPECT_FALSE(Control<QDateEdit>(settings, "dtMeeting").isEnabled());
-        platform.ExpectMessage(QStringLiteral("Určitě vygenerovat pořadová čísla psů?"),
-                               MessageAnswer::Yes);
+        platform.ExpectMessage(u"Určitě vygenerovat pořadová čísla psů?"_s, MessageAnswer::Yes);
         Press(settings, "cmdGenerateNumbers");
         Press(settings, "cmdOK");
     });
@@ -164,8 +162,8 @@ void SetUpShow::NumberDogs() {
 TEST_F(SetUpShow, FromTheDeliveredDatabaseToTheFirstNumber) {
     SettleDatesAndCurrency();
     SettleShows();
-    AddRing(QStringLiteral("Kruh A"));
-    AddRing(QStringLiteral("Kruh B"));
+    AddRing(u"Kruh A"_s);
+    AddRing(u"Kruh B"_s);
     SettleBreeds();
     EnterDog();
     NumberDogs();
@@ -176,10 +174,10 @@ TEST_F(SetUpShow, FromTheDeliveredDatabaseToTheFirstNumber) {
     EXPECT_EQ(shows[0].Uzaverka1, DateValue::FromCalendar(2005, 4, 10));
     EXPECT_FALSE(shows[1].Uzaverka1);
     EXPECT_EQ(ShowFees(shows[1].ID)[35], Currency::FromUnits(1217));
-    EXPECT_EQ(window->ParentNode(QStringLiteral("R%1").arg(kShepherd)), u"K1");
-    EXPECT_EQ(window->ParentNode(QStringLiteral("R%1").arg(kPoodle)), u"K2");
+    EXPECT_EQ(window->ParentNode(u"R%1"_s.arg(kShepherd)), u"K1");
+    EXPECT_EQ(window->ParentNode(u"R%1"_s.arg(kPoodle)), u"K2");
     EXPECT_EQ(DogByID(1)->Cislo, 1);
-    EXPECT_EQ(window->NodeText(QStringLiteral("P1")), u"1 Alík");
+    EXPECT_EQ(window->NodeText(u"P1"_s), u"1 Alík");
     EXPECT_TRUE(DogByID(1)->PrvniPes);
 }
 

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The letters of texts that all show together, "-" for one without.
@@ -18,33 +21,33 @@ QString Keys(const QStringList& texts) {
 }
 
 TEST(AccessKeyChoice, PrefersFirstLettersOfWords) {
-    EXPECT_EQ(Keys({u"Ano"_qs, u"Ne"_qs, u"Storno"_qs}), u"ANS"_qs);
-    EXPECT_EQ(Keys({u"Jméno"_qs, u"Jméno matky"_qs}), u"JM"_qs);
+    EXPECT_EQ(Keys({u"Ano"_s, u"Ne"_s, u"Storno"_s}), u"ANS"_s);
+    EXPECT_EQ(Keys({u"Jméno"_s, u"Jméno matky"_s}), u"JM"_s);
 }
 
 TEST(AccessKeyChoice, PrefersLettersThatEveryKeyboardHas) {
-    EXPECT_EQ(Keys({u"Číslo"_qs}), u"S"_qs);
+    EXPECT_EQ(Keys({u"Číslo"_s}), u"S"_s);
 }
 
 TEST(AccessKeyChoice, AnEarlierTextGivesWayWhereBothThenHaveOne) {
-    EXPECT_EQ(Keys({u"ab"_qs, u"a"_qs}), u"BA"_qs);
+    EXPECT_EQ(Keys({u"ab"_s, u"a"_s}), u"BA"_s);
 }
 
 TEST(AccessKeyChoice, GivesALetterThatIsWishedForAsLongAsOthersHaveTheirs) {
-    EXPECT_EQ(Keys({u"Čá&stka"_qs, u"Stav"_qs}), u"ST"_qs);
-    EXPECT_EQ(Keys({u"&Otec"_qs, u"OK"_qs, u"K"_qs}), u"TOK"_qs);
+    EXPECT_EQ(Keys({u"Čá&stka"_s, u"Stav"_s}), u"ST"_s);
+    EXPECT_EQ(Keys({u"&Otec"_s, u"OK"_s, u"K"_s}), u"TOK"_s);
 }
 
 TEST(AccessKeyChoice, AMarkIsOneAmpersandAndTwoAreNone) {
-    EXPECT_EQ(MarkedKey(u"Kurs K&&č"_qs), QChar());
-    EXPECT_EQ(WithoutMark(u"Kurs K&&č"_qs), u"Kurs K&&č"_qs);
-    EXPECT_EQ(MarkedKey(u"Zpě&t"_qs), u'T');
-    EXPECT_EQ(WithoutMark(u"Zpě&t"_qs), u"Zpět"_qs);
+    EXPECT_EQ(MarkedKey(u"Kurs K&&č"_s), QChar());
+    EXPECT_EQ(WithoutMark(u"Kurs K&&č"_s), u"Kurs K&&č"_s);
+    EXPECT_EQ(MarkedKey(u"Zpě&t"_s), u'T');
+    EXPECT_EQ(WithoutMark(u"Zpě&t"_s), u"Zpět"_s);
 }
 
 TEST(AccessKeyChoice, TextsOfDifferentPagesMayShareALetterButNotWithWhatIsCommon) {
-    const auto keys = ChooseAccessKeys(
-        {{u"OK"_qs, {}, 0}, {u"O"_qs, {}, 1}, {u"Psi"_qs, {}, 1}, {u"Psi"_qs, {}, 2}});
+    const auto keys =
+        ChooseAccessKeys({{u"OK"_s, {}, 0}, {u"O"_s, {}, 1}, {u"Psi"_s, {}, 1}, {u"Psi"_s, {}, 2}});
     EXPECT_EQ(keys[0], u'O');
     EXPECT_TRUE(keys[1].isNull());
     EXPECT_EQ(keys[2], u'P');

@@ -9,13 +9,16 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class AccessKeysTest : public ::testing::Test {
   protected:
     AccessKeysTest() {
         auto* column = new QVBoxLayout(&window);
-        column->addWidget(CaptionFor(name, QStringLiteral("Jméno"), &window));
+        column->addWidget(CaptionFor(name, u"Jméno"_s, &window));
         column->addWidget(name);
         column->addWidget(add);
         column->addWidget(other);
@@ -27,24 +30,24 @@ class AccessKeysTest : public ::testing::Test {
     test::RecordingPlatform platform;
     QWidget window;
     QLineEdit* name = new QLineEdit(&window);
-    QPushButton* add = new QPushButton(QStringLiteral("Přidat nového"), &window);
-    QPushButton* other = new QPushButton(QStringLiteral("Zpět"), &window);
+    QPushButton* add = new QPushButton(u"Přidat nového"_s, &window);
+    QPushButton* other = new QPushButton(u"Zpět"_s, &window);
 };
 
 TEST_F(AccessKeysTest, AButtonActsAtOnceSoThatWhatIsTypedNextIsNotLost) {
     QObject::connect(add, &QPushButton::clicked, name, [this] { name->setFocus(); });
     QTest::keyClick(&window, Qt::Key_N, Qt::AltModifier);
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Eva"));
-    EXPECT_EQ(name->text(), QStringLiteral("Eva"));
+    QTest::keyClicks(QApplication::focusWidget(), u"Eva"_s);
+    EXPECT_EQ(name->text(), u"Eva"_s);
 }
 
 TEST_F(AccessKeysTest, AButtonWhoseTextMarksALetterActsAtOnceToo) {
     QObject::connect(other, &QPushButton::clicked, name, [this] { name->setFocus(); });
-    other->setText(QStringLiteral("Z&pět"));
+    other->setText(u"Z&pět"_s);
     QCoreApplication::processEvents();
     QTest::keyClick(&window, Qt::Key_P, Qt::AltModifier);
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Eva"));
-    EXPECT_EQ(name->text(), QStringLiteral("Eva"));
+    QTest::keyClicks(QApplication::focusWidget(), u"Eva"_s);
+    EXPECT_EQ(name->text(), u"Eva"_s);
 }
 
 TEST_F(AccessKeysTest, ACaptionLeadsToItsField) {
@@ -55,8 +58,8 @@ TEST_F(AccessKeysTest, ACaptionLeadsToItsField) {
 }
 
 TEST_F(AccessKeysTest, TextsStayAsTheyAreAndTheLetterIsUnderlined) {
-    EXPECT_EQ(add->text(), QStringLiteral("Přidat nového"));
-    EXPECT_EQ(WithAccessKey(add->text(), u'N'), QStringLiteral("Přidat &nového"));
+    EXPECT_EQ(add->text(), u"Přidat nového"_s);
+    EXPECT_EQ(WithAccessKey(add->text(), u'N'), u"Přidat &nového"_s);
     AccessKeyStyle style;
     add->setStyle(&style);
     const QImage marked = add->grab().toImage();
@@ -76,12 +79,12 @@ TEST_F(AccessKeysTest, ACaptionIsUnderlinedToo) {
 }
 
 TEST_F(AccessKeysTest, FollowTextsAndWhatIsShown) {
-    add->setText(QStringLiteral("Start"));
+    add->setText(u"Start"_s);
     QCoreApplication::processEvents();
     EXPECT_EQ(AccessKeyOf(*add), u'S');
     add->hide();
     QCoreApplication::processEvents();
-    other->setText(QStringLiteral("Storno"));
+    other->setText(u"Storno"_s);
     QCoreApplication::processEvents();
     EXPECT_EQ(AccessKeyOf(*other), u'S');
 }

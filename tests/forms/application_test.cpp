@@ -9,6 +9,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Application& TheApplication() {
@@ -17,16 +20,16 @@ Application& TheApplication() {
 
 TEST(ApplicationTest, AFailureOfTheStartIsShownAndEndsWithCodeOne) {
     test::RecordingPlatform platform;
-    platform.ExpectMessage(QStringLiteral("Soubor data.mdb chybí."), MessageAnswer::Ok,
-                           MessageIcon::Stop, MessageButtons::Ok, QStringLiteral("Lorvo"));
+    platform.ExpectMessage(u"Soubor data.mdb chybí."_s, MessageAnswer::Ok, MessageIcon::Stop,
+                           MessageButtons::Ok, u"Lorvo"_s);
     EXPECT_EQ(TheApplication().Run([] { throw StoreError("Soubor data.mdb chybí."); }), 1);
 }
 
 TEST(ApplicationTest, AFailureOfAHandlerEndsTheLoopAndIsShownOnce) {
     test::RecordingPlatform platform;
-    platform.ExpectMessage(QStringLiteral(
-        "Disk je plný.\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno před "
-        "ním, je uloženo.\n\nProgram se ukončí."));
+    platform.ExpectMessage(
+        u"Disk je plný.\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno před "
+        "ním, je uloženo.\n\nProgram se ukončí."_s);
     EXPECT_EQ(TheApplication().Run(
                   [] { QTimer::singleShot(0, qApp, [] { throw StoreError("Disk je plný."); }); }),
               1);
@@ -35,7 +38,7 @@ TEST(ApplicationTest, AFailureOfAHandlerEndsTheLoopAndIsShownOnce) {
 
 TEST(ApplicationTest, OfADamagedFileNothingIsPromised) {
     test::RecordingPlatform platform;
-    platform.ExpectMessage(QStringLiteral("Soubor je poškozen.\n\nProgram se ukončí."));
+    platform.ExpectMessage(u"Soubor je poškozen.\n\nProgram se ukončí."_s);
     EXPECT_EQ(TheApplication().Run([] {
         QTimer::singleShot(0, qApp, [] { throw CorruptStoreError("Soubor je poškozen."); });
     }),
@@ -50,7 +53,7 @@ TEST(ApplicationTest, AnUneventfulRunEndsWithItsOwnCode) {
 }
 
 TEST(ApplicationTest, TahomaIsShownByAFontThatHasCzechLetters) {
-    EXPECT_FALSE(QFont::substitutes(QStringLiteral("Tahoma")).isEmpty());
+    EXPECT_FALSE(QFont::substitutes(u"Tahoma"_s).isEmpty());
 }
 
 } // namespace

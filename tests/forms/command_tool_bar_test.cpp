@@ -15,13 +15,16 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class CommandToolBarTest : public ::testing::Test {
   protected:
     CommandToolBarTest() {
         auto* column = new QVBoxLayout(&window_);
-        bar_ = commands_->MakeBar(u"STANDARD"_qs, &window_);
+        bar_ = commands_->MakeBar(u"STANDARD"_s, &window_);
         column->addWidget(bar_);
         column->addWidget(below_);
         window_.show();
@@ -34,29 +37,28 @@ class CommandToolBarTest : public ::testing::Test {
 
     QWidget window_;
     CommandCollection* commands_ = new CommandCollection(
-        u"cmdBar"_qs, {u"ADD"_qs, u"TABLES"_qs, u"EXPORT"_qs, u"SETTINGS"_qs, u"HELP"_qs},
-        &window_);
+        u"cmdBar"_s, {u"ADD"_s, u"TABLES"_s, u"EXPORT"_s, u"SETTINGS"_s, u"HELP"_s}, &window_);
     QToolBar* bar_ = nullptr;
     QLineEdit* below_ = new QLineEdit(&window_);
 };
 
 TEST_F(CommandToolBarTest, F10LeadsToTheFirstButtonAndArrowsAndTabAlong) {
     Press(Qt::Key_F10);
-    EXPECT_EQ(QApplication::focusWidget(), Button(u"ADD"_qs));
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"ADD"_s));
     Press(Qt::Key_Right);
-    EXPECT_EQ(QApplication::focusWidget(), Button(u"TABLES"_qs));
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"TABLES"_s));
     Press(Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), Button(u"EXPORT"_qs));
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"EXPORT"_s));
     Press(Qt::Key_Left);
     Press(Qt::Key_Left);
     Press(Qt::Key_Left);
-    EXPECT_EQ(QApplication::focusWidget(), Button(u"ADD"_qs));
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"ADD"_s));
 }
 
 TEST_F(CommandToolBarTest, PassesByAGreyedButton) {
-    commands_->Action(u"ADD"_qs)->setEnabled(false);
+    commands_->Action(u"ADD"_s)->setEnabled(false);
     Press(Qt::Key_F10);
-    EXPECT_EQ(QApplication::focusWidget(), Button(u"TABLES"_qs));
+    EXPECT_EQ(QApplication::focusWidget(), Button(u"TABLES"_s));
 }
 
 TEST_F(CommandToolBarTest, EscLeadsBack) {
@@ -72,20 +74,20 @@ TEST_F(CommandToolBarTest, EnterAndSpaceChooseACommandWithTheKeyboardBackWhereIt
                      [&] { focusThen = QApplication::focusWidget(); });
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         Press(Qt::Key_F10);
-        Button(u"SETTINGS"_qs)->setFocus();
+        Button(u"SETTINGS"_s)->setFocus();
         Press(Qt::Key_Down);
         Press(key);
         EXPECT_EQ(focusThen, below_);
         focusThen = nullptr;
     }
     EXPECT_EQ(chosen.size(), 3) << "the down arrow chooses nothing";
-    EXPECT_EQ(chosen.at(0).at(0).toString(), u"SETTINGS"_qs);
+    EXPECT_EQ(chosen.at(0).at(0).toString(), u"SETTINGS"_s);
 }
 
 class MenuKeys : public CommandToolBarTest, public ::testing::WithParamInterface<Qt::Key> {};
 
 TEST_P(MenuKeys, DropAMenuDownAndLeadBackAfterIt) {
-    QMenu* menu = commands_->Action(u"TABLES"_qs)->menu();
+    QMenu* menu = commands_->Action(u"TABLES"_s)->menu();
     int dropped = 0;
     QObject::connect(menu, &QMenu::aboutToShow, menu, [&] {
         ++dropped;
@@ -103,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(EnterSpaceAndDown, MenuKeys,
                                            Qt::Key_Down));
 
 TEST_F(CommandToolBarTest, AClickOfTheMouseLeavesTheKeyboardWhereItIs) {
-    QTest::mouseClick(Button(u"SETTINGS"_qs), Qt::LeftButton);
+    QTest::mouseClick(Button(u"SETTINGS"_s), Qt::LeftButton);
     EXPECT_EQ(QApplication::focusWidget(), below_);
 }
 

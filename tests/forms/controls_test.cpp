@@ -13,30 +13,33 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(NumberStyleTest, RefusesTypedNonDigitsAndTakesPastedText) {
     QLineEdit box;
     SetNumberStyle(box);
-    QTest::keyClicks(&box, QStringLiteral("1a2,3-"));
-    EXPECT_EQ(box.text(), QStringLiteral("123"));
+    QTest::keyClicks(&box, u"1a2,3-"_s);
+    EXPECT_EQ(box.text(), u"123"_s);
     QTest::keyClick(&box, Qt::Key_Backspace);
-    QGuiApplication::clipboard()->setText(QStringLiteral("abc"));
+    QGuiApplication::clipboard()->setText(u"abc"_s);
     QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(box.text(), QStringLiteral("12abc"));
+    EXPECT_EQ(box.text(), u"12abc"_s);
 }
 
 TEST(NumberStyleTest, RefusesNonDigitsOfAnInputMethod) {
     QLineEdit box;
     SetNumberStyle(box);
     QInputMethodEvent letter;
-    letter.setCommitString(QStringLiteral("é"));
+    letter.setCommitString(u"é"_s);
     QApplication::sendEvent(&box, &letter);
     EXPECT_EQ(box.text(), QString());
 }
 
 TEST(LinkLabelTest, UnderlinesUnderTheMouseAndActsOnClicksAndKeys) {
-    LinkLabel link(QStringLiteral("Upravit"), nullptr);
+    LinkLabel link(u"Upravit"_s, nullptr);
     QSignalSpy clicks(&link, &LinkLabel::Clicked);
     link.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&link));
@@ -55,9 +58,9 @@ TEST(LinkLabelTest, UnderlinesUnderTheMouseAndActsOnClicksAndKeys) {
 
 TEST(DatePickerTest, ShowsTheSystemsShortDateAndKeepsDates) {
     test::RecordingPlatform platform;
-    const std::unique_ptr<QDateEdit> picker(DatePicker(QStringLiteral("dtBorn"), nullptr));
+    const std::unique_ptr<QDateEdit> picker(DatePicker(u"dtBorn"_s, nullptr));
     SetPickedDate(*picker, DateValue::FromCalendar(2005, 5, 4));
-    EXPECT_EQ(picker->text(), QStringLiteral("4.5.2005"));
+    EXPECT_EQ(picker->text(), u"4.5.2005"_s);
     EXPECT_EQ(PickedDate(*picker), DateValue::FromCalendar(2005, 5, 4));
     EXPECT_EQ(picker->minimumDate(), QDate(1601, 1, 1));
     EXPECT_EQ(picker->maximumDate(), QDate(9999, 12, 31));
@@ -68,19 +71,17 @@ TEST(DatePickerTest, ShowsTheSystemsShortDateAndKeepsDates) {
 class TidyWindow : public QWidget {
   public:
     TidyWindow() {
-        setObjectName(QStringLiteral("frmTidy"));
+        setObjectName(u"frmTidy"_s);
         auto* layout = new QFormLayout(this);
-        layout->addRow(CaptionFor(txtName, QStringLiteral("Jméno"), this), txtName);
-        layout->addRow(CaptionFor(txtTown, QStringLiteral("Město"), this), txtTown);
+        layout->addRow(CaptionFor(txtName, u"Jméno"_s, this), txtName);
+        layout->addRow(CaptionFor(txtTown, u"Město"_s, this), txtTown);
         layout->addRow(ButtonRow({cmdOK, cmdCancel}));
     }
 
-    QLineEdit* txtName = Named(new QLineEdit(this), QStringLiteral("txtName"));
-    QLineEdit* txtTown = Named(new QLineEdit(this), QStringLiteral("txtTown"));
-    QPushButton* cmdOK =
-        Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
-    QPushButton* cmdCancel =
-        Named(new QPushButton(QStringLiteral("Storno"), this), QStringLiteral("cmdCancel"));
+    QLineEdit* txtName = Named(new QLineEdit(this), u"txtName"_s);
+    QLineEdit* txtTown = Named(new QLineEdit(this), u"txtTown"_s);
+    QPushButton* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
+    QPushButton* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
 };
 
 TEST(WindowWalkTest, PassesATidyWindow) {

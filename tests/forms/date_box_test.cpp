@@ -12,6 +12,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QDate kStart(2026, 11, 21);
@@ -21,8 +24,7 @@ class DateBoxTest : public testing::Test {
   protected:
     DateBoxTest() {
         platform_.now = DateValue::FromCalendar(2026, 11, 21);
-        picker_ =
-            static_cast<DateBox*>(DatePicker(QStringLiteral("dtBorn"), &window_, YearWindow::Past));
+        picker_ = static_cast<DateBox*>(DatePicker(u"dtBorn"_s, &window_, YearWindow::Past));
         auto* layout = new QVBoxLayout(&window_);
         layout->addWidget(before_);
         layout->addWidget(picker_);
@@ -61,7 +63,7 @@ class DateBoxTest : public testing::Test {
     QDialog window_;
     QLineEdit* before_ = new QLineEdit(&window_);
     QLineEdit* after_ = new QLineEdit(&window_);
-    QPushButton* ok_ = new QPushButton(QStringLiteral("OK"), &window_);
+    QPushButton* ok_ = new QPushButton(u"OK"_s, &window_);
     DateBox* picker_ = nullptr;
 };
 
@@ -69,18 +71,18 @@ TEST_F(DateBoxTest, TakesEverySpellingThatIsTyped) {
     for (const char* text : {"5.6.2024", "05.06.2024", "5. 6. 2024", "05. 06. 2024", "5.6.24",
                              "05.06.24", "050624", "05062024", "5/6/2024", "5-6-24", "5,6,2024",
                              "5.6.2024 ", " 5.6.2024", "2024-06-05", "5.6.2024."})
-        EXPECT_EQ(AfterTyping(QString::fromLatin1(text)), QStringLiteral("2024-06-05")) << text;
-    EXPECT_EQ(AfterTyping(QStringLiteral("29.2.2004")), QStringLiteral("2004-02-29"));
-    EXPECT_EQ(AfterTyping(QStringLiteral("15.5.2004")), QStringLiteral("2004-05-15"));
-    EXPECT_EQ(AfterTyping(QStringLiteral("31.1.2024")), QStringLiteral("2024-01-31"));
-    EXPECT_EQ(AfterTyping(QStringLiteral("5.6.")), QStringLiteral("2026-06-05"));
-    EXPECT_EQ(AfterTyping(QStringLiteral("22.11.26")), QStringLiteral("1926-11-22"));
+        EXPECT_EQ(AfterTyping(QString::fromLatin1(text)), u"2024-06-05"_s) << text;
+    EXPECT_EQ(AfterTyping(u"29.2.2004"_s), u"2004-02-29"_s);
+    EXPECT_EQ(AfterTyping(u"15.5.2004"_s), u"2004-05-15"_s);
+    EXPECT_EQ(AfterTyping(u"31.1.2024"_s), u"2024-01-31"_s);
+    EXPECT_EQ(AfterTyping(u"5.6."_s), u"2026-06-05"_s);
+    EXPECT_EQ(AfterTyping(u"22.11.26"_s), u"1926-11-22"_s);
 }
 
 TEST_F(DateBoxTest, ShowsTheLastGoodDateWhenTheTextIsNone) {
     for (const char* text :
          {"31.4.2024", "29.2.2023", "abc", "5", "5.13.2024", "1.1.1500", "0.0.0"})
-        EXPECT_EQ(AfterTyping(QString::fromLatin1(text)), QStringLiteral("2026-11-21")) << text;
+        EXPECT_EQ(AfterTyping(QString::fromLatin1(text)), u"2026-11-21"_s) << text;
 }
 
 TEST_F(DateBoxTest, TypingOverOnePartGoesOnAtTheSeparators) {
@@ -100,7 +102,7 @@ TEST_F(DateBoxTest, AClickSelectsAllForTypingOver) {
     auto* line = picker_->findChild<QLineEdit*>();
     QTest::mouseClick(line, Qt::LeftButton);
     EXPECT_TRUE(picker_->hasFocus());
-    Type(QStringLiteral("5.6.2024"));
+    Type(u"5.6.2024"_s);
     EXPECT_EQ(picker_->date(), QDate(2024, 6, 5));
 }
 
@@ -125,27 +127,27 @@ TEST_F(DateBoxTest, PartsTypedOneByOneGiveTheDateWithoutLeaving) {
 TEST_F(DateBoxTest, ReportsAWholeDateAtOnceAndNothingBefore) {
     Tab();
     QSignalSpy changes(picker_, &QDateEdit::dateChanged);
-    Type(QStringLiteral("5.6.202"));
+    Type(u"5.6.202"_s);
     EXPECT_EQ(changes.count(), 0);
     EXPECT_EQ(picker_->date(), kStart);
-    Type(QStringLiteral("4"));
+    Type(u"4"_s);
     ASSERT_EQ(changes.count(), 1);
     EXPECT_EQ(changes[0][0].toDate(), QDate(2024, 6, 5));
-    EXPECT_EQ(Shown(), QStringLiteral("5.6.2024"));
-    Type(QStringLiteral("5"));
-    EXPECT_EQ(Shown(), QStringLiteral("5.6.20245"));
+    EXPECT_EQ(Shown(), u"5.6.2024"_s);
+    Type(u"5"_s);
+    EXPECT_EQ(Shown(), u"5.6.20245"_s);
     Tab();
     EXPECT_EQ(changes.count(), 1);
-    EXPECT_EQ(Shown(), QStringLiteral("5.6.2024"));
+    EXPECT_EQ(Shown(), u"5.6.2024"_s);
 }
 
 TEST_F(DateBoxTest, ASpellingThatStandsForADateIsShownBeforeEnterActs) {
     QSignalSpy clicks(ok_, &QPushButton::clicked);
     Tab();
-    Type(QStringLiteral("5.6.24"));
+    Type(u"5.6.24"_s);
     EXPECT_EQ(picker_->date(), kStart);
     QTest::keyClick(picker_, Qt::Key_Return);
-    EXPECT_EQ(Shown(), QStringLiteral("5.6.2024"));
+    EXPECT_EQ(Shown(), u"5.6.2024"_s);
     EXPECT_EQ(clicks.count(), 0);
     QTest::keyClick(picker_, Qt::Key_Return);
     EXPECT_EQ(clicks.count(), 1);
@@ -157,13 +159,13 @@ TEST_F(DateBoxTest, EnterAndEscOnATextThatIsNoDateShowTheLastGoodOne) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
         Reset();
         Tab();
-        Type(QStringLiteral("31.4.2024"));
+        Type(u"31.4.2024"_s);
         QTest::keyClick(picker_, key);
-        EXPECT_EQ(Shown(), QStringLiteral("21.11.2026"));
+        EXPECT_EQ(Shown(), u"21.11.2026"_s);
         EXPECT_TRUE(window_.isVisible());
     }
     EXPECT_EQ(clicks.count(), 0);
-    Type(QStringLiteral("05.06.2024"));
+    Type(u"05.06.2024"_s);
     QTest::keyClick(picker_, Qt::Key_Return);
     EXPECT_EQ(clicks.count(), 1);
 }
@@ -171,30 +173,30 @@ TEST_F(DateBoxTest, EnterAndEscOnATextThatIsNoDateShowTheLastGoodOne) {
 TEST_F(DateBoxTest, ArrowKeysStepThePartThatTheyChose) {
     Tab();
     QTest::keyClick(picker_, Qt::Key_Up);
-    EXPECT_EQ(Shown(), QStringLiteral("22.11.2026"));
+    EXPECT_EQ(Shown(), u"22.11.2026"_s);
     QTest::keyClick(picker_, Qt::Key_Right);
     QTest::keyClick(picker_, Qt::Key_Down);
-    EXPECT_EQ(Shown(), QStringLiteral("22.10.2026"));
+    EXPECT_EQ(Shown(), u"22.10.2026"_s);
     QTest::keyClick(picker_, Qt::Key_Right);
     QTest::keyClick(picker_, Qt::Key_PageDown);
-    EXPECT_EQ(Shown(), QStringLiteral("22.10.2016"));
+    EXPECT_EQ(Shown(), u"22.10.2016"_s);
     QTest::keyClick(picker_, Qt::Key_Left);
-    Type(QStringLiteral("12"));
-    EXPECT_EQ(Shown(), QStringLiteral("22.12.2016"));
+    Type(u"12"_s);
+    EXPECT_EQ(Shown(), u"22.12.2016"_s);
     QTest::keyClick(picker_, Qt::Key_Left, Qt::ControlModifier);
     QTest::keyClick(picker_, Qt::Key_Left, Qt::ControlModifier);
     EXPECT_TRUE(picker_->hasFocus());
     EXPECT_EQ(picker_->currentSection(), QDateTimeEdit::DaySection);
     Reset();
     Tab();
-    Type(QStringLiteral("5.6.24"));
+    Type(u"5.6.24"_s);
     QTest::keyClick(picker_, Qt::Key_Up);
     EXPECT_EQ(picker_->date().month(), 6);
     EXPECT_EQ(picker_->date().year() + picker_->date().day(), 2024 + 5 + 1);
 }
 
 TEST_F(DateBoxTest, ADateIsPastedWholeWhateverIsSelected) {
-    QGuiApplication::clipboard()->setText(QStringLiteral("5. 6. 2024\n"));
+    QGuiApplication::clipboard()->setText(u"5. 6. 2024\n"_s);
     picker_->setFocus();
     picker_->setSelectedSection(QDateTimeEdit::MonthSection);
     QTest::keyClick(picker_, Qt::Key_V, Qt::ControlModifier);
@@ -207,7 +209,7 @@ TEST_F(DateBoxTest, ARedFrameMarksATextThatIsNoDate) {
     };
     Tab();
     const QColor calm = corner();
-    Type(QStringLiteral("31.4."));
+    Type(u"31.4."_s);
     EXPECT_TRUE(picker_->IsDoubtful());
     EXPECT_GT(corner().red(), corner().green() + 100);
     Tab();

@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ElidedLabelTest : public ::testing::Test {
@@ -13,19 +16,19 @@ class ElidedLabelTest : public ::testing::Test {
     ElidedLabelTest() { label_.setText(name_); }
     static int WidthOf(const QString& text) { return QLabel(text).sizeHint().width(); }
 
-    const QString name_ = u"Chovatelská stanice Na Kopečku u Dlouhé Lhoty"_qs;
+    const QString name_ = u"Chovatelská stanice Na Kopečku u Dlouhé Lhoty"_s;
     ElidedLabel label_{nullptr};
 };
 
 TEST_F(ElidedLabelTest, TellsTheWholeTextWhereItIsCut) {
-    label_.setToolTip(u"Majitel"_qs);
+    label_.setToolTip(u"Majitel"_s);
     label_.resize(WidthOf(name_) / 2, 30);
     label_.grab();
     EXPECT_EQ(label_.toolTip(), name_);
     EXPECT_EQ(label_.text(), name_);
     label_.resize(WidthOf(name_) + 20, 30);
     label_.grab();
-    EXPECT_EQ(label_.toolTip(), u"Majitel"_qs);
+    EXPECT_EQ(label_.toolTip(), u"Majitel"_s);
 }
 
 TEST_F(ElidedLabelTest, EndsInAnEllipsisAtItsEdge) {
@@ -37,16 +40,16 @@ TEST_F(ElidedLabelTest, EndsInAnEllipsisAtItsEdge) {
 }
 
 TEST_F(ElidedLabelTest, GetsNarrowWhateverItsText) {
-    EXPECT_LT(label_.minimumSizeHint().width(), WidthOf(u"Chovatel"_qs));
+    EXPECT_LT(label_.minimumSizeHint().width(), WidthOf(u"Chovatel"_s));
     EXPECT_EQ(label_.sizeHint().width(), WidthOf(name_));
 }
 
 TEST_F(ElidedLabelTest, AToolTipShowsMarkupAsItIs) {
-    EXPECT_EQ(PlainToolTip(u"Rex z Lhoty"_qs), u"Rex z Lhoty"_qs);
-    EXPECT_EQ(PlainToolTip(u"A & B < C"_qs), u"A & B < C"_qs);
-    const QString tip = PlainToolTip(u"<b>Rex</b>"_qs);
+    EXPECT_EQ(PlainToolTip(u"Rex z Lhoty"_s), u"Rex z Lhoty"_s);
+    EXPECT_EQ(PlainToolTip(u"A & B < C"_s), u"A & B < C"_s);
+    const QString tip = PlainToolTip(u"<b>Rex</b>"_s);
     EXPECT_TRUE(Qt::mightBeRichText(tip));
-    EXPECT_EQ(tip, u"&lt;b&gt;Rex&lt;/b&gt;"_qs);
+    EXPECT_EQ(tip, u"&lt;b&gt;Rex&lt;/b&gt;"_s);
 }
 
 } // namespace

@@ -13,6 +13,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void Fail() {
@@ -28,11 +31,11 @@ class FailuresTest : public ::testing::Test {
   protected:
     /// Runs the program with this start; it must end by the failure, told once.
     void ExpectEnd(const std::function<void()>& start) {
-        platform.ExpectMessage(QStringLiteral("Disk je plný.\n\nPoslední zadání se neuložilo. "
-                                              "Všechno, co bylo zadáno před ním, je "
-                                              "uloženo.\n\nProgram se ukončí."),
+        platform.ExpectMessage(u"Disk je plný.\n\nPoslední zadání se neuložilo. "
+                               "Všechno, co bylo zadáno před ním, je "
+                               "uloženo.\n\nProgram se ukončí."_s,
                                MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
-                               QStringLiteral("Lorvo"));
+                               u"Lorvo"_s);
         EXPECT_EQ(static_cast<Application*>(qApp)->Run(start), 1);
         EXPECT_FALSE(wentOn);
         EXPECT_FALSE(IsModalOpen());
@@ -58,8 +61,8 @@ class FailuresTest : public ::testing::Test {
 class OneButtonForm : public Form {
   public:
     OneButtonForm()
-        : Form("fm_OneButton", QStringLiteral("Okno"), Border::Sizable, nullptr),
-          button(new QPushButton(this)) {}
+        : Form("fm_OneButton", u"Okno"_s, Border::Sizable, nullptr), button(new QPushButton(this)) {
+    }
     void Activated() override {
         Later(button, [this] { QTest::mouseClick(button, Qt::LeftButton); });
     }
@@ -99,7 +102,7 @@ TEST_F(FailuresTest, WhileAMenuIsOpen) {
         Later(&button, Fail);
         MenuEntry entry;
         entry.number = 601;
-        entry.text = QStringLiteral("Přidat kruh");
+        entry.text = u"Přidat kruh"_s;
         DesktopPopupMenus().TrackPopup({entry});
         wentOn = true;
     });
@@ -110,8 +113,8 @@ TEST_F(FailuresTest, WhileAMessageIsOpen) {
     QPushButton button;
     Connect(&button, &QPushButton::clicked, &button, [this, &button] {
         Later(&button, Fail);
-        DesktopMessageBoxes().Show(QStringLiteral("Opravdu?"), MessageIcon::Question,
-                                   MessageButtons::YesNo, QStringLiteral("Lorvo"));
+        DesktopMessageBoxes().Show(u"Opravdu?"_s, MessageIcon::Question, MessageButtons::YesNo,
+                                   u"Lorvo"_s);
         wentOn = true;
     });
     ExpectEnd([&] { PressLater(button); });
@@ -141,7 +144,7 @@ TEST_F(FailuresTest, InAnEventHandler) {
 TEST_F(FailuresTest, WhileAWindowCloses) {
     class Unclosable : public Form {
       public:
-        Unclosable() : Form("fm_Unclosable", QStringLiteral("Okno"), Border::Sizable, nullptr) {}
+        Unclosable() : Form("fm_Unclosable", u"Okno"_s, Border::Sizable, nullptr) {}
         void Activated() override {
             Later(this, [this] { QTest::keyClick(this, Qt::Key_Escape); });
         }

@@ -13,23 +13,25 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A window of 300 x 200 with a list of three columns, 100 wide each.
 class WindowWithList : public QDialog {
   public:
     WindowWithList() {
-        setObjectName(QStringLiteral("fm_Test"));
+        setObjectName(u"fm_Test"_s);
         auto* layout = new QVBoxLayout(this);
-        layout->addWidget(new QLabel(QStringLiteral("Popis"), this));
+        layout->addWidget(new QLabel(u"Popis"_s, this));
         layout->addWidget(lvwDogs);
         lvwDogs->SetColumnWidths({100, 100, 100});
         resize(300, 200);
         move(40, 50);
     }
 
-    ReportList* lvwDogs = new ReportList(
-        "lvwDogs", {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}, this);
+    ReportList* lvwDogs = new ReportList("lvwDogs", {u"A"_s, u"B"_s, u"C"_s}, this);
 };
 
 class FormSettingsTest : public ::testing::Test {
@@ -53,8 +55,8 @@ TEST_F(FormSettingsTest, AFreshMachineKeepsTheDesign) {
 
 TEST_F(FormSettingsTest, SetsTheFontOfAllControls) {
     LoadFormSettings(window, false);
-    EXPECT_EQ(window.font().family(), QStringLiteral("Tahoma"));
-    EXPECT_EQ(window.findChild<QLabel*>()->font().family(), QStringLiteral("Tahoma"));
+    EXPECT_EQ(window.font().family(), u"Tahoma"_s);
+    EXPECT_EQ(window.findChild<QLabel*>()->font().family(), u"Tahoma"_s);
 }
 
 TEST_F(FormSettingsTest, RestoresPositionAndSize) {
@@ -117,7 +119,7 @@ std::vector<int> Order(const ReportList& list) {
 }
 
 TEST_F(FormSettingsTest, StoredPlacesAreTakenColumnByColumn) {
-    window.lvwDogs->InsertColumn(3, QStringLiteral("Čtvrtý"));
+    window.lvwDogs->InsertColumn(3, u"Čtvrtý"_s);
     Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 1", "3");
     Store("ColPos\\fm_Test\\lvwDogs\\ColPosition 2", "2");
     LoadFormSettings(window, false);
@@ -139,11 +141,10 @@ TEST_F(FormSettingsTest, EveryOrderOfColumnsComesBack) {
 }
 
 TEST_F(FormSettingsTest, AnyWholeOrderOfColumnsComesBack) {
-    window.lvwDogs->InsertColumn(3, QStringLiteral("D"));
+    window.lvwDogs->InsertColumn(3, u"D"_s);
     const QList<int> positions = {3, 4, 2, 1};
     for (int column = 0; column < 4; ++column)
-        platform
-            .settings[QStringLiteral("ColPos\\fm_Test\\lvwDogs\\ColPosition %1").arg(column + 1)] =
+        platform.settings[u"ColPos\\fm_Test\\lvwDogs\\ColPosition %1"_s.arg(column + 1)] =
             QString::number(positions[column]);
     LoadFormSettings(window, false);
     for (int column = 0; column < 4; ++column)
@@ -194,7 +195,7 @@ TEST_F(FormSettingsTest, AColumnOfNoWidthCanBeSeen) {
 
 TEST_F(FormSettingsTest, AWideningIsNotStored) {
     SaveFormSettings(window, 120);
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Width"), QStringLiteral("180"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Width"), u"180"_s);
 }
 
 TEST_F(FormSettingsTest, AColumnThatNoLongerExistsHasNoEffect) {
@@ -218,22 +219,22 @@ TEST_F(FormSettingsTest, GridLinesAreSwitchedOnAndNeverOff) {
 TEST_F(FormSettingsTest, StoresWhatItReads) {
     window.lvwDogs->header()->moveSection(0, 2);
     SaveFormSettings(window);
-    EXPECT_EQ(Stored("ColWidths\\fm_Test\\lvwDogs\\ColWidth 1"), QStringLiteral("100"));
-    EXPECT_EQ(Stored("ColPos\\fm_Test\\lvwDogs\\ColPosition 1"), QStringLiteral("3"));
-    EXPECT_EQ(Stored("ColPos\\fm_Test\\lvwDogs\\ColPosition 2"), QStringLiteral("1"));
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\WindowState"), QStringLiteral("0"));
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Top"), QStringLiteral("50"));
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Left"), QStringLiteral("40"));
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Height"), QStringLiteral("200"));
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Width"), QStringLiteral("300"));
+    EXPECT_EQ(Stored("ColWidths\\fm_Test\\lvwDogs\\ColWidth 1"), u"100"_s);
+    EXPECT_EQ(Stored("ColPos\\fm_Test\\lvwDogs\\ColPosition 1"), u"3"_s);
+    EXPECT_EQ(Stored("ColPos\\fm_Test\\lvwDogs\\ColPosition 2"), u"1"_s);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\WindowState"), u"0"_s);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Top"), u"50"_s);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Left"), u"40"_s);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Height"), u"200"_s);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Width"), u"300"_s);
 }
 
 TEST_F(FormSettingsTest, AMaximisedWindowKeepsTheNormalSizeItHadLast) {
     Store("Form Positions\\fm_Test\\Height", "410");
     window.setWindowState(Qt::WindowMaximized);
     SaveFormSettings(window);
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\WindowState"), QStringLiteral("2"));
-    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Height"), QStringLiteral("410"));
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\WindowState"), u"2"_s);
+    EXPECT_EQ(Stored("Form Positions\\fm_Test\\Height"), u"410"_s);
 }
 
 } // namespace

@@ -11,6 +11,9 @@
 #include <QVBoxLayout>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using test::WhileOpen;
@@ -18,21 +21,20 @@ using test::WhileOpen;
 class StepsForm : public Form {
   public:
     explicit StepsForm(QStringList& steps, const char* name = "fm_Steps")
-        : Form(name, QStringLiteral("Kroky"), Border::Sizable, nullptr), steps_(steps) {
+        : Form(name, u"Kroky"_s, Border::Sizable, nullptr), steps_(steps) {
         auto* layout = new QVBoxLayout(this);
-        layout->addWidget(
-            Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK")));
+        layout->addWidget(Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s));
         connect(findChild<QPushButton*>(), &QPushButton::clicked, this, &QDialog::accept);
     }
 
-    void Activated() override { steps_ << objectName() + QStringLiteral(" activated"); }
+    void Activated() override { steps_ << objectName() + u" activated"_s; }
     void Load() override {
-        steps_ << objectName() + QStringLiteral(" load");
+        steps_ << objectName() + u" load"_s;
         if (onLoad)
             onLoad();
     }
     bool QueryUnload() override {
-        steps_ << objectName() + QStringLiteral(" unload");
+        steps_ << objectName() + u" unload"_s;
         return mayClose;
     }
 
@@ -47,7 +49,7 @@ class MainStandIn : public Activatable {
   public:
     explicit MainStandIn(QStringList& steps) : steps_(steps) { SetActivatedBelow(this); }
     ~MainStandIn() override { SetActivatedBelow(nullptr); }
-    void Activate() override { steps_ << QStringLiteral("main activated"); }
+    void Activate() override { steps_ << u"main activated"_s; }
 
   private:
     QStringList& steps_;
@@ -58,9 +60,8 @@ class FormTest : public ::testing::Test {
     test::RecordingPlatform platform;
     QStringList steps;
     MainStandIn mainWindow{steps};
-    const QStringList oneRun = {
-        QStringLiteral("fm_Steps load"), QStringLiteral("fm_Steps activated"),
-        QStringLiteral("fm_Steps unload"), QStringLiteral("main activated")};
+    const QStringList oneRun = {u"fm_Steps load"_s, u"fm_Steps activated"_s, u"fm_Steps unload"_s,
+                                u"main activated"_s};
 };
 
 TEST_F(FormTest, LoadsOnceAndTellsTheMainWindowOnceWhenAButtonClosesIt) {
@@ -104,10 +105,10 @@ TEST_F(FormTest, TheWindowBelowIsToldAndNotTheMainWindow) {
               [&](QWidget&) {
                   steps.clear();
                   WhileOpen([&] { OpenModal(above); }, [](QWidget& window) { window.close(); });
-                  EXPECT_EQ(steps.mid(3), QStringList(QStringLiteral("fm_Steps activated")));
+                  EXPECT_EQ(steps.mid(3), QStringList(u"fm_Steps activated"_s));
                   EXPECT_TRUE(IsModalOpen());
               });
-    EXPECT_EQ(steps.last(), QStringLiteral("main activated"));
+    EXPECT_EQ(steps.last(), u"main activated"_s);
 }
 
 TEST_F(FormTest, AFailureWhileLoadingLeavesNoWindowOpen) {
@@ -117,7 +118,7 @@ TEST_F(FormTest, AFailureWhileLoadingLeavesNoWindowOpen) {
     };
     EXPECT_THROW(OpenModal(form), StoreError);
     EXPECT_FALSE(IsModalOpen());
-    EXPECT_EQ(steps, QStringList(QStringLiteral("fm_Steps load")));
+    EXPECT_EQ(steps, QStringList(u"fm_Steps load"_s));
 }
 
 TEST_F(FormTest, AFailureInAHandlerGoesUpThroughEveryOpenWindow) {
@@ -133,12 +134,12 @@ TEST_F(FormTest, AFailureInAHandlerGoesUpThroughEveryOpenWindow) {
             &above, [&] { QTest::mouseClick(above.findChild<QPushButton*>(), Qt::LeftButton); },
             Qt::QueuedConnection);
     };
-    platform.ExpectMessage(QStringLiteral("broken"));
+    platform.ExpectMessage(u"broken"_s);
     EXPECT_EQ(static_cast<Application*>(qApp)->Run([&] { OpenModal(below); }), 1);
     EXPECT_FALSE(IsModalOpen());
     EXPECT_FALSE(below.isVisible());
     EXPECT_FALSE(above.isVisible());
-    EXPECT_FALSE(steps.contains(QStringLiteral("main activated")));
+    EXPECT_FALSE(steps.contains(u"main activated"_s));
 }
 
 TEST_F(FormTest, AWindowMayBeOpenedAgain) {

@@ -13,28 +13,30 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class OpenEditTest : public testing::Test {
   protected:
-    OpenEditTest() : list("lvwDogs", {QStringLiteral("Pes")}, &window) {
+    OpenEditTest() : list("lvwDogs", {u"Pes"_s}, &window) {
         auto* column = new QVBoxLayout(&window);
         auto* bar = new QToolBar(&window);
-        QAction* act = bar->addAction(QStringLiteral("Smazat"));
+        QAction* act = bar->addAction(u"Smazat"_s);
         tool = qobject_cast<QToolButton*>(bar->widgetForAction(act));
-        button = new QPushButton(QStringLiteral("&Zavřít"), &window);
+        button = new QPushButton(u"&Zavřít"_s, &window);
         column->addWidget(bar);
         column->addWidget(&list);
         column->addWidget(button);
-        list.SetRows({{QStringLiteral("P1"), {}, {{QStringLiteral("Rex")}}},
-                      {QStringLiteral("P2"), {}, {{QStringLiteral("Alík")}}}});
+        list.SetRows({{u"P1"_s, {}, {{u"Rex"_s}}}, {u"P2"_s, {}, {{u"Alík"_s}}}});
         QObject::connect(&list, &ReportList::AfterLabelEdit, &list,
                          [this](int, const QString& text, bool* cancel) {
                              done << text;
                              *cancel = refuse;
                          });
         QObject::connect(&list, &ReportList::LabelEditGivenUp, &list,
-                         [this](int row) { done << QStringLiteral("given up %1").arg(row); });
+                         [this](int row) { done << u"given up %1"_s.arg(row); });
         for (QAbstractButton* each :
              {static_cast<QAbstractButton*>(tool), static_cast<QAbstractButton*>(button)})
             QObject::connect(each, &QAbstractButton::clicked, &list,
@@ -49,7 +51,7 @@ class OpenEditTest : public testing::Test {
         QTest::keyClicks(Editor(), text);
     }
     QLineEdit* Editor() {
-        auto* editor = list.findChild<QLineEdit*>(QStringLiteral("lvwDogs.editor"));
+        auto* editor = list.findChild<QLineEdit*>(u"lvwDogs.editor"_s);
         return editor;
     }
     void Click(QWidget* widget, QPoint place = {}) {
@@ -67,54 +69,54 @@ class OpenEditTest : public testing::Test {
 
 TEST_F(OpenEditTest, EndsBeforeAClickElsewhereActs) {
     for (QWidget* widget : {static_cast<QWidget*>(tool), static_cast<QWidget*>(button)}) {
-        Type(0, QStringLiteral("Brok"));
+        Type(0, u"Brok"_s);
         Click(widget);
         ASSERT_EQ(done.size(), 2);
-        EXPECT_EQ(done[0], QStringLiteral("Brok"));
+        EXPECT_EQ(done[0], u"Brok"_s);
         EXPECT_FALSE(Editor());
     }
 }
 
 TEST_F(OpenEditTest, EndsBeforeAnAccessKeyActs) {
-    Type(0, QStringLiteral("Brok"));
+    Type(0, u"Brok"_s);
     QTest::keyClick(Editor(), Qt::Key_Z, Qt::AltModifier);
     QTRY_VERIFY2_WITH_TIMEOUT(done.size() == 2, "no click", 2000);
-    EXPECT_EQ(done, (QStringList{QStringLiteral("Brok"), QStringLiteral("&Zavřít")}));
+    EXPECT_EQ(done, (QStringList{u"Brok"_s, u"&Zavřít"_s}));
 }
 
 TEST_F(OpenEditTest, ARefusedTextKeepsTheClickFromActing) {
     refuse = true;
     for (QWidget* widget : {static_cast<QWidget*>(tool), static_cast<QWidget*>(button)}) {
-        Type(0, QStringLiteral("Brok"));
+        Type(0, u"Brok"_s);
         Click(widget);
-        EXPECT_EQ(done, QStringList{QStringLiteral("Brok")});
+        EXPECT_EQ(done, QStringList{u"Brok"_s});
     }
-    Type(0, QStringLiteral("Brok"));
+    Type(0, u"Brok"_s);
     Click(list.viewport(), list.visualRect(list.model()->index(1, 0)).center());
-    EXPECT_EQ(done, QStringList{QStringLiteral("Brok")});
+    EXPECT_EQ(done, QStringList{u"Brok"_s});
     EXPECT_EQ(list.SelectedRow(), 0) << "the row that was edited";
     Click(tool);
-    EXPECT_EQ(done.last(), QStringLiteral("Smazat")) << "that click alone";
+    EXPECT_EQ(done.last(), u"Smazat"_s) << "that click alone";
 }
 
 TEST_F(OpenEditTest, AClickWithinTheEditorIsPartOfTheEdit) {
-    Type(0, QStringLiteral("Brok"));
+    Type(0, u"Brok"_s);
     Click(Editor());
     EXPECT_TRUE(done.isEmpty());
     EXPECT_TRUE(Editor());
 }
 
 TEST_F(OpenEditTest, EscGivesItUp) {
-    Type(1, QStringLiteral("Brok"));
+    Type(1, u"Brok"_s);
     QTest::keyClick(Editor(), Qt::Key_Escape);
-    EXPECT_EQ(done, QStringList{QStringLiteral("given up 1")});
+    EXPECT_EQ(done, QStringList{u"given up 1"_s});
 }
 
 TEST_F(OpenEditTest, AllOfAWindowEndAtOnce) {
-    Type(1, QStringLiteral("Brok"));
+    Type(1, u"Brok"_s);
     EndLabelEdits(window);
-    EXPECT_EQ(done, QStringList{QStringLiteral("Brok")});
-    EXPECT_EQ(list.CellText(1, 0), QStringLiteral("Brok"));
+    EXPECT_EQ(done, QStringList{u"Brok"_s});
+    EXPECT_EQ(list.CellText(1, 0), u"Brok"_s);
 }
 
 } // namespace

@@ -5,22 +5,25 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double kScales[] = {1.0, 1.25, 1.5, 2.0, 3.0};
 
 /// The names of all pictures; the first icon asked for loads them.
 QStringList AllNames() {
-    EXPECT_FALSE(ProgramIcon(QStringLiteral("dog")).isNull());
+    EXPECT_FALSE(ProgramIcon(u"dog"_s).isNull());
     QStringList names;
-    for (const QString& file : QDir(QStringLiteral(":/lorvo/icons/16")).entryList())
+    for (const QString& file : QDir(u":/lorvo/icons/16"_s).entryList())
         names.append(file.chopped(4));
     EXPECT_GE(names.size(), 30);
     return names;
 }
 
 QImage FileOf(const QString& name, int side) {
-    return QImage(QStringLiteral(":/lorvo/icons/%1/%2.png").arg(side).arg(name))
+    return QImage(u":/lorvo/icons/%1/%2.png"_s.arg(side).arg(name))
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
@@ -48,13 +51,13 @@ TEST(ProgramIconTest, EveryPictureIsCrispAtEveryScale) {
 
 TEST(ProgramIconTest, TheProgramsOwnPictureFillsAPanelCrisply) {
     for (const double scale : kScales)
-        ExpectCrisp(QStringLiteral("lorvo"), 256, scale);
+        ExpectCrisp(u"lorvo"_s, 256, scale);
 }
 
 /// A picture larger than any that was drawn is the largest one, never an empty one.
 TEST(ProgramIconTest, ASizeThatWasNotDrawnIsStillAPicture) {
-    const QImage picture = Shown(QStringLiteral("dog"), 300, 1);
-    EXPECT_TRUE(picture == FileOf(QStringLiteral("dog"), 96));
+    const QImage picture = Shown(u"dog"_s, 300, 1);
+    EXPECT_TRUE(picture == FileOf(u"dog"_s, 96));
 }
 
 TEST(ProgramIconTest, EveryPictureButTheBlankOneIsDrawn) {
@@ -62,12 +65,12 @@ TEST(ProgramIconTest, EveryPictureButTheBlankOneIsDrawn) {
         const QImage picture = FileOf(name, 16);
         QImage nothing(picture.size(), picture.format());
         nothing.fill(Qt::transparent);
-        EXPECT_EQ(picture == nothing, name == QStringLiteral("blank")) << qPrintable(name);
+        EXPECT_EQ(picture == nothing, name == u"blank"_s) << qPrintable(name);
     }
 }
 
 TEST(ProgramIconTest, ANameWithoutAPictureIsANullIcon) {
-    EXPECT_TRUE(ProgramIcon(QStringLiteral("unicorn")).isNull());
+    EXPECT_TRUE(ProgramIcon(u"unicorn"_s).isNull());
 }
 
 } // namespace

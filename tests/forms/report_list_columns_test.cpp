@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ReportListColumnsTest : public ::testing::Test {
@@ -16,11 +19,9 @@ class ReportListColumnsTest : public ::testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&list));
     }
     int Shown(int column) { return list.header()->sectionSize(column); }
-    static ReportRow Row(const QString& amount) {
-        return {QStringLiteral("P1"), {}, {{QStringLiteral("Rex")}, {amount}}};
-    }
+    static ReportRow Row(const QString& amount) { return {u"P1"_s, {}, {{u"Rex"_s}, {amount}}}; }
 
-    ReportList list{"lvwTest", {QStringLiteral("Jméno"), QStringLiteral("Uhrazeno")}, nullptr};
+    ReportList list{"lvwTest", {u"Jméno"_s, u"Uhrazeno"_s}, nullptr};
 };
 
 TEST_F(ReportListColumnsTest, TheLastColumnFillsTheWidthAndIsKeptAsDesigned) {
@@ -39,8 +40,7 @@ TEST_F(ReportListColumnsTest, AMovedColumnTakesItsOwnWidthAgain) {
 }
 
 TEST_F(ReportListColumnsTest, HeadingsHaveRoomForTheSortPicture) {
-    ReportList sorted("lvwSorted", {QStringLiteral("Uhrazeno"), QStringLiteral("Bilance")},
-                      nullptr);
+    ReportList sorted("lvwSorted", {u"Uhrazeno"_s, u"Bilance"_s}, nullptr);
     sorted.SetSorting(true);
     sorted.SetColumnWidths({10, 10});
     SortListColumn(sorted, 0);
@@ -49,9 +49,9 @@ TEST_F(ReportListColumnsTest, HeadingsHaveRoomForTheSortPicture) {
 }
 
 TEST_F(ReportListColumnsTest, AmountsWidenTheirColumnUntilTheClerkDrawsIt) {
-    list.InsertColumn(2, QStringLiteral("Účet"));
+    list.InsertColumn(2, u"Účet"_s);
     list.AlignRight({1});
-    const QString amount = QStringLiteral("1234 567,50 Kč a ještě něco");
+    const QString amount = u"1234 567,50 Kč a ještě něco"_s;
     list.SetRows({Row(amount)});
     EXPECT_GE(list.ColumnWidth(1), list.fontMetrics().horizontalAdvance(amount));
     list.header()->resizeSection(1, 40);
@@ -61,7 +61,7 @@ TEST_F(ReportListColumnsTest, AmountsWidenTheirColumnUntilTheClerkDrawsIt) {
 }
 
 TEST_F(ReportListColumnsTest, AnInsertedColumnLeavesTheOthersTheirWidths) {
-    list.InsertColumn(1, QStringLiteral("Pes"));
+    list.InsertColumn(1, u"Pes"_s);
     EXPECT_EQ(list.ColumnWidth(0), 150);
     const int last = list.ColumnWidth(2);
     list.RemoveColumn(1);

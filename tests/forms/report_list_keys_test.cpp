@@ -14,6 +14,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ReportRow MakeRow(const char* key, std::initializer_list<const char*> texts) {
@@ -60,8 +63,8 @@ class ReportListKeysTest : public ::testing::Test {
 
     QDialog window;
     QLineEdit box;
-    ReportList list{"lvwTest", {QStringLiteral("Jméno"), QStringLiteral("Cena")}, nullptr};
-    QPushButton close{QStringLiteral("Zavřít")};
+    ReportList list{"lvwTest", {u"Jméno"_s, u"Cena"_s}, nullptr};
+    QPushButton close{u"Zavřít"_s};
 };
 
 TEST_F(ReportListKeysTest, EnterOpensTheRowAndNeverTheDefaultButton) {
@@ -119,19 +122,19 @@ TEST_F(ReportListKeysTest, AListThatGetsTheFocusChoosesNoRow) {
 
 TEST_F(ReportListKeysTest, AfterADeletionNoRowIsChosen) {
     list.SelectRow(1);
-    list.RemoveRow(QStringLiteral("P2"));
+    list.RemoveRow(u"P2"_s);
     EXPECT_EQ(list.SelectedRow(), -1);
     EXPECT_FALSE(list.currentIndex().isValid());
     list.SelectRow(1);
-    list.RemoveRow(QStringLiteral("P1"));
+    list.RemoveRow(u"P1"_s);
     EXPECT_EQ(list.SelectedRow(), 0);
 }
 
 TEST_F(ReportListKeysTest, CtrlTabChangesThePage) {
     QTabWidget pages;
-    auto* inPage = new ReportList("lvwPage", {QStringLiteral("Jméno")}, nullptr);
-    pages.addTab(inPage, QStringLiteral("První"));
-    pages.addTab(new QWidget, QStringLiteral("Druhá"));
+    auto* inPage = new ReportList("lvwPage", {u"Jméno"_s}, nullptr);
+    pages.addTab(inPage, u"První"_s);
+    pages.addTab(new QWidget, u"Druhá"_s);
     pages.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&pages));
     inPage->setFocus();
@@ -143,27 +146,25 @@ TEST_F(ReportListKeysTest, CopiesTheSelectedRowsForASheet) {
     list.SetMultiSelect(true);
     list.SelectRow(1);
     QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(Copied(), QStringLiteral("Alík\t1234,50\n"));
+    EXPECT_EQ(Copied(), u"Alík\t1234,50\n"_s);
     QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
     list.header()->moveSection(0, 1);
     QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(Copied(), QStringLiteral("10,00\tRex\n1234,50\tAlík\n-5,00\tČert z Lhoty\n"));
+    EXPECT_EQ(Copied(), u"10,00\tRex\n1234,50\tAlík\n-5,00\tČert z Lhoty\n"_s);
 }
 
 TEST_F(ReportListKeysTest, WithoutASelectionTheWholeListIsCopied) {
     QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(Copied(),
-              QStringLiteral("Jméno\tCena\nRex\t10,00\nAlík\t1234,50\nČert z Lhoty\t-5,00\n"));
+    EXPECT_EQ(Copied(), u"Jméno\tCena\nRex\t10,00\nAlík\t1234,50\nČert z Lhoty\t-5,00\n"_s);
 }
 
 TEST_F(ReportListKeysTest, CellsSayWhatTheirLooksMean) {
     ReportRow row = MakeRow("P4", {"Argo"});
-    row.cells[0].spoken = QStringLiteral("otec");
+    row.cells[0].spoken = u"otec"_s;
     const int position = list.AddRow(row);
     const QAbstractItemModel& model = *list.model();
-    EXPECT_EQ(model.index(position, 0).data(Qt::AccessibleTextRole).toString(),
-              QStringLiteral("Argo, otec"));
-    EXPECT_EQ(model.index(0, 0).data(Qt::AccessibleTextRole).toString(), QStringLiteral("Rex"));
+    EXPECT_EQ(model.index(position, 0).data(Qt::AccessibleTextRole).toString(), u"Argo, otec"_s);
+    EXPECT_EQ(model.index(0, 0).data(Qt::AccessibleTextRole).toString(), u"Rex"_s);
 }
 
 TEST_F(ReportListKeysTest, ToldColoursStandOnALightGround) {

@@ -5,11 +5,14 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SortingTest : public ::testing::Test {
   protected:
-    ReportList list{"lvwTest", {QStringLiteral("Jméno"), QStringLiteral("Číslo")}, nullptr};
+    ReportList list{"lvwTest", {u"Jméno"_s, u"Číslo"_s}, nullptr};
 
     void Fill(const std::vector<std::pair<const char*, const char*>>& cells) {
         std::vector<ReportRow> rows;
@@ -35,12 +38,12 @@ TEST_F(SortingTest, TheFirstClickSortsDescendingAndTheListToggles) {
     Fill({{"b", "1"}, {"c", "2"}, {"a", "3"}});
     EXPECT_EQ(list.PictureOf(0), HeaderPicture::None);
     SortListColumn(list, 0);
-    EXPECT_EQ(Column(0), QStringLiteral("c b a"));
+    EXPECT_EQ(Column(0), u"c b a"_s);
     EXPECT_EQ(list.PictureOf(0), HeaderPicture::Descending);
     EXPECT_EQ(list.PictureOf(1), HeaderPicture::Neutral);
     // The direction is the list's, so that another column goes on from it.
     SortListColumn(list, 1);
-    EXPECT_EQ(Column(1), QStringLiteral("1 2 3"));
+    EXPECT_EQ(Column(1), u"1 2 3"_s);
     EXPECT_EQ(list.PictureOf(1), HeaderPicture::Ascending);
     EXPECT_EQ(list.PictureOf(0), HeaderPicture::Neutral);
 }
@@ -49,7 +52,7 @@ TEST_F(SortingTest, NumbersSortAsTexts) {
     Fill({{"x", "9"}, {"x", "100"}, {"x", "10"}});
     SortListColumn(list, 1);
     SortListColumn(list, 1);
-    EXPECT_EQ(Column(1), QStringLiteral("10 100 9"));
+    EXPECT_EQ(Column(1), u"10 100 9"_s);
 }
 
 TEST_F(SortingTest, CzechOrderWithoutRegardToLetterCase) {
@@ -67,16 +70,16 @@ TEST_F(SortingTest, CzechOrderWithoutRegardToLetterCase) {
           {"Rex", ""}});
     SortListColumn(list, 0);
     SortListColumn(list, 0);
-    EXPECT_EQ(Column(0), QStringLiteral("áron azor Cit Čert hafan chrt ibizan Rex Řek Sam Šarik "
-                                        "Žofka"));
+    EXPECT_EQ(Column(0), u"áron azor Cit Čert hafan chrt ibizan Rex Řek Sam Šarik "
+                         "Žofka"_s);
 }
 
 TEST_F(SortingTest, RowsOfEqualTextKeepTheirOrderEitherWay) {
     Fill({{"Rex", "1"}, {"rex", "2"}, {"REX", "3"}, {"Alík", "4"}});
     SortListColumn(list, 0);
-    EXPECT_EQ(Column(1), QStringLiteral("1 2 3 4"));
+    EXPECT_EQ(Column(1), u"1 2 3 4"_s);
     SortListColumn(list, 0);
-    EXPECT_EQ(Column(1), QStringLiteral("4 1 2 3"));
+    EXPECT_EQ(Column(1), u"4 1 2 3"_s);
 }
 
 TEST_F(SortingTest, TheSelectionStaysWithItsRow) {
@@ -90,10 +93,10 @@ TEST_F(SortingTest, RowsThatComeLaterFindTheirPlaceAndChangedOnesStay) {
     Fill({{"a", "1"}, {"c", "2"}});
     SortListColumn(list, 0);
     EXPECT_EQ(list.AddRow(RowOf("b", "3")), 1);
-    list.SetCell(0, 0, QStringLiteral("0"));
-    EXPECT_EQ(Column(0), QStringLiteral("0 b a"));
+    list.SetCell(0, 0, u"0"_s);
+    EXPECT_EQ(Column(0), u"0 b a"_s);
     Fill({{"a", "1"}, {"c", "2"}, {"b", "3"}});
-    EXPECT_EQ(Column(0), QStringLiteral("c b a"));
+    EXPECT_EQ(Column(0), u"c b a"_s);
 }
 
 TEST_F(SortingTest, AClickOnAHeadingSortsWhereAllowed) {
@@ -103,10 +106,10 @@ TEST_F(SortingTest, AClickOnAHeadingSortsWhereAllowed) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
     QWidget* header = list.header()->viewport();
     QTest::mouseClick(header, Qt::LeftButton, {}, {20, 8});
-    EXPECT_EQ(Column(0), QStringLiteral("a b"));
+    EXPECT_EQ(Column(0), u"a b"_s);
     list.SetSorting(true);
     QTest::mouseClick(header, Qt::LeftButton, {}, {20, 8});
-    EXPECT_EQ(Column(0), QStringLiteral("b a"));
+    EXPECT_EQ(Column(0), u"b a"_s);
 }
 
 } // namespace

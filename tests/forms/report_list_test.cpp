@@ -8,6 +8,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ReportRow MakeRow(const char* key, std::initializer_list<const char*> texts) {
@@ -39,12 +42,12 @@ class ReportListTest : public ::testing::Test {
         return nullptr;
     }
 
-    ReportList list{"lvwTest", {QStringLiteral("Jméno"), QStringLiteral("Číslo")}, nullptr};
+    ReportList list{"lvwTest", {u"Jméno"_s, u"Číslo"_s}, nullptr};
 };
 
 TEST_F(ReportListTest, AmountsStandAtTheRightWhereverTheirColumnMoves) {
     list.AlignRight({1});
-    list.InsertColumn(1, QStringLiteral("Pes"));
+    list.InsertColumn(1, u"Pes"_s);
     const QAbstractItemModel& model = *list.model();
     const auto alignment = [&](int column) {
         const QVariant cell = model.index(0, column).data(Qt::TextAlignmentRole);
@@ -58,31 +61,31 @@ TEST_F(ReportListTest, AmountsStandAtTheRightWhereverTheirColumnMoves) {
 
 TEST_F(ReportListTest, GivesKeysTagsColoursAndTextsByTheirRoles) {
     ReportRow row = MakeRow("P4", {"Bára"});
-    row.tag = QStringLiteral("značka");
+    row.tag = u"značka"_s;
     row.bold = true;
     list.AddRow(row);
     list.SetCellColour(3, 1, QColor(Qt::red));
     const QAbstractItemModel& model = *list.model();
-    EXPECT_EQ(model.index(3, 0).data(Qt::UserRole).toString(), QStringLiteral("P4"));
-    EXPECT_EQ(model.index(3, 0).data(Qt::UserRole + 1).toString(), QStringLiteral("značka"));
+    EXPECT_EQ(model.index(3, 0).data(Qt::UserRole).toString(), u"P4"_s);
+    EXPECT_EQ(model.index(3, 0).data(Qt::UserRole + 1).toString(), u"značka"_s);
     EXPECT_TRUE(model.index(3, 0).data(Qt::FontRole).value<QFont>().bold());
     EXPECT_EQ(model.index(3, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
     EXPECT_EQ(model.index(3, 1).data().toString(), QString());
-    EXPECT_EQ(list.objectName(), QStringLiteral("lvwTest"));
+    EXPECT_EQ(list.objectName(), u"lvwTest"_s);
     EXPECT_TRUE(list.uniformRowHeights());
 }
 
 TEST_F(ReportListTest, FindsRowsByKeyAfterEveryChange) {
-    EXPECT_EQ(list.FindRow(QStringLiteral("P3")), 2);
-    list.RemoveRow(QStringLiteral("P1"));
-    EXPECT_EQ(list.FindRow(QStringLiteral("P3")), 1);
-    EXPECT_EQ(list.FindRow(QStringLiteral("P1")), -1);
-    list.SetKey(1, QStringLiteral("P7"));
-    EXPECT_EQ(list.FindRow(QStringLiteral("P7")), 1);
-    EXPECT_EQ(list.FindText(QStringLiteral("Alík")), 0);
+    EXPECT_EQ(list.FindRow(u"P3"_s), 2);
+    list.RemoveRow(u"P1"_s);
+    EXPECT_EQ(list.FindRow(u"P3"_s), 1);
+    EXPECT_EQ(list.FindRow(u"P1"_s), -1);
+    list.SetKey(1, u"P7"_s);
+    EXPECT_EQ(list.FindRow(u"P7"_s), 1);
+    EXPECT_EQ(list.FindText(u"Alík"_s), 0);
     list.ClearRows();
     EXPECT_EQ(list.RowCount(), 0);
-    EXPECT_EQ(list.FindRow(QStringLiteral("P7")), -1);
+    EXPECT_EQ(list.FindRow(u"P7"_s), -1);
 }
 
 TEST_F(ReportListTest, TicksByMouseAndByTheSpaceBar) {
@@ -145,12 +148,12 @@ TEST_F(ReportListTest, F2RenamesAndEnterCommits) {
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, Middle(1, 1));
     QTest::keyClick(&list, Qt::Key_F2);
     ASSERT_TRUE(Editor());
-    EXPECT_EQ(Editor()->text(), QStringLiteral("Alík"));
+    EXPECT_EQ(Editor()->text(), u"Alík"_s);
     Editor()->selectAll();
-    QTest::keyClicks(Editor(), QStringLiteral("Azor"));
+    QTest::keyClicks(Editor(), u"Azor"_s);
     QTest::keyClick(Editor(), Qt::Key_Return);
     QTRY_VERIFY2_WITH_TIMEOUT(after.count() == 1, "no commit", 2000);
-    EXPECT_EQ(list.CellText(1, 0), QStringLiteral("Azor"));
+    EXPECT_EQ(list.CellText(1, 0), u"Azor"_s);
 }
 
 TEST_F(ReportListTest, AnUntouchedEditCommitsToo) {
@@ -159,21 +162,21 @@ TEST_F(ReportListTest, AnUntouchedEditCommitsToo) {
     ASSERT_TRUE(Editor());
     QTest::keyClick(Editor(), Qt::Key_Return);
     QTRY_VERIFY2_WITH_TIMEOUT(after.count() == 1, "no commit", 2000);
-    EXPECT_EQ(after[0][1].toString(), QStringLiteral("Rex"));
+    EXPECT_EQ(after[0][1].toString(), u"Rex"_s);
 }
 
 TEST_F(ReportListTest, LossOfFocusCommitsAndEscDoesNot) {
     QSignalSpy after(&list, &ReportList::AfterLabelEdit);
     list.StartLabelEdit(0);
-    Editor()->setText(QStringLiteral("Ares"));
+    Editor()->setText(u"Ares"_s);
     list.setFocus();
     EXPECT_EQ(after.count(), 1);
-    EXPECT_EQ(list.CellText(0, 0), QStringLiteral("Ares"));
+    EXPECT_EQ(list.CellText(0, 0), u"Ares"_s);
     list.StartLabelEdit(0);
-    Editor()->setText(QStringLiteral("Brok"));
+    Editor()->setText(u"Brok"_s);
     QTest::keyClick(Editor(), Qt::Key_Escape);
     EXPECT_EQ(after.count(), 1);
-    EXPECT_EQ(list.CellText(0, 0), QStringLiteral("Ares"));
+    EXPECT_EQ(list.CellText(0, 0), u"Ares"_s);
 }
 
 TEST_F(ReportListTest, ACancelledCommitKeepsTheOldTextAndMayTakeTheRowAway) {
@@ -183,10 +186,10 @@ TEST_F(ReportListTest, ACancelledCommitKeepsTheOldTextAndMayTakeTheRowAway) {
                          list.RemoveRow(list.Row(position).key);
                      });
     list.StartLabelEdit(2);
-    Editor()->setText(QStringLiteral("Cit"));
+    Editor()->setText(u"Cit"_s);
     list.setFocus();
     EXPECT_EQ(list.RowCount(), 2);
-    EXPECT_EQ(list.FindText(QStringLiteral("Cit")), -1);
+    EXPECT_EQ(list.FindText(u"Cit"_s), -1);
 }
 
 TEST_F(ReportListTest, AnEditMayBeRefusedBeforeItStarts) {
@@ -205,17 +208,16 @@ TEST_F(ReportListTest, AListWithoutLabelEditIgnoresF2) {
 }
 
 TEST_F(ReportListTest, AColumnMayBeAddedBetweenOthers) {
-    list.InsertColumn(1, QStringLiteral("Plemeno"));
+    list.InsertColumn(1, u"Plemeno"_s);
     EXPECT_EQ(list.ColumnCount(), 3);
     EXPECT_EQ(list.CellText(0, 1), QString());
-    EXPECT_EQ(list.CellText(0, 2), QStringLiteral("10"));
-    list.SetHeading(1, QStringLiteral("Rasa"));
-    EXPECT_EQ(list.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Rasa"));
+    EXPECT_EQ(list.CellText(0, 2), u"10"_s);
+    list.SetHeading(1, u"Rasa"_s);
+    EXPECT_EQ(list.model()->headerData(1, Qt::Horizontal).toString(), u"Rasa"_s);
 }
 
 TEST_F(ReportListTest, IconsStandInTheirCells) {
-    list.SetIcons(
-        {ProgramIcon(QStringLiteral("not-printed")), ProgramIcon(QStringLiteral("printed"))});
+    list.SetIcons({ProgramIcon(u"not-printed"_s), ProgramIcon(u"printed"_s)});
     list.SetCellIcon(0, 1, 1);
     const auto icon = list.model()->index(0, 1).data(Qt::DecorationRole).value<QIcon>();
     EXPECT_FALSE(icon.isNull());

@@ -12,6 +12,9 @@
 #include <QVBoxLayout>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using test::WhileOpen;
@@ -19,12 +22,11 @@ using test::WhileOpen;
 /// A window of many lines above its buttons.
 class LongForm : public Form {
   public:
-    LongForm(Border border, int lines)
-        : Form("frmLong", QStringLiteral("Dlouhé okno"), border, nullptr) {
+    LongForm(Border border, int lines) : Form("frmLong", u"Dlouhé okno"_s, border, nullptr) {
         auto* column = new QVBoxLayout(this);
         for (int i = 0; i < lines; ++i)
             column->addWidget(Named(new QLineEdit(this), ElementName("txtbox", i)));
-        auto* cmdOK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+        auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
         Connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
         column->addLayout(ButtonRow({cmdOK}));
     }
@@ -71,17 +73,17 @@ TEST_F(ScreenFitTest, ADesignedSizeIsBoundedToTheScreen) {
 }
 
 TEST_F(ScreenFitTest, OpensWhereItStoodAndIsBroughtBackInSight) {
-    platform.settings[QStringLiteral("Form Positions\\frmLong\\Top")] = QStringLiteral("60");
-    platform.settings[QStringLiteral("Form Positions\\frmLong\\Left")] = QStringLiteral("70");
+    platform.settings[u"Form Positions\\frmLong\\Top"_s] = u"60"_s;
+    platform.settings[u"Form Positions\\frmLong\\Left"_s] = u"70"_s;
     LongForm form(Form::Border::Fixed, 3);
     Open(form, [](QWidget& window) { EXPECT_EQ(window.pos(), QPoint(70, 60)); });
-    platform.settings[QStringLiteral("Form Positions\\frmLong\\Left")] = QStringLiteral("25000");
+    platform.settings[u"Form Positions\\frmLong\\Left"_s] = u"25000"_s;
     LongForm again(Form::Border::Fixed, 3);
     Open(again, [](QWidget& window) { EXPECT_TRUE(Space(window).contains(window.geometry())); });
 }
 
 TEST_F(ScreenFitTest, AnAxisWithoutAPlaceIsInTheMiddleByTheRealSize) {
-    platform.settings[QStringLiteral("Form Positions\\frmLong\\Top")] = QStringLiteral("60");
+    platform.settings[u"Form Positions\\frmLong\\Top"_s] = u"60"_s;
     LongForm form(Form::Border::Sizable, 3);
     form.resize(500, 300);
     Open(form, [](QWidget& window) {
@@ -100,8 +102,7 @@ TEST_F(ScreenFitTest, AWideningIsNotStored) {
         Wide form;
         Open(form, [](QWidget& window) { EXPECT_EQ(window.width(), 450); });
     }
-    EXPECT_EQ(platform.settings[QStringLiteral("Form Positions\\frmLong\\Width")],
-              QStringLiteral("300"));
+    EXPECT_EQ(platform.settings[u"Form Positions\\frmLong\\Width"_s], u"300"_s);
 }
 
 TEST_F(ScreenFitTest, F1OpensTheHelpWhereverTheKeyboardIs) {

@@ -10,6 +10,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A combo box, a number and a date beside a text box.
@@ -21,8 +24,8 @@ class WheelGuardTest : public testing::Test {
         layout->addWidget(other_ = new QLineEdit);
         layout->addWidget(combo_ = new QComboBox);
         layout->addWidget(number_ = new QSpinBox);
-        layout->addWidget(date_ = DatePicker(QStringLiteral("dtBorn"), &page_));
-        combo_->addItems({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
+        layout->addWidget(date_ = DatePicker(u"dtBorn"_s, &page_));
+        combo_->addItems({u"1"_s, u"2"_s, u"3"_s});
         combo_->setCurrentIndex(1);
         number_->setValue(50);
         date_->setDate({2024, 6, 5});

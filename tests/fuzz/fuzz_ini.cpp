@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     auto ini = lorvo::IniText::FromBytes(bytes);
@@ -13,9 +15,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         return 0;
     if (ini->ToBytes() != bytes)
         std::abort();
-    const QString section = QStringLiteral("Main");
-    const QString key = QStringLiteral("Ignorovat tridy");
-    ini->SetValue(section, key, QStringLiteral("1"));
+    const QString section = u"Main"_s;
+    const QString key = u"Ignorovat tridy"_s;
+    ini->SetValue(section, key, u"1"_s);
     const auto again = lorvo::IniText::FromBytes(ini->ToBytes());
     if (!again || again->Value(section, key) != u"1")
         std::abort();

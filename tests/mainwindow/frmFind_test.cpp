@@ -10,6 +10,9 @@
 #include <QTest>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using test::WhileOpen;
@@ -48,7 +51,7 @@ class frmFindTest : public Shell {
 
 TEST_F(frmFindTest, EveryControlHasItsNameItsCaptionAndItsPlace) {
     Search([](QWidget& window) {
-        EXPECT_EQ(window.windowTitle(), u"Hledat text"_qs);
+        EXPECT_EQ(window.windowTitle(), u"Hledat text"_s);
         EXPECT_TRUE(Button(window).isDefault());
         test::WalkWindow(window);
     });
@@ -56,62 +59,62 @@ TEST_F(frmFindTest, EveryControlHasItsNameItsCaptionAndItsPlace) {
 
 TEST_F(frmFindTest, GoesFromMatchToMatchAndShowsTheLastOneOnReturn) {
     Search([this](QWidget& window) {
-        EXPECT_EQ(Button(window).text(), u"Hledat"_qs);
-        EXPECT_EQ(Find(window, u"K"_qs), QStringList{u"P100"_qs});
-        EXPECT_EQ(Button(window).text(), u"Další"_qs);
-        EXPECT_EQ(Find(window, u"K"_qs, 2), (QStringList{u"P101"_qs, u"P102"_qs}));
+        EXPECT_EQ(Button(window).text(), u"Hledat"_s);
+        EXPECT_EQ(Find(window, u"K"_s), QStringList{u"P100"_s});
+        EXPECT_EQ(Button(window).text(), u"Další"_s);
+        EXPECT_EQ(Find(window, u"K"_s, 2), (QStringList{u"P101"_s, u"P102"_s}));
         test::Control<QPushButton>(window, "cmdCancel").click();
         EXPECT_FALSE(window.isVisible());
     });
-    EXPECT_TRUE(Title().startsWith(u"Šárka"_qs)) << Title().toStdString();
+    EXPECT_TRUE(Title().startsWith(u"Šárka"_s)) << Title().toStdString();
 }
 
 TEST_F(frmFindTest, PastTheLastMatchNothingHappensUntilTheWindowIsOpenedAgain) {
     Search([this](QWidget& window) {
-        EXPECT_EQ(Find(window, u"brok"_qs, 3), (QStringList{u"P101"_qs, u"P101"_qs, u"P101"_qs}));
-        EXPECT_EQ(Find(window, u"alík"_qs), QStringList{u"P101"_qs});
+        EXPECT_EQ(Find(window, u"brok"_s, 3), (QStringList{u"P101"_s, u"P101"_s, u"P101"_s}));
+        EXPECT_EQ(Find(window, u"alík"_s), QStringList{u"P101"_s});
         EXPECT_TRUE(window.isVisible());
     });
     Search([this](QWidget& window) {
         EXPECT_EQ(Box(window).text(), QString());
-        EXPECT_EQ(Find(window, u"alík"_qs), QStringList{u"P100"_qs});
+        EXPECT_EQ(Find(window, u"alík"_s), QStringList{u"P100"_s});
     });
 }
 
 TEST_F(frmFindTest, NothingFoundKeepsSelectionAndCaption) {
     Search([this](QWidget& window) {
-        EXPECT_EQ(Find(window, u"kruh"_qs), QStringList{QString()});
-        EXPECT_EQ(Button(window).text(), u"Hledat"_qs);
-        EXPECT_EQ(Find(window, u"12"_qs), QStringList{u"P102"_qs});
+        EXPECT_EQ(Find(window, u"kruh"_s), QStringList{QString()});
+        EXPECT_EQ(Button(window).text(), u"Hledat"_s);
+        EXPECT_EQ(Find(window, u"12"_s), QStringList{u"P102"_s});
     });
 }
 
 TEST_F(frmFindTest, AnEmptyTextKeepsWhatWasSearchedLast) {
-    Module().FindText = u"brok"_qs;
+    Module().FindText = u"brok"_s;
     Search([this](QWidget& window) {
         EXPECT_EQ(Find(window, QString()), QStringList{QString()});
         EXPECT_TRUE(window.isVisible());
     });
-    EXPECT_EQ(Module().FindText, u"brok"_qs);
+    EXPECT_EQ(Module().FindText, u"brok"_s);
 }
 
 TEST_F(frmFindTest, TheTextIsAPattern) {
     Search([this](QWidget& window) {
-        EXPECT_EQ(Find(window, u"[bv]?[op]"_qs, 2), (QStringList{u"P101"_qs, u"R11"_qs}));
+        EXPECT_EQ(Find(window, u"[bv]?[op]"_s, 2), (QStringList{u"P101"_s, u"R11"_s}));
     });
 }
 
 TEST_F(frmFindTest, ATextThatIsNoPatternIsToldAndTheWindowStays) {
-    const QString told = u"Neplatný vzor hledání: k závorce „[“ chybí „]“."_qs;
+    const QString told = u"Neplatný vzor hledání: k závorce „[“ chybí „]“."_s;
     const auto expect = [&] {
         platform_.ExpectMessage(told, MessageAnswer::Ok, MessageIcon::Exclamation,
-                                MessageButtons::Ok, u"Hledat text"_qs);
+                                MessageButtons::Ok, u"Hledat text"_s);
     };
     Search([&](QWidget& window) {
         expect();
-        EXPECT_EQ(Find(window, u"["_qs), QStringList{QString()});
+        EXPECT_EQ(Find(window, u"["_s), QStringList{QString()});
         EXPECT_TRUE(window.isVisible());
-        EXPECT_EQ(Button(window).text(), u"Hledat"_qs);
+        EXPECT_EQ(Button(window).text(), u"Hledat"_s);
     });
     expect();
     QTest::keyClick(&Tree(), Qt::Key_F3);
@@ -119,30 +122,30 @@ TEST_F(frmFindTest, ATextThatIsNoPatternIsToldAndTheWindowStays) {
 }
 
 TEST_F(frmFindTest, F3GoesOnWhereTheWindowStoppedAndHomeBeginsAnew) {
-    Search([this](QWidget& window) { Find(window, u"k"_qs); });
+    Search([this](QWidget& window) { Find(window, u"k"_s); });
     QStringList found;
     for (int times = 0; times < 3; ++times) {
         QTest::keyClick(&Tree(), Qt::Key_F3);
         found << window_->SelectedNode();
     }
-    EXPECT_EQ(found, (QStringList{u"P101"_qs, u"P102"_qs, u"P102"_qs}));
+    EXPECT_EQ(found, (QStringList{u"P101"_s, u"P102"_s, u"P102"_s}));
     QTest::keyClick(&Tree(), Qt::Key_Home);
     QTest::keyClick(&Tree(), Qt::Key_F3);
-    EXPECT_EQ(window_->SelectedNode(), u"P100"_qs);
+    EXPECT_EQ(window_->SelectedNode(), u"P100"_s);
 }
 
 TEST_F(frmFindTest, F3WithoutATextOpensTheWindow) {
     Start();
     WhileOpen([this] { QTest::keyClick(&Tree(), Qt::Key_F3); },
-              [](QWidget& window) { EXPECT_EQ(window.objectName(), u"frmFind"_qs); });
+              [](QWidget& window) { EXPECT_EQ(window.objectName(), u"frmFind"_s); });
 }
 
 TEST_F(frmFindTest, AStepBackToARemovedNodeFailsByItsName) {
     Start();
-    window_->ShowNodeInfo(u"P100"_qs);
-    window_->ShowNodeInfo(u"P101"_qs);
-    Tree().Nodes().Remove(&Tree().Nodes().Get(u"P100"_qs));
-    Control<QPushButton>(u"cmdHistoryBack"_qs).click();
+    window_->ShowNodeInfo(u"P100"_s);
+    window_->ShowNodeInfo(u"P101"_s);
+    Tree().Nodes().Remove(&Tree().Nodes().Get(u"P100"_s));
+    Control<QPushButton>(u"cmdHistoryBack"_s).click();
     try {
         RethrowFailure();
         FAIL() << "a node was shown that is gone";

@@ -6,6 +6,9 @@
 #include <QSignalSpy>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MainTreeTest : public TreeTest {
@@ -23,63 +26,63 @@ class MainTreeTest : public TreeTest {
 TEST_F(MainTreeTest, StartsCollapsedWithNothingSelected) {
     EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
     EXPECT_EQ(Tree().SelectedNode(), nullptr);
-    EXPECT_EQ(Tree().objectName(), u"tvwMain"_qs);
+    EXPECT_EQ(Tree().objectName(), u"tvwMain"_s);
     EXPECT_TRUE(Tree().uniformRowHeights());
 }
 
 TEST_F(MainTreeTest, SelectsTheNodeUnderAPressOfAnyButton) {
-    Choose(u"P1"_qs, 0);
-    EXPECT_EQ(host.SelectedNode(), u"P1"_qs);
-    Click(u"K2"_qs, Qt::MiddleButton);
-    EXPECT_EQ(host.SelectedNode(), u"K2"_qs);
+    Choose(u"P1"_s, 0);
+    EXPECT_EQ(host.SelectedNode(), u"P1"_s);
+    Click(u"K2"_s, Qt::MiddleButton);
+    EXPECT_EQ(host.SelectedNode(), u"K2"_s);
     EXPECT_EQ(host.shown, QStringList());
-    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, Qt::ControlModifier, PlaceOf(u"K2"_qs));
-    EXPECT_EQ(host.SelectedNode(), u"K2"_qs);
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, Qt::ControlModifier, PlaceOf(u"K2"_s));
+    EXPECT_EQ(host.SelectedNode(), u"K2"_s);
 }
 
 TEST_F(MainTreeTest, ShowsTheNodeOnALeftClick) {
-    Click(u"R10"_qs);
-    EXPECT_EQ(host.shown, QStringList{u"R10"_qs});
+    Click(u"R10"_s);
+    EXPECT_EQ(host.shown, QStringList{u"R10"_s});
 }
 
 TEST_F(MainTreeTest, SelectsByAPressOnTheOpeningSignToo) {
-    const QPoint text = PlaceOf(u"K1"_qs);
+    const QPoint text = PlaceOf(u"K1"_s);
     QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, {8, text.y()});
-    EXPECT_EQ(host.SelectedNode(), u"K1"_qs);
-    EXPECT_TRUE(IsExpanded(u"K1"_qs));
+    EXPECT_EQ(host.SelectedNode(), u"K1"_s);
+    EXPECT_TRUE(IsExpanded(u"K1"_s));
 }
 
 TEST_F(MainTreeTest, FindsNoNodeRightOfItsText) {
-    const QPoint text = PlaceOf(u"K1"_qs);
+    const QPoint text = PlaceOf(u"K1"_s);
     EXPECT_TRUE(Tree().indexAt(text).isValid());
     EXPECT_FALSE(Tree().indexAt({Tree().viewport()->width() - 4, text.y()}).isValid());
 }
 
 TEST_F(MainTreeTest, KeepsTheSelectionWhileTheMouseMovesWithAButtonDown) {
-    const QPoint from = PlaceOf(u"K1"_qs), to = PlaceOf(u"K2"_qs);
+    const QPoint from = PlaceOf(u"K1"_s), to = PlaceOf(u"K2"_s);
     QTest::mousePress(Tree().viewport(), Qt::LeftButton, {}, from);
     QTest::mouseMove(Tree().viewport(), to);
     QTest::mouseRelease(Tree().viewport(), Qt::LeftButton, {}, to);
-    EXPECT_EQ(host.SelectedNode(), u"K1"_qs);
+    EXPECT_EQ(host.SelectedNode(), u"K1"_s);
     EXPECT_EQ(host.shown, QStringList());
 }
 
 TEST_F(MainTreeTest, ShowsANodeThatTheClerkCollapses) {
-    SetExpanded(u"K1"_qs, true);
+    SetExpanded(u"K1"_s, true);
     EXPECT_EQ(host.shown, QStringList());
-    SetExpanded(u"K1"_qs, false);
-    EXPECT_EQ(host.shown, QStringList{u"K1"_qs});
+    SetExpanded(u"K1"_s, false);
+    EXPECT_EQ(host.shown, QStringList{u"K1"_s});
 }
 
 TEST_F(MainTreeTest, CollapsesEveryNodeWithoutShowingAnother) {
     Tree().ExpandEveryNode();
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     Choose({}, 605);
     EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
     EXPECT_EQ(host.shown, QStringList());
-    EXPECT_EQ(host.SelectedNode(), u"P1"_qs);
+    EXPECT_EQ(host.SelectedNode(), u"P1"_s);
     Press(Qt::Key_Down);
-    EXPECT_EQ(host.SelectedNode(), u"K2"_qs) << "the keyboard goes on from what stands for P1";
+    EXPECT_EQ(host.SelectedNode(), u"K2"_s) << "the keyboard goes on from what stands for P1";
 }
 
 TEST_F(MainTreeTest, GoesToTheFirstNodeByHomeOrDownWhenNothingIsSelected) {
@@ -89,111 +92,111 @@ TEST_F(MainTreeTest, GoesToTheFirstNodeByHomeOrDownWhenNothingIsSelected) {
         Tree().clearFocus();
         Tree().setFocus(Qt::TabFocusReason);
         Press(key);
-        EXPECT_EQ(host.SelectedNode(), u"K0"_qs);
+        EXPECT_EQ(host.SelectedNode(), u"K0"_s);
     }
 }
 
 TEST_F(MainTreeTest, TheKeyboardStaysWhereItStoodAfterAReload) {
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     Load();
     EXPECT_EQ(host.SelectedNode(), QString());
     EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
-    host.MakeNodeVisible(u"P1"_qs);
+    host.MakeNodeVisible(u"P1"_s);
     Press(Qt::Key_Down);
-    EXPECT_EQ(host.SelectedNode(), u"P2"_qs);
+    EXPECT_EQ(host.SelectedNode(), u"P2"_s);
 }
 
 TEST_F(MainTreeTest, OpensTheMenuOfTheCurrentNodeByAKey) {
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     platform.ExpectMenu(0);
     Press(Qt::Key_F10, Qt::ShiftModifier);
-    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Odstranit psa"_qs));
-    host.SelectNode(u"K1"_qs);
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Odstranit psa"_s));
+    host.SelectNode(u"K1"_s);
     platform.ExpectMenu(0);
     QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
     QCoreApplication::sendEvent(Tree().viewport(), &key);
-    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Přejmenovat kruh"_qs));
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Přejmenovat kruh"_s));
 }
 
 TEST_F(MainTreeTest, OpensTheMenuOfTheCurrentNodeAfterAReload) {
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     Load();
-    host.MakeNodeVisible(u"P1"_qs);
+    host.MakeNodeVisible(u"P1"_s);
     platform.ExpectMenu(0);
     Press(Qt::Key_F10, Qt::ShiftModifier);
-    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Odstranit psa"_qs));
-    EXPECT_EQ(host.SelectedNode(), u"P1"_qs);
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Odstranit psa"_s));
+    EXPECT_EQ(host.SelectedNode(), u"P1"_s);
 }
 
 TEST_F(MainTreeTest, OpensTheMenuOfTheEmptyPlaceByAKeyWhenNothingIsSelected) {
     platform.ExpectMenu(0);
     Press(Qt::Key_F10, Qt::ShiftModifier);
-    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Přidat kruh"_qs));
+    EXPECT_TRUE(platform.LastMenuLines().front().contains(u"Přidat kruh"_s));
 }
 
 TEST_F(MainTreeTest, EndsEveryKeyByShowingTheSelectedNode) {
     Press(Qt::Key_A);
-    host.SelectNode(u"K1"_qs);
+    host.SelectNode(u"K1"_s);
     host.shown.clear();
     Press(Qt::Key_Down);
     Press(Qt::Key_Escape);
-    EXPECT_EQ(host.shown, (QStringList{u"K2"_qs, u"K2"_qs}));
+    EXPECT_EQ(host.shown, (QStringList{u"K2"_s, u"K2"_s}));
 }
 
 TEST_F(MainTreeTest, ShowsNothingOnAKeyWithoutASelection) {
-    StandInFor(u"frmFind"_qs);
+    StandInFor(u"frmFind"_s);
     Press(Qt::Key_F3);
     EXPECT_EQ(host.shown, QStringList());
 }
 
 TEST_F(MainTreeTest, PutsTheSearchBackToTheStartOnHome) {
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     Module().FindStart = 7;
     Press(Qt::Key_Home);
     EXPECT_EQ(Module().FindStart, 1);
-    EXPECT_EQ(host.shown, QStringList{u"K0"_qs});
+    EXPECT_EQ(host.shown, QStringList{u"K0"_s});
 }
 
 TEST_F(MainTreeTest, RefusesToEditInPlaceUnlessAllowed) {
-    host.SelectNode(u"K1"_qs);
-    Tree().StartLabelEdit(&Node(u"K1"_qs));
+    host.SelectNode(u"K1"_s);
+    Tree().StartLabelEdit(&Node(u"K1"_s));
     EXPECT_EQ(Editor(), nullptr);
     Module().LabelEditAllowed = true;
-    Tree().StartLabelEdit(&Node(u"K1"_qs));
+    Tree().StartLabelEdit(&Node(u"K1"_s));
     EXPECT_NE(Editor(), nullptr);
     EXPECT_FALSE(Module().LabelEditAllowed);
 }
 
 TEST_F(MainTreeTest, ExpandsAllAboveANodeThatIsMadeVisible) {
-    host.MakeNodeVisible(u"P2"_qs);
-    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_qs, u"R10"_qs}));
+    host.MakeNodeVisible(u"P2"_s);
+    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_s, u"R10"_s}));
     EXPECT_EQ(Tree().SelectedNode(), nullptr);
 }
 
 TEST_F(MainTreeTest, RestoresExpandedRingsAndBreedsButNoClasses) {
-    platform.settings[u"Sys\\ExpandedItems"_qs] = u"K1|R10|TR10|3"_qs;
+    platform.settings[u"Sys\\ExpandedItems"_s] = u"K1|R10|TR10|3"_s;
     Module().ShowClassesOn = true;
     Load();
-    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_qs, u"R10"_qs}));
+    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_s, u"R10"_s}));
 }
 
 TEST_F(MainTreeTest, IgnoresWhatWasExpandedWhileClassesAreOff) {
-    platform.settings[u"Sys\\ExpandedItems"_qs] = u"K1|R10"_qs;
+    platform.settings[u"Sys\\ExpandedItems"_s] = u"K1|R10"_s;
     Load();
     EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
 }
 
 TEST_F(MainTreeTest, ForgetsSelectionAndExpansionAtAReload) {
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     Load();
     EXPECT_EQ(Tree().SelectedNode(), nullptr);
     EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
 }
 
 TEST_F(MainTreeTest, ShowsTheHighlightOfASelectedNodeWithoutTheSelectionBar) {
-    host.SelectNode(u"P1"_qs);
-    host.nodes.SetBackground(&Node(u"P1"_qs), kHighlight);
-    const int y = PlaceOf(u"P1"_qs).y();
+    host.SelectNode(u"P1"_s);
+    host.nodes.SetBackground(&Node(u"P1"_s), kHighlight);
+    const int y = PlaceOf(u"P1"_s).y();
     const auto pixel = [&](int x) {
         return Tree().viewport()->grab().toImage().pixelColor(x, y);
     };
@@ -209,11 +212,11 @@ TEST_F(MainTreeTest, ShowsTheHighlightOfASelectedNodeWithoutTheSelectionBar) {
 }
 
 TEST_F(MainTreeTest, SelectsTheNextNodeWhenTheSelectedOneGoes) {
-    host.SelectNode(u"P1"_qs);
-    host.nodes.Remove(&Node(u"P1"_qs));
-    EXPECT_EQ(host.SelectedNode(), u"P2"_qs);
-    host.nodes.Remove(&Node(u"P2"_qs));
-    EXPECT_EQ(host.SelectedNode(), u"R10"_qs);
+    host.SelectNode(u"P1"_s);
+    host.nodes.Remove(&Node(u"P1"_s));
+    EXPECT_EQ(host.SelectedNode(), u"P2"_s);
+    host.nodes.Remove(&Node(u"P2"_s));
+    EXPECT_EQ(host.SelectedNode(), u"R10"_s);
 }
 
 TEST_F(MainTreeTest, JumpsToAFarDogInALargeTree) {
@@ -222,9 +225,9 @@ TEST_F(MainTreeTest, JumpsToAFarDogInALargeTree) {
         sql += "INSERT INTO Psi (ID, Jmeno, PlemenoID) VALUES (" + std::to_string(dog) +
                ", 'Pes', 10);";
     Load(sql + "COMMIT");
-    host.SelectNode(u"P3099"_qs);
+    host.SelectNode(u"P3099"_s);
     const QRect viewport = Tree().viewport()->rect();
-    EXPECT_TRUE(viewport.contains(PlaceOf(u"P3099"_qs)));
+    EXPECT_TRUE(viewport.contains(PlaceOf(u"P3099"_s)));
 }
 
 } // namespace

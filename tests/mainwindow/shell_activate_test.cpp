@@ -5,6 +5,9 @@
 #include <QWindow>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ShellActivate : public Shell {
@@ -19,58 +22,58 @@ class ShellActivate : public Shell {
         };
     }
     void OpenAndClose(std::function<void()> deed = {}) {
-        const StandIn window(u"frmStandIn"_qs, std::move(deed));
-        Open(u"frmStandIn"_qs);
+        const StandIn window(u"frmStandIn"_s, std::move(deed));
+        Open(u"frmStandIn"_s);
     }
 
     int turns_ = 0; ///< how often Activate has let events run: three times for a selected node
 };
 
 TEST_F(ShellActivate, RunsOnceAfterAModalWindowAndShowsTheNodeAfresh) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     OpenAndClose([this] { RenameBreed(10, "Knírač"); });
-    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs)) << Title().toStdString();
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_s)) << Title().toStdString();
     EXPECT_EQ(turns_, 3);
     QCoreApplication::processEvents();
     EXPECT_EQ(turns_, 3) << "the focus that comes back counts no second time";
-    EXPECT_EQ(window_->NodeText(u"R10"_qs), u"Pudl"_qs) << "the tree isn't rebuilt";
+    EXPECT_EQ(window_->NodeText(u"R10"_s), u"Pudl"_s) << "the tree isn't rebuilt";
 }
 
 TEST_F(ShellActivate, RunsOnceAfterWindowsOverWindows) {
-    StartOn(u"R10"_qs);
-    const StandIn upper(u"frmUpper"_qs, {});
-    OpenAndClose([] { Open(u"frmUpper"_qs); });
+    StartOn(u"R10"_s);
+    const StandIn upper(u"frmUpper"_s, {});
+    OpenAndClose([] { Open(u"frmUpper"_s); });
     EXPECT_EQ(turns_, 3);
 }
 
 TEST_F(ShellActivate, EitherDirtyFlagRebuildsTheTree) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     for (bool ModuleValues::*flag : {&ModuleValues::BreedsDirty, &ModuleValues::TreeDirty}) {
-        window_->SelectNode(u"R10"_qs);
-        const QString name = window_->NodeText(u"R10"_qs) + u'+';
+        window_->SelectNode(u"R10"_s);
+        const QString name = window_->NodeText(u"R10"_s) + u'+';
         OpenAndClose([&] {
             RenameBreed(10, name.toStdString());
             Module().*flag = true;
         });
         EXPECT_FALSE(Module().*flag);
-        EXPECT_EQ(window_->NodeText(u"R10"_qs), name);
+        EXPECT_EQ(window_->NodeText(u"R10"_s), name);
         EXPECT_TRUE(Title().startsWith(name)) << "the panel keeps its node";
         EXPECT_EQ(window_->SelectedNode(), QString()) << "but the new tree selects none";
     }
 }
 
 TEST_F(ShellActivate, ReadsAgainWhetherClassesAreShown) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     OpenAndClose([this] {
-        Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+        Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
         Module().TreeDirty = true;
     });
     EXPECT_TRUE(Module().ShowClassesOn);
-    EXPECT_TRUE(window_->NodeExists(u"TR10|1"_qs));
+    EXPECT_TRUE(window_->NodeExists(u"TR10|1"_s));
 }
 
 TEST_F(ShellActivate, AfterAnOwnersStatementOnlyHisDogsAreRefilled) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     OpenAndClose([] {
         Module().PaymentsOwner = 5;
         Module().TreeDirty = true;
@@ -81,18 +84,18 @@ TEST_F(ShellActivate, AfterAnOwnersStatementOnlyHisDogsAreRefilled) {
 }
 
 TEST_F(ShellActivate, ThePanelInFrontIsReadAfreshAfterAnOwnersStatementToo) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     OpenAndClose([this] {
         Module().PaymentsOwner = 5;
         RenameBreed(10, "Knírač");
     });
-    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs));
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_s));
 }
 
 TEST_F(ShellActivate, TheDogWorkedOnIsAgainTheOneShownLast) {
-    StartOn(u"P100"_qs);
-    window_->SelectNode(u"R10"_qs);
-    window_->ShowNodeInfo(u"R10"_qs);
+    StartOn(u"P100"_s);
+    window_->SelectNode(u"R10"_s);
+    window_->ShowNodeInfo(u"R10"_s);
     for (const int statement : {0, 5}) {
         OpenAndClose([statement] {
             Module().CurrentDogID = 101;
@@ -105,26 +108,26 @@ TEST_F(ShellActivate, TheDogWorkedOnIsAgainTheOneShownLast) {
 }
 
 TEST_F(ShellActivate, APanelWithoutASelectedNodeIsReadAfreshToo) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     window_->LoadData();
     OpenAndClose([this] { RenameBreed(10, "Knírač"); });
-    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs));
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_s));
 }
 
 TEST_F(ShellActivate, ANodeThatIsGoneAfterTheReloadIsPassedOver) {
-    StartOn(u"P100"_qs);
+    StartOn(u"P100"_s);
     OpenAndClose([this] {
         database_.Execute("DELETE FROM Psi WHERE ID = 100");
         Module().TreeDirty = true;
     });
-    EXPECT_FALSE(window_->NodeExists(u"P100"_qs));
+    EXPECT_FALSE(window_->NodeExists(u"P100"_s));
     EXPECT_EQ(turns_, 1);
     EXPECT_EQ(Title(), QString()) << "and its panel is gone too";
-    EXPECT_FALSE(Control<QWidget>(u"picPesInfo"_qs).isVisible());
+    EXPECT_FALSE(Control<QWidget>(u"picPesInfo"_s).isVisible());
 }
 
 TEST_F(ShellActivate, AReloadThatFailsIsRaisedAndKeepsTheFlag) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     database_.Execute("DROP TABLE Kruhy");
     Module().TreeDirty = true;
     EXPECT_THROW(window_->Activate(), StoreError);
@@ -132,7 +135,7 @@ TEST_F(ShellActivate, AReloadThatFailsIsRaisedAndKeepsTheFlag) {
 }
 
 TEST_F(ShellActivate, APanelThatFailsIsSkippedInSilence) {
-    StartOn(u"P100"_qs);
+    StartOn(u"P100"_s);
     database_.Execute("DROP TABLE Psi");
     window_->Activate();
     EXPECT_EQ(turns_, 3);
@@ -140,21 +143,21 @@ TEST_F(ShellActivate, APanelThatFailsIsSkippedInSilence) {
 }
 
 TEST_F(ShellActivate, TheKeyboardComesBackToWhatTheWindowWasOpenedFrom) {
-    StartOn(u"P100"_qs);
-    auto& link = Control<QWidget>(u"lblNovaPlatba"_qs);
+    StartOn(u"P100"_s);
+    auto& link = Control<QWidget>(u"lblNovaPlatba"_s);
     link.setFocus();
     OpenAndClose();
     EXPECT_EQ(window_->focusWidget(), &link);
     OpenAndClose([this] {
         database_.Execute("DELETE FROM Psi WHERE ID = 100");
         Module().TreeDirty = true;
-        window_->SelectNode(u"R10"_qs);
+        window_->SelectNode(u"R10"_s);
     });
     EXPECT_EQ(window_->focusWidget(), &Tree()) << "the link has gone";
 }
 
 TEST_F(ShellActivate, RunsWhenTheClerkComesBackFromAnotherProgram) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     RenameBreed(10, "Knírač");
     Q_EMIT qGuiApp->focusWindowChanged(window_->windowHandle());
     Q_EMIT qGuiApp->focusWindowChanged(nullptr);
@@ -163,11 +166,11 @@ TEST_F(ShellActivate, RunsWhenTheClerkComesBackFromAnotherProgram) {
     Q_EMIT qGuiApp->focusWindowChanged(window_->windowHandle());
     Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
     EXPECT_EQ(turns_, 3);
-    EXPECT_TRUE(Title().startsWith(u"Knírač"_qs));
+    EXPECT_TRUE(Title().startsWith(u"Knírač"_s));
 }
 
 TEST_F(ShellActivate, FocusLostByAWindowOfTheProgramIsNoReturn) {
-    StartOn(u"R10"_qs);
+    StartOn(u"R10"_s);
     QWindow other;
     Q_EMIT qGuiApp->focusWindowChanged(&other);
     Q_EMIT qGuiApp->focusWindowChanged(nullptr);

@@ -13,25 +13,28 @@
 #include <QToolButton>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ShellCommands : public Shell {
   protected:
     QAction& Command(const QString& key) { return Control<QAction>(key); }
     QToolButton& Button(const QString& key) {
-        auto& bar = Control<QToolBar>(u"STANDARD"_qs);
+        auto& bar = Control<QToolBar>(u"STANDARD"_s);
         return *qobject_cast<QToolButton*>(bar.widgetForAction(&Command(key)));
     }
     /// Captions of a drop-down bar, "---" for a separator.
     QString MenuTexts(const QString& key) {
         QStringList texts;
         for (const QAction* entry : Command(key).menu()->actions())
-            texts << (entry->isSeparator() ? u"---"_qs : entry->text());
-        return texts.join(u" | "_qs);
+            texts << (entry->isSeparator() ? u"---"_s : entry->text());
+        return texts.join(u" | "_s);
     }
     /// Opens the register and chooses entries of a breed's menu there.
     void ChooseInRegister(int breed, std::initializer_list<int> numbers) {
-        test::WhileOpen([this] { Control<MainCommandBar>(u"cmdBar"_qs).Run(u"TABLES:PLEMENA"_qs); },
+        test::WhileOpen([this] { Control<MainCommandBar>(u"cmdBar"_s).Run(u"TABLES:PLEMENA"_s); },
                         [&](QWidget& window) {
                             auto& breeds = test::Control<BreedTree>(window, "tvwPlemena");
                             const BreedNode& node = *breeds.Model().Find(breed);
@@ -55,7 +58,7 @@ class ShellCommands : public Shell {
 
 TEST_F(ShellCommands, StandOnTheBarWithTheirCaptions) {
     Start();
-    auto& bar = Control<QToolBar>(u"STANDARD"_qs);
+    auto& bar = Control<QToolBar>(u"STANDARD"_s);
     QStringList captions;
     for (QAction* action : bar.actions()) {
         captions << action->text();
@@ -64,50 +67,50 @@ TEST_F(ShellCommands, StandOnTheBarWithTheirCaptions) {
         EXPECT_FALSE(action->icon().isNull());
         EXPECT_TRUE(action->shortcut().isEmpty());
     }
-    EXPECT_EQ(captions.join(u' '), u"Přidat Tabulky Export Nastavení Nápověda"_qs);
-    EXPECT_EQ(Control<QObject>(u"cmdBar"_qs).parent(), window_.get());
+    EXPECT_EQ(captions.join(u' '), u"Přidat Tabulky Export Nastavení Nápověda"_s);
+    EXPECT_EQ(Control<QObject>(u"cmdBar"_s).parent(), window_.get());
 }
 
 TEST_F(ShellCommands, DropDownTheBarsOfTheSameName) {
     Start();
-    EXPECT_EQ(MenuTexts(u"ADD"_qs), u"Přidat &kruh | Přidat p&sa"_qs);
-    EXPECT_EQ(MenuTexts(u"TABLES"_qs),
+    EXPECT_EQ(MenuTexts(u"ADD"_s), u"Přidat &kruh | Přidat p&sa"_s);
+    EXPECT_EQ(MenuTexts(u"TABLES"_s),
               u"Seznam psů | Seznam plemen | --- | Výstavy | Soutěže | Vystavovatelé | Přehled "
-              u"plateb | Ocenění ve výstavních třídách | --- | Rodiče"_qs);
-    EXPECT_EQ(MenuTexts(u"EXPORT"_qs),
+              u"plateb | Ocenění ve výstavních třídách | --- | Rodiče"_s);
+    EXPECT_EQ(MenuTexts(u"EXPORT"_s),
               u"Katalog | Seznam psů | Diplomy | Přehled plemen | Seznam vystavovatelů | "
-              u"Posudkové listy | Pozvánky | Přehled plateb"_qs);
-    EXPECT_EQ(MenuTexts(u"HELP"_qs), u"Nápověda | O programu"_qs);
-    EXPECT_EQ(Button(u"ADD"_qs).popupMode(), QToolButton::InstantPopup);
-    EXPECT_FALSE(Command(u"SETTINGS"_qs).menu());
+              u"Posudkové listy | Pozvánky | Přehled plateb"_s);
+    EXPECT_EQ(MenuTexts(u"HELP"_s), u"Nápověda | O programu"_s);
+    EXPECT_EQ(Button(u"ADD"_s).popupMode(), QToolButton::InstantPopup);
+    EXPECT_FALSE(Command(u"SETTINGS"_s).menu());
 }
 
 TEST_F(ShellCommands, WithoutAButtonAreInNoMenu) {
     Start();
-    for (const QString& key : {u"ADD:RACE"_qs, u"TABLES:BARVY"_qs, u"HELP:CONTEXT"_qs})
+    for (const QString& key : {u"ADD:RACE"_s, u"TABLES:BARVY"_s, u"HELP:CONTEXT"_s})
         EXPECT_TRUE(Command(key).associatedObjects().isEmpty()) << key.toStdString();
 }
 
 TEST_F(ShellCommands, OpenTheirWindows) {
     const std::pair<QString, QString> kWindows[] = {
-        {u"SETTINGS"_qs, u"fm_Settings"_qs},
-        {u"TABLES:PLEMENA"_qs, u"fm_Plemena"_qs},
-        {u"TABLES:PSI"_qs, u"fm_DogsList"_qs},
-        {u"TABLES:BARVY"_qs, u"fm_Colors"_qs},
-        {u"TABLES:SOUTEZE"_qs, u"fm_Souteze"_qs},
-        {u"TABLES:VYSTAVY"_qs, u"frmVystavy"_qs},
-        {u"TABLES:VYSTAVOVATELE"_qs, u"frmVystavovatele"_qs},
-        {u"TABLES:OCENENI"_qs, u"frmOceneni"_qs},
-        {u"TABLES:PLATBY"_qs, u"frmPrehledPlateb"_qs},
-        {u"TABLES:RODICE"_qs, u"frmParents"_qs},
-        {u"EXPORT:SEZNAMPSU"_qs, u"frmTiskSeznamuPsu"_qs},
-        {u"EXPORT:DIPLOMY"_qs, u"fmDiplom"_qs},
-        {u"EXPORT:PREHLEDPLEMEN"_qs, u"frmPrehledPlemen"_qs},
-        {u"EXPORT:SEZNAMVYSTAVOVATELU"_qs, u"frmTiskSeznamVystavovatelu"_qs},
-        {u"EXPORT:POSUDKOVELISTY"_qs, u"frmTiskPosudku"_qs},
-        {u"EXPORT:KATALOG"_qs, u"frmTiskKatalog"_qs},
-        {u"EXPORT:POZVANKY"_qs, u"frmTiskPozvanek"_qs},
-        {u"EXPORT:PLATBY"_qs, u"frmTiskPlateb"_qs},
+        {u"SETTINGS"_s, u"fm_Settings"_s},
+        {u"TABLES:PLEMENA"_s, u"fm_Plemena"_s},
+        {u"TABLES:PSI"_s, u"fm_DogsList"_s},
+        {u"TABLES:BARVY"_s, u"fm_Colors"_s},
+        {u"TABLES:SOUTEZE"_s, u"fm_Souteze"_s},
+        {u"TABLES:VYSTAVY"_s, u"frmVystavy"_s},
+        {u"TABLES:VYSTAVOVATELE"_s, u"frmVystavovatele"_s},
+        {u"TABLES:OCENENI"_s, u"frmOceneni"_s},
+        {u"TABLES:PLATBY"_s, u"frmPrehledPlateb"_s},
+        {u"TABLES:RODICE"_s, u"frmParents"_s},
+        {u"EXPORT:SEZNAMPSU"_s, u"frmTiskSeznamuPsu"_s},
+        {u"EXPORT:DIPLOMY"_s, u"fmDiplom"_s},
+        {u"EXPORT:PREHLEDPLEMEN"_s, u"frmPrehledPlemen"_s},
+        {u"EXPORT:SEZNAMVYSTAVOVATELU"_s, u"frmTiskSeznamVystavovatelu"_s},
+        {u"EXPORT:POSUDKOVELISTY"_s, u"frmTiskPosudku"_s},
+        {u"EXPORT:KATALOG"_s, u"frmTiskKatalog"_s},
+        {u"EXPORT:POZVANKY"_s, u"frmTiskPozvanek"_s},
+        {u"EXPORT:PLATBY"_s, u"frmTiskPlateb"_s},
     };
     for (const auto& [key, window] : kWindows) {
         int opened = 0;
@@ -121,68 +124,68 @@ TEST_F(ShellCommands, OpenTheirWindows) {
 }
 
 TEST_F(ShellCommands, OfAWindowThatTheProgramLacksStandGreyed) {
-    WindowFactory before = SetWindow(u"frmParents"_qs, {});
+    WindowFactory before = SetWindow(u"frmParents"_s, {});
     Start();
-    EXPECT_FALSE(CanOpen(u"frmParents"_qs));
-    EXPECT_FALSE(Command(u"TABLES:RODICE"_qs).isEnabled());
-    EXPECT_THROW(Open(u"frmParents"_qs), Error);
-    SetWindow(u"frmParents"_qs, std::move(before));
+    EXPECT_FALSE(CanOpen(u"frmParents"_s));
+    EXPECT_FALSE(Command(u"TABLES:RODICE"_s).isEnabled());
+    EXPECT_THROW(Open(u"frmParents"_s), Error);
+    SetWindow(u"frmParents"_s, std::move(before));
 }
 
 TEST_F(ShellCommands, SettingsOpenByOneClick) {
     int opened = 0;
-    const StandIn settings(u"fm_Settings"_qs, [&opened] { ++opened; });
+    const StandIn settings(u"fm_Settings"_s, [&opened] { ++opened; });
     Start();
-    QTest::mouseClick(&Button(u"SETTINGS"_qs), Qt::LeftButton);
+    QTest::mouseClick(&Button(u"SETTINGS"_s), Qt::LeftButton);
     EXPECT_EQ(opened, 1);
 }
 
 TEST_F(ShellCommands, HelpIsTheFileInTheProgramFolder) {
     Start();
-    Command(u"HELP:GENERAL"_qs).trigger();
-    EXPECT_EQ(platform_.openedFiles, QStringList{platform_.ProgramFolder() + u"/Lorvo.chm"_qs});
+    Command(u"HELP:GENERAL"_s).trigger();
+    EXPECT_EQ(platform_.openedFiles, QStringList{platform_.ProgramFolder() + u"/Lorvo.chm"_s});
 }
 
 TEST_F(ShellCommands, AddingABreedIsAcceptedAndDoesNothing) {
     AddSmallShow();
     Start();
     const int nodes = Tree().Nodes().Count();
-    Command(u"ADD:RACE"_qs).trigger();
+    Command(u"ADD:RACE"_s).trigger();
     EXPECT_EQ(Tree().Nodes().Count(), nodes);
     EXPECT_TRUE(platform_.messages.empty());
 }
 
 TEST_F(ShellCommands, AddingARingStoresIt) {
     Start();
-    Command(u"ADD:CIRCLE"_qs).trigger();
+    Command(u"ADD:CIRCLE"_s).trigger();
     ASSERT_EQ(Tree().Nodes().Count(), 2);
-    EXPECT_EQ(Tree().Nodes().Last()->text, u"Nový kruh"_qs);
+    EXPECT_EQ(Tree().Nodes().Last()->text, u"Nový kruh"_s);
 }
 
 TEST_F(ShellCommands, AddingADogNeedsABreed) {
     Start();
-    platform_.ExpectMessage(u"Není vybráno plemeno, do kterého se má pes přidat"_qs);
-    Command(u"ADD:DOG"_qs).trigger();
+    platform_.ExpectMessage(u"Není vybráno plemeno, do kterého se má pes přidat"_s);
+    Command(u"ADD:DOG"_s).trigger();
 }
 
 TEST_F(ShellCommands, AClickWithTheHelpPointerOpensTheHelpOnceAndShowsTheNode) {
     AddSmallShow();
     Start();
-    Command(u"HELP:CONTEXT"_qs).trigger();
+    Command(u"HELP:CONTEXT"_s).trigger();
     EXPECT_EQ(window_->cursor().shape(), Qt::WhatsThisCursor);
-    ClickNode(u"R10"_qs);
+    ClickNode(u"R10"_s);
     EXPECT_EQ(platform_.openedFiles.size(), 1);
     EXPECT_EQ(window_->cursor().shape(), Qt::ArrowCursor);
-    EXPECT_FALSE(Command(u"HELP:CONTEXT"_qs).isChecked());
-    EXPECT_TRUE(Title().startsWith(u"Pudl"_qs));
-    ClickNode(u"K1"_qs);
+    EXPECT_FALSE(Command(u"HELP:CONTEXT"_s).isChecked());
+    EXPECT_TRUE(Title().startsWith(u"Pudl"_s));
+    ClickNode(u"K1"_s);
     EXPECT_EQ(platform_.openedFiles.size(), 1);
 }
 
 TEST_F(ShellCommands, TheHelpPointerCanBeSwitchedOffAgain) {
     Start();
-    Command(u"HELP:CONTEXT"_qs).trigger();
-    Command(u"HELP:CONTEXT"_qs).trigger();
+    Command(u"HELP:CONTEXT"_s).trigger();
+    Command(u"HELP:CONTEXT"_s).trigger();
     EXPECT_EQ(window_->cursor().shape(), Qt::ArrowCursor);
     EXPECT_TRUE(platform_.openedFiles.isEmpty());
 }
@@ -191,8 +194,8 @@ TEST_F(ShellCommands, ABreedChosenInTheRegisterIsSelectedAndShown) {
     AddSmallShow();
     Start();
     ChooseInRegister(11, {kMenuJump});
-    EXPECT_EQ(window_->SelectedNode(), u"R11"_qs);
-    EXPECT_TRUE(Title().startsWith(u"Vipet"_qs));
+    EXPECT_EQ(window_->SelectedNode(), u"R11"_s);
+    EXPECT_TRUE(Title().startsWith(u"Vipet"_s));
     EXPECT_EQ(window_->focusWidget(), &Tree());
 }
 
@@ -201,8 +204,8 @@ TEST_F(ShellCommands, AChangedRegisterRebuildsTheTreeBeforeTheJump) {
     AddBreed(12, "Čuvač", 0);
     Start();
     ChooseInRegister(12, {kMenuRing + 1, kMenuJump});
-    EXPECT_EQ(window_->SelectedNode(), u"R12"_qs);
-    EXPECT_EQ(window_->ParentNode(u"R12"_qs), u"K1"_qs);
+    EXPECT_EQ(window_->SelectedNode(), u"R12"_s);
+    EXPECT_EQ(window_->ParentNode(u"R12"_s), u"K1"_s);
 }
 
 TEST_F(ShellCommands, AJumpToABreedThatTheTreeLacksFails) {
@@ -216,32 +219,32 @@ TEST_F(ShellCommands, ABreedPutIntoAnotherRingInTheRegisterStaysSelectedWithItsN
     AddSmallShow();
     database_.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (2, 'Kruh B')");
     Start();
-    ClickNode(u"R10"_qs);
-    EXPECT_EQ(Status(1), u"Kruh A"_qs);
+    ClickNode(u"R10"_s);
+    EXPECT_EQ(Status(1), u"Kruh A"_s);
     ChooseInRegister(10, {kMenuRing + 2});
-    EXPECT_EQ(Status(1), u"Kruh B"_qs);
-    EXPECT_EQ(window_->SelectedNode(), u"R10"_qs);
-    EXPECT_EQ(Tree().Nodes().Get(u"K2"_qs).background, kPathBackground);
+    EXPECT_EQ(Status(1), u"Kruh B"_s);
+    EXPECT_EQ(window_->SelectedNode(), u"R10"_s);
+    EXPECT_EQ(Tree().Nodes().Get(u"K2"_s).background, kPathBackground);
 }
 
 TEST_F(ShellCommands, WithoutAJumpTheSelectionStays) {
     AddSmallShow();
-    const StandIn plemena(u"fm_Plemena"_qs, {});
+    const StandIn plemena(u"fm_Plemena"_s, {});
     Start();
-    window_->SelectNode(u"P100"_qs);
-    Command(u"TABLES:PLEMENA"_qs).trigger();
-    EXPECT_EQ(window_->SelectedNode(), u"P100"_qs);
+    window_->SelectNode(u"P100"_s);
+    Command(u"TABLES:PLEMENA"_s).trigger();
+    EXPECT_EQ(window_->SelectedNode(), u"P100"_s);
 }
 
 TEST_F(ShellCommands, ADogChosenInTheListIsShown) {
     AddSmallShow();
-    const StandIn list(u"fm_DogsList"_qs, [this] {
-        window_->SelectNode(u"P101"_qs);
+    const StandIn list(u"fm_DogsList"_s, [this] {
+        window_->SelectNode(u"P101"_s);
         Module().ListJumpedToDog = true;
     });
     Start();
-    Command(u"TABLES:PSI"_qs).trigger();
-    EXPECT_TRUE(Title().startsWith(u"Brok"_qs)) << Title().toStdString();
+    Command(u"TABLES:PSI"_s).trigger();
+    EXPECT_TRUE(Title().startsWith(u"Brok"_s)) << Title().toStdString();
     EXPECT_EQ(window_->focusWidget(), &Tree());
 }
 

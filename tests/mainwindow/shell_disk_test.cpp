@@ -6,6 +6,9 @@
 #include <cerrno>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using ShellDisk = Shell;
@@ -13,9 +16,9 @@ using ShellDisk = Shell;
 TEST_F(ShellDisk, AFailureOfTheDiskIsSaidOnceWhenTheWindowStands) {
     const QString text =
         u"Data nelze načíst celá.\n\nDatabáze %1: na disku není místo. Uvolněte na "
-        u"něm místo."_qs.arg(database_.Path());
+        u"něm místo."_s.arg(database_.Path());
     platform_.ExpectMessage(text, MessageAnswer::Ok, MessageIcon::Exclamation, MessageButtons::Ok,
-                            u"Lorvo"_qs, [this] { EXPECT_TRUE(window_->isVisible()); });
+                            u"Lorvo"_s, [this] { EXPECT_TRUE(window_->isVisible()); });
     test::WatchedDisk disk(database_.Folder());
     disk.before = [](int, const test::DiskCall&) {
         return ENOSPC; // the main show can't be added

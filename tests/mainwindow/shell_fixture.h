@@ -99,9 +99,11 @@ class Shell : public ::testing::Test {
             throw std::runtime_error("no control " + name.toStdString());
         return *control;
     }
-    MainTree& Tree() { return Control<MainTree>(u"tvwMain"_qs); }
-    QString Title() { return Control<QLabel>(u"lblItemTitle"_qs).text(); }
-    QString Status(int panel) { return Control<QLabel>(u"sbMain(%1)"_qs.arg(panel)).text(); }
+    MainTree& Tree() { return Control<MainTree>(QStringLiteral("tvwMain")); }
+    QString Title() { return Control<QLabel>(QStringLiteral("lblItemTitle")).text(); }
+    QString Status(int panel) {
+        return Control<QLabel>(QStringLiteral("sbMain(%1)").arg(panel)).text();
+    }
     QString& Setting(const QString& path) { return platform_.settings[path]; }
 
     test::RecordingPlatform platform_;

@@ -4,6 +4,9 @@
 #include <QAction>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The window in order with each of its panels in front.
@@ -11,7 +14,7 @@ class ShellLook : public Shell, public ::testing::WithParamInterface<const char*
 
 TEST_P(ShellLook, IsInOrderWithANodeShown) {
     AddSmallShow();
-    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+    Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
     Start();
     const QString key = QString::fromUtf8(GetParam());
     window_->SelectNode(key);
@@ -28,7 +31,7 @@ TEST_F(Shell, IsInOrderBeforeAnyNodeIsShown) {
 
 TEST_F(Shell, IsInOrderWithTheAboutPanel) {
     Start();
-    Control<QAction>(u"HELP:ABOUT"_qs).trigger();
+    Control<QAction>(u"HELP:ABOUT"_s).trigger();
     test::WalkWindow(*window_);
 }
 

@@ -8,21 +8,24 @@
 #include <QToolBar>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ShellStart : public Shell {
   protected:
-    int TreeWidth() { return Control<QSplitter>(u"vbuSplit"_qs).sizes().constFirst(); }
+    int TreeWidth() { return Control<QSplitter>(u"vbuSplit"_s).sizes().constFirst(); }
 };
 
 TEST_F(ShellStart, AnEmptyDatabaseOpensWithTheMainShowAndAnAlmostEmptyTree) {
     Start();
     EXPECT_TRUE(window_->isVisible());
-    EXPECT_EQ(window_->windowTitle(), u"Lorvo"_qs);
+    EXPECT_EQ(window_->windowTitle(), u"Lorvo"_s);
     ASSERT_EQ(Shows().size(), 1u);
-    EXPECT_EQ(Shows().front().Nazev, u"Hlavní výstava"_qs);
+    EXPECT_EQ(Shows().front().Nazev, u"Hlavní výstava"_s);
     EXPECT_EQ(Tree().Nodes().Count(), 1);
-    EXPECT_TRUE(window_->NodeExists(u"K0"_qs));
+    EXPECT_TRUE(window_->NodeExists(u"K0"_s));
     EXPECT_EQ(window_->SelectedNode(), QString());
     EXPECT_TRUE(platform_.messages.empty());
 }
@@ -32,27 +35,27 @@ TEST_F(ShellStart, OtherWindowsReachTheTreeThroughTheServices) {
     Start();
     MainWindowServices& services = TheMainWindow();
     EXPECT_EQ(&services.Nodes(), &Tree().Nodes());
-    EXPECT_EQ(services.ParentNode(u"P100"_qs), u"R10"_qs);
-    EXPECT_EQ(services.ParentNode(u"K1"_qs), QString());
-    EXPECT_EQ(services.NodeTag(u"P100"_qs), u"P 100"_qs);
-    services.AddDogNode(u"R11"_qs, 300, u"Cita"_qs, false);
-    services.SetNodeText(u"P300"_qs, u"Cita z Lhoty"_qs);
-    services.SelectNode(u"P300"_qs);
-    EXPECT_EQ(services.SelectedNode(), u"P300"_qs);
-    EXPECT_EQ(services.NodeText(u"P300"_qs), u"Cita z Lhoty"_qs);
-    EXPECT_THROW(services.SelectNode(u"P301"_qs), Error);
-    EXPECT_THROW(services.AddDogNode(u"R99"_qs, 301, u"Cita"_qs, false), Error);
-    EXPECT_EQ(services.Caption(), u"Lorvo"_qs);
+    EXPECT_EQ(services.ParentNode(u"P100"_s), u"R10"_s);
+    EXPECT_EQ(services.ParentNode(u"K1"_s), QString());
+    EXPECT_EQ(services.NodeTag(u"P100"_s), u"P 100"_s);
+    services.AddDogNode(u"R11"_s, 300, u"Cita"_s, false);
+    services.SetNodeText(u"P300"_s, u"Cita z Lhoty"_s);
+    services.SelectNode(u"P300"_s);
+    EXPECT_EQ(services.SelectedNode(), u"P300"_s);
+    EXPECT_EQ(services.NodeText(u"P300"_s), u"Cita z Lhoty"_s);
+    EXPECT_THROW(services.SelectNode(u"P301"_s), Error);
+    EXPECT_THROW(services.AddDogNode(u"R99"_s, 301, u"Cita"_s, false), Error);
+    EXPECT_EQ(services.Caption(), u"Lorvo"_s);
 }
 
 TEST_F(ShellStart, FillsTheTablesOfConstants) {
     Start();
-    EXPECT_EQ(Module().ClassNames[3], u"mezitřída"_qs);
+    EXPECT_EQ(Module().ClassNames[3], u"mezitřída"_s);
     EXPECT_EQ(Tables().SpecialClassTo[2], 24);
-    EXPECT_EQ(Tables().DogSizes[5], u"velký"_qs);
-    EXPECT_EQ(Tables().CoatTypes[4], u"bez srsti"_qs);
-    EXPECT_EQ(Tables().PaymentModes[1], u"hotově"_qs);
-    EXPECT_EQ(Module().MainCurrency, u"Kč"_qs);
+    EXPECT_EQ(Tables().DogSizes[5], u"velký"_s);
+    EXPECT_EQ(Tables().CoatTypes[4], u"bez srsti"_s);
+    EXPECT_EQ(Tables().PaymentModes[1], u"hotově"_s);
+    EXPECT_EQ(Module().MainCurrency, u"Kč"_s);
 }
 
 TEST_F(ShellStart, MissingTablesAreMetInSilence) {
@@ -61,32 +64,32 @@ TEST_F(ShellStart, MissingTablesAreMetInSilence) {
     AddSmallShow();
     Start();
     EXPECT_TRUE(window_->isVisible());
-    EXPECT_TRUE(window_->NodeExists(u"P100"_qs));
+    EXPECT_TRUE(window_->NodeExists(u"P100"_s));
     EXPECT_TRUE(platform_.messages.empty());
 }
 
 TEST_F(ShellStart, ATreeThatFailsHalfwayStaysAsFarAsItGot) {
     AddSmallShow();
     AddDog(102, "Zbloudilý", 10, 0);
-    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
+    Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
     Start();
     EXPECT_TRUE(window_->isVisible());
-    EXPECT_TRUE(window_->NodeExists(u"R10"_qs));
-    EXPECT_FALSE(window_->NodeExists(u"P102"_qs));
-    EXPECT_EQ(Module().MainCurrency, u"Kč"_qs) << "what comes later in the sequence still runs";
+    EXPECT_TRUE(window_->NodeExists(u"R10"_s));
+    EXPECT_FALSE(window_->NodeExists(u"P102"_s));
+    EXPECT_EQ(Module().MainCurrency, u"Kč"_s) << "what comes later in the sequence still runs";
 }
 
 TEST_F(ShellStart, TheRememberedNodeIsSelectedAndShown) {
     AddSmallShow();
-    Setting(u"Sys\\RememberTree"_qs) = u"R10"_qs;
+    Setting(u"Sys\\RememberTree"_s) = u"R10"_s;
     Start();
-    EXPECT_EQ(window_->SelectedNode(), u"R10"_qs);
-    EXPECT_TRUE(Title().startsWith(u"Pudl"_qs)) << Title().toStdString();
+    EXPECT_EQ(window_->SelectedNode(), u"R10"_s);
+    EXPECT_TRUE(Title().startsWith(u"Pudl"_s)) << Title().toStdString();
 }
 
 TEST_F(ShellStart, ARememberedNodeThatIsGoneSelectsNothing) {
     AddSmallShow();
-    Setting(u"Sys\\RememberTree"_qs) = u"P999"_qs;
+    Setting(u"Sys\\RememberTree"_s) = u"P999"_s;
     Start();
     EXPECT_EQ(window_->SelectedNode(), QString());
     EXPECT_TRUE(Module().RememberTreeOn);
@@ -95,28 +98,28 @@ TEST_F(ShellStart, ARememberedNodeThatIsGoneSelectsNothing) {
 
 TEST_F(ShellStart, ARememberedClassNodeIsNotRestored) {
     AddSmallShow();
-    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
-    Setting(u"Sys\\RememberTree"_qs) = u"TR10|5"_qs;
+    Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
+    Setting(u"Sys\\RememberTree"_s) = u"TR10|5"_s;
     Start();
-    EXPECT_TRUE(window_->NodeExists(u"TR10|5"_qs));
+    EXPECT_TRUE(window_->NodeExists(u"TR10|5"_s));
     EXPECT_EQ(window_->SelectedNode(), QString());
     EXPECT_TRUE(Module().RememberTreeOn);
 }
 
 TEST_F(ShellStart, TheDividerStandsWhereItWasLeft) {
-    Setting(u"Splitters\\fm_main\\Left"_qs) = u"250"_qs;
+    Setting(u"Splitters\\fm_main\\Left"_s) = u"250"_s;
     Start();
     EXPECT_EQ(TreeWidth(), 250);
     Close();
-    EXPECT_EQ(Setting(u"Splitters\\fm_main\\Left"_qs), u"250"_qs);
+    EXPECT_EQ(Setting(u"Splitters\\fm_main\\Left"_s), u"250"_s);
 }
 
 TEST_F(ShellStart, AUselessDividerPositionKeepsTheDesignedOne) {
     Start();
     const int designed = TreeWidth();
-    for (const QString& text : {u"0"_qs, u"-250"_qs, u"abc"_qs, u"0,5"_qs}) {
+    for (const QString& text : {u"0"_s, u"-250"_s, u"abc"_s, u"0,5"_s}) {
         window_.reset();
-        Setting(u"Splitters\\fm_main\\Left"_qs) = text;
+        Setting(u"Splitters\\fm_main\\Left"_s) = text;
         Start();
         EXPECT_EQ(TreeWidth(), designed) << text.toStdString();
     }
@@ -124,9 +127,9 @@ TEST_F(ShellStart, AUselessDividerPositionKeepsTheDesignedOne) {
 
 TEST_F(ShellStart, GridLinesFollowThePreferenceBothWays) {
     for (const bool shown : {true, false}) {
-        Setting(u"Sys\\ShowGrid"_qs) = shown ? u"1"_qs : u"0"_qs;
+        Setting(u"Sys\\ShowGrid"_s) = shown ? u"1"_s : u"0"_s;
         Start();
-        for (const QString& name : {u"lvwSouteze"_qs, u"lvwOceneni"_qs, u"lvwDogs"_qs})
+        for (const QString& name : {u"lvwSouteze"_s, u"lvwOceneni"_s, u"lvwDogs"_s})
             EXPECT_EQ(test::ShowsGridLines(Control<ReportList>(name)), shown) << name.toStdString();
         window_.reset();
     }
@@ -134,35 +137,35 @@ TEST_F(ShellStart, GridLinesFollowThePreferenceBothWays) {
 
 TEST_F(ShellStart, ClosingWithoutRememberingStoresAnEmptyNode) {
     AddSmallShow();
-    Setting(u"Sys\\ExpandedItems"_qs) = u"K7"_qs;
+    Setting(u"Sys\\ExpandedItems"_s) = u"K7"_s;
     Start();
-    window_->SelectNode(u"P100"_qs);
+    window_->SelectNode(u"P100"_s);
     Close();
-    EXPECT_EQ(Setting(u"Sys\\RememberTree"_qs), QString());
-    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_qs), u"K7"_qs);
+    EXPECT_EQ(Setting(u"Sys\\RememberTree"_s), QString());
+    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_s), u"K7"_s);
 }
 
 TEST_F(ShellStart, ClosingWithRememberingStoresTheSelectedAndTheExpandedNodes) {
     AddSmallShow();
     Start();
     Module().RememberTreeOn = true;
-    window_->SelectNode(u"P101"_qs);
+    window_->SelectNode(u"P101"_s);
     Close();
-    EXPECT_EQ(Setting(u"Sys\\RememberTree"_qs), u"P101"_qs);
-    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_qs), u"K1|R10"_qs);
+    EXPECT_EQ(Setting(u"Sys\\RememberTree"_s), u"P101"_s);
+    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_s), u"K1|R10"_s);
 }
 
 TEST_F(ShellStart, ExpandedBreedsComeBackButNotTheirClasses) {
     AddSmallShow();
-    Setting(u"Sys\\ShowClasses"_qs) = u"1"_qs;
-    Setting(u"Sys\\RememberTree"_qs) = u"K1"_qs;
+    Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
+    Setting(u"Sys\\RememberTree"_s) = u"K1"_s;
     Start();
-    window_->SelectNode(u"P100"_qs);
+    window_->SelectNode(u"P100"_s);
     Close();
-    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_qs), u"K1|R10|TR10|5"_qs);
-    Setting(u"Sys\\RememberTree"_qs) = u"K1"_qs;
+    EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_s), u"K1|R10|TR10|5"_s);
+    Setting(u"Sys\\RememberTree"_s) = u"K1"_s;
     Start();
-    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_qs, u"R10"_qs}));
+    EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_s, u"R10"_s}));
 }
 
 TEST_F(ShellStart, TheWindowKeepsItsSize) {

@@ -8,77 +8,80 @@
 #include <QMimeData>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TreeDogsTest : public TreeTest {
   protected:
     TreeDogsTest() {
-        StandInFor(u"fm_Dog"_qs);
+        StandInFor(u"fm_Dog"_s);
         database.Execute("INSERT INTO Meny (Zkratka, Hlavni) VALUES ('Kč', -1);"
                          "INSERT INTO Ostatni VALUES ('2005-05-14T00:00:00')");
     }
     void ExpectRefusal(const QString& text) {
         platform.ExpectMessage(text, MessageAnswer::Ok, MessageIcon::Exclamation,
-                               MessageButtons::Ok, u"Hlavní okno"_qs);
+                               MessageButtons::Ok, u"Hlavní okno"_s);
     }
 };
 
-const QString kNoDate = u"Psa nelze přidat. Datum výstavy nebylo určeno"_qs;
-const QString kNoBreed = u"Není vybráno plemeno, do kterého se má pes přidat"_qs;
+const QString kNoDate = u"Psa nelze přidat. Datum výstavy nebylo určeno"_s;
+const QString kNoBreed = u"Není vybráno plemeno, do kterého se má pes přidat"_s;
 
 TEST_F(TreeDogsTest, AddsADogToTheBreedPointedAt) {
-    Choose(u"R20"_qs, 603);
-    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+    Choose(u"R20"_s, 603);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
     EXPECT_TRUE(Module().IsAddingDog);
     EXPECT_EQ(Module().CurrentBreedID, 20);
-    EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_qs);
+    EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_s);
 }
 
 TEST_F(TreeDogsTest, RefusesADogWithoutAMainCurrencyFirst) {
     database.Execute("UPDATE Meny SET Hlavni = 0; UPDATE Psi SET Cislo = 1; DELETE FROM Ostatni");
-    ExpectRefusal(u"Psa nelze přidat. V seznamu měn není zadána hlavní měna"_qs);
-    Choose(u"R20"_qs, 603);
+    ExpectRefusal(u"Psa nelze přidat. V seznamu měn není zadána hlavní měna"_s);
+    Choose(u"R20"_s, 603);
     EXPECT_EQ(opened, QStringList());
-    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_qs);
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_s);
 }
 
 TEST_F(TreeDogsTest, RefusesADogOnceTheFirstRowHasANumber) {
     database.Execute("UPDATE Psi SET Cislo = 1 WHERE ID = 1; DELETE FROM Ostatni");
-    ExpectRefusal(u"Psa nelze přidat. Psi mají přiřazena čísla"_qs);
-    Choose(u"R20"_qs, 603);
+    ExpectRefusal(u"Psa nelze přidat. Psi mají přiřazena čísla"_s);
+    Choose(u"R20"_s, 603);
     EXPECT_EQ(opened, QStringList());
-    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_qs);
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_s);
 }
 
 TEST_F(TreeDogsTest, LooksAtNoOtherNumberThanTheFirstRows) {
     database.Execute("UPDATE Psi SET Cislo = ID WHERE ID > 1");
-    Choose(u"R20"_qs, 603);
-    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+    Choose(u"R20"_s, 603);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
 }
 
 TEST_F(TreeDogsTest, RefusesTheFirstDogWithoutAShowDateAfterAddingTheShow) {
     database.Execute("DELETE FROM Psi; DELETE FROM Ostatni");
     ExpectRefusal(kNoDate);
-    Choose(u"R20"_qs, 603);
-    EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_qs);
+    Choose(u"R20"_s, 603);
+    EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_s);
     database.Execute("INSERT INTO Ostatni VALUES ('1899-12-30T00:00:00')");
     ExpectRefusal(kNoDate);
-    Choose(u"R20"_qs, 603);
+    Choose(u"R20"_s, 603);
     EXPECT_EQ(opened, QStringList());
-    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"1"_qs);
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"1"_s);
 }
 
 TEST_F(TreeDogsTest, LetsADateThatWasNeverGivenPass) {
     database.Execute("UPDATE Ostatni SET DatumVystavy = NULL");
-    Choose(u"R20"_qs, 603);
-    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+    Choose(u"R20"_s, 603);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
 }
 
 TEST_F(TreeDogsTest, AddsByTheCommandBarToTheBreedOfTheSelectedNode) {
-    host.SelectNode(u"R30"_qs);
+    host.SelectNode(u"R30"_s);
     host.commands->AddDogToSelected();
     EXPECT_EQ(Module().CurrentBreedID, 30);
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     host.commands->AddDogToSelected();
     EXPECT_EQ(Module().CurrentBreedID, 10);
     EXPECT_TRUE(Module().IsAddingDog);
@@ -95,7 +98,7 @@ TEST_F(TreeDogsTest, RefusesByTheCommandBarWithoutABreed) {
         ExpectRefusal(kNoBreed);
         host.commands->AddDogToSelected();
     }
-    host.SelectNode(u"P1"_qs);
+    host.SelectNode(u"P1"_s);
     host.commands->AddDogToSelected();
     EXPECT_EQ(Module().CurrentBreedID, 10);
     EXPECT_EQ(opened.size(), 1);
@@ -104,10 +107,10 @@ TEST_F(TreeDogsTest, RefusesByTheCommandBarWithoutABreed) {
 TEST_F(TreeDogsTest, AsksByTheCommandBarForTheDatesRowAlone) {
     database.Execute("DELETE FROM Meny; UPDATE Psi SET Cislo = 1;"
                      "UPDATE Ostatni SET DatumVystavy = '1899-12-30T00:00:00'");
-    host.SelectNode(u"R10"_qs);
+    host.SelectNode(u"R10"_s);
     host.commands->AddDogToSelected();
     EXPECT_EQ(opened.size(), 1);
-    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_qs);
+    EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_s);
     database.Execute("DELETE FROM Ostatni");
     ExpectRefusal(kNoDate);
     host.commands->AddDogToSelected();
@@ -116,67 +119,67 @@ TEST_F(TreeDogsTest, AsksByTheCommandBarForTheDatesRowAlone) {
 
 TEST_F(TreeDogsTest, EditsADogOnADoubleClick) {
     Module().IsAddingDog = true;
-    DoubleClick(u"P3"_qs);
-    EXPECT_EQ(opened, QStringList{u"fm_Dog"_qs});
+    DoubleClick(u"P3"_s);
+    EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
     EXPECT_FALSE(Module().IsAddingDog);
     EXPECT_EQ(Module().CurrentBreedID, 20);
-    EXPECT_EQ(host.SelectedNode(), u"P3"_qs);
+    EXPECT_EQ(host.SelectedNode(), u"P3"_s);
 }
 
 TEST_F(TreeDogsTest, TakesTheBreedFromAboveTheClass) {
     Module().ShowClassesOn = true;
     Load();
-    DoubleClick(u"P1"_qs);
+    DoubleClick(u"P1"_s);
     EXPECT_EQ(Module().CurrentBreedID, 10);
 }
 
 TEST_F(TreeDogsTest, DoesNothingOnADoubleClickElsewhere) {
-    DoubleClick(u"R10"_qs);
-    DoubleClick(u"K2"_qs);
+    DoubleClick(u"R10"_s);
+    DoubleClick(u"K2"_s);
     EXPECT_EQ(opened, QStringList());
-    EXPECT_EQ(Tree().ExpandedKeys(), QStringList{u"K1"_qs}); // opened to show the breed
+    EXPECT_EQ(Tree().ExpandedKeys(), QStringList{u"K1"_s}); // opened to show the breed
 }
 
 TEST_F(TreeDogsTest, MovesABreedToTheRingItIsDroppedOn) {
-    Drop(u"R20"_qs, u"K1"_qs);
-    EXPECT_EQ(host.ParentNode(u"R20"_qs), u"K1"_qs);
-    EXPECT_TRUE(Node(u"R20"_qs).bold);
-    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 20"), u"1"_qs);
-    Drop(u"R20"_qs, u"K0"_qs);
-    EXPECT_EQ(host.ParentNode(u"R20"_qs), u"K0"_qs);
-    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 20"), u"0"_qs);
+    Drop(u"R20"_s, u"K1"_s);
+    EXPECT_EQ(host.ParentNode(u"R20"_s), u"K1"_s);
+    EXPECT_TRUE(Node(u"R20"_s).bold);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 20"), u"1"_s);
+    Drop(u"R20"_s, u"K0"_s);
+    EXPECT_EQ(host.ParentNode(u"R20"_s), u"K0"_s);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 20"), u"0"_s);
     EXPECT_EQ(host.shown, QStringList());
 }
 
 TEST_F(TreeDogsTest, LeavesABreedInPlaceThatIsDroppedOnItsOwnRing) {
-    Drop(u"R10"_qs, u"K1"_qs);
-    EXPECT_EQ(host.ParentNode(u"R10"_qs), u"K1"_qs);
-    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_qs);
+    Drop(u"R10"_s, u"K1"_s);
+    EXPECT_EQ(host.ParentNode(u"R10"_s), u"K1"_s);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_s);
 }
 
 TEST_F(TreeDogsTest, LosesAnUnusedBreedDroppedOnTheUnassignedRootAtTheNextReload) {
     Load("UPDATE Plemena SET Pouzivat = 0 WHERE ID = 10");
-    Drop(u"R10"_qs, u"K0"_qs);
-    EXPECT_EQ(host.ParentNode(u"R10"_qs), u"K0"_qs);
+    Drop(u"R10"_s, u"K0"_s);
+    EXPECT_EQ(host.ParentNode(u"R10"_s), u"K0"_s);
     Load();
-    EXPECT_FALSE(host.NodeExists(u"R10"_qs));
+    EXPECT_FALSE(host.NodeExists(u"R10"_s));
 }
 
 TEST_F(TreeDogsTest, MovesADogToTheBreedItIsDroppedOn) {
     database.Execute("UPDATE Psi SET Cislo = 5 WHERE ID = 1");
-    Drop(u"P1"_qs, u"R20"_qs);
-    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"R20"_qs);
-    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"20"_qs);
-    EXPECT_EQ(Scalar("SELECT Trida FROM Psi WHERE ID = 1"), u"3"_qs);
+    Drop(u"P1"_s, u"R20"_s);
+    EXPECT_EQ(host.ParentNode(u"P1"_s), u"R20"_s);
+    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"20"_s);
+    EXPECT_EQ(Scalar("SELECT Trida FROM Psi WHERE ID = 1"), u"3"_s);
 }
 
 TEST_F(TreeDogsTest, PutsADroppedDogBesideTheClassesUntilTheNextReload) {
     Module().ShowClassesOn = true;
     Load();
-    Drop(u"P1"_qs, u"R10"_qs);
-    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"R10"_qs);
+    Drop(u"P1"_s, u"R10"_s);
+    EXPECT_EQ(host.ParentNode(u"P1"_s), u"R10"_s);
     Load();
-    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"TR10|3"_qs);
+    EXPECT_EQ(host.ParentNode(u"P1"_s), u"TR10|3"_s);
 }
 
 TEST_F(TreeDogsTest, DoesNothingOnAnyOtherDrop) {
@@ -187,51 +190,51 @@ TEST_F(TreeDogsTest, DoesNothingOnAnyOtherDrop) {
         {u"R10", u"P3"}, {u"R10", u"TR20|1"}, {u"K1", u"K2"}};
     for (const auto& [dragged, target] : drops)
         Drop(QString::fromUtf16(dragged), QString::fromUtf16(target));
-    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"TR10|3"_qs);
-    EXPECT_EQ(host.ParentNode(u"R10"_qs), u"K1"_qs);
-    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_qs);
-    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_qs);
+    EXPECT_EQ(host.ParentNode(u"P1"_s), u"TR10|3"_s);
+    EXPECT_EQ(host.ParentNode(u"R10"_s), u"K1"_s);
+    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_s);
+    EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_s);
 }
 
 TEST_F(TreeDogsTest, MovesNothingForTextOfAnotherProgramThatLooksLikeAKey) {
     QMimeData text;
-    text.setText(u"P1"_qs);
-    EXPECT_FALSE(DropData(text, u"R20"_qs));
-    text.setData(u"application/x-lorvo-node"_qs, "of another running program");
-    EXPECT_FALSE(DropData(text, u"R20"_qs));
-    EXPECT_EQ(Node(u"P1"_qs).parent, &Node(u"R10"_qs));
-    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_qs);
+    text.setText(u"P1"_s);
+    EXPECT_FALSE(DropData(text, u"R20"_s));
+    text.setData(u"application/x-lorvo-node"_s, "of another running program");
+    EXPECT_FALSE(DropData(text, u"R20"_s));
+    EXPECT_EQ(Node(u"P1"_s).parent, &Node(u"R10"_s));
+    EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_s);
 }
 
 TEST_F(TreeDogsTest, LeavesTreeAndStoreApartWhenADropFailsInTheStore) {
     database.Execute("DELETE FROM Psi WHERE ID = 1");
-    Drop(u"P1"_qs, u"R20"_qs);
+    Drop(u"P1"_s, u"R20"_s);
     EXPECT_THROW(RethrowFailure(), StoreError);
-    EXPECT_EQ(host.ParentNode(u"P1"_qs), u"R20"_qs);
+    EXPECT_EQ(host.ParentNode(u"P1"_s), u"R20"_s);
 }
 
 TEST_F(TreeDogsTest, SearchesOnFromMatchToMatch) {
-    StandInFor(u"frmFind"_qs);
+    StandInFor(u"frmFind"_s);
     Press(Qt::Key_F3);
-    EXPECT_EQ(opened, QStringList{u"frmFind"_qs});
-    Module().FindText = u"r"_qs;
+    EXPECT_EQ(opened, QStringList{u"frmFind"_s});
+    Module().FindText = u"r"_s;
     QStringList found;
     for (int times = 0; times < 4; ++times) {
         Press(Qt::Key_F3);
         found.append(host.SelectedNode());
     }
-    EXPECT_EQ(found, (QStringList{u"P3"_qs, u"R10"_qs, u"P2"_qs, u"P2"_qs}));
+    EXPECT_EQ(found, (QStringList{u"P3"_s, u"R10"_s, u"P2"_s, u"P2"_s}));
     EXPECT_EQ(host.shown, found);
     Press(Qt::Key_Home);
     Press(Qt::Key_F3);
-    EXPECT_EQ(host.SelectedNode(), u"P3"_qs);
+    EXPECT_EQ(host.SelectedNode(), u"P3"_s);
 }
 
 TEST_F(TreeDogsTest, OpensTheSearchByCtrlF) {
-    StandInFor(u"frmFind"_qs);
-    Module().FindText = u"r"_qs;
+    StandInFor(u"frmFind"_s);
+    Module().FindText = u"r"_s;
     Press(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(opened, QStringList{u"frmFind"_qs});
+    EXPECT_EQ(opened, QStringList{u"frmFind"_s});
 }
 
 } // namespace

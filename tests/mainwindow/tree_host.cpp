@@ -9,6 +9,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class StandIn : public Form {
@@ -91,7 +93,7 @@ void TreeHost::SetItemTitle(const QString& text) {
 }
 
 QString TreeHost::Caption() const {
-    return u"Hlavní okno"_qs;
+    return u"Hlavní okno"_s;
 }
 
 TreeTest::TreeTest() {

@@ -21,13 +21,15 @@
 #include <algorithm>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class CurrencyHost : public Form {
   public:
     CurrencyHost()
-        : Form("host", QStringLiteral("Nastavení"), Border::Sizable, nullptr),
-          page_(new CurrencyList(this)) {
+        : Form("host", u"Nastavení"_s, Border::Sizable, nullptr), page_(new CurrencyList(this)) {
         (new QVBoxLayout(this))->addWidget(page_);
     }
     void Activated() override { page_->Refill(); }

@@ -11,6 +11,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class OverviewTest : public PaymentsTest {
@@ -48,7 +50,7 @@ TEST_F(OverviewTest, ListsAllPaymentsByOwner) {
         EXPECT_EQ(Lines(list),
                   (Texts{"Malá Jana, Kolín|Rex|1.5.2005|1 234,00 CZK|Ne|hotově||1234|Kč",
                          "Čech Petr, Zlín|Brok|1.5.2005| 178,50 CZK|Ano|převodem|5/0800|7|EUR"}));
-        EXPECT_EQ(list.Row(0).key, QStringLiteral("P%1").arg(first));
+        EXPECT_EQ(list.Row(0).key, u"P%1"_s.arg(first));
         EXPECT_EQ(list.Row(0).cells[4].icon, 2);
         EXPECT_EQ(list.Row(1).cells[4].icon, 3);
         EXPECT_FALSE(list.model()->index(0, 4).data(Qt::DecorationRole).value<QIcon>().isNull());

@@ -9,6 +9,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class StatementTest : public PaymentsTest {
@@ -47,7 +49,7 @@ TEST_F(StatementTest, ListsTheDogsPaymentsByDate) {
         EXPECT_EQ(Lines(List(window)),
                   (Texts{"12 Kč|2.5.2005| 12,00 EUR|hotově|",
                          "300 EUR|9.5.2005 1:01:01|7 650,00 EUR|převodem|1/0100"}));
-        EXPECT_EQ(List(window).Row(1).key, QStringLiteral("K%1").arg(late));
+        EXPECT_EQ(List(window).Row(1).key, u"K%1"_s.arg(late));
         EXPECT_EQ(List(window).Row(1).tag, QString::number(late));
         EXPECT_FALSE(Control<QGroupBox>(window, "fraCena").isVisible());
     });
@@ -157,8 +159,8 @@ TEST_F(StatementTest, OfMoreDogsTheClerkPicksOne) {
     Open([this](QWidget& window) {
         platform.ExpectMenu(0);
         Press(window, "cmdPlatba");
-        EXPECT_EQ(platform.LastMenuLines(), (QStringList{QStringLiteral("%1 Alík").arg(alik),
-                                                         QStringLiteral("%1 Rex").arg(rex)}));
+        EXPECT_EQ(platform.LastMenuLines(),
+                  (QStringList{u"%1 Alík"_s.arg(alik), u"%1 Rex"_s.arg(rex)}));
         EXPECT_EQ(Module().CurrentDogID, brok);
         platform.ExpectMenu(alik);
         Take(window, "60");

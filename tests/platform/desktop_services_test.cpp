@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class UrlCatcher : public QObject {
@@ -26,16 +29,15 @@ class UrlCatcher : public QObject {
     QStringList caught;
 
   private:
-    static QStringList Schemes() { return {u"file"_qs, u"mailto"_qs}; }
+    static QStringList Schemes() { return {u"file"_s, u"mailto"_s}; }
 };
 
 TEST(OpenService, FilesAndAddressesGoToTheDesktop) {
     UrlCatcher catcher;
     const auto opener = MakeOpenService();
-    EXPECT_TRUE(opener->OpenFile(u"/tmp/Šablony/Výstup #1.html"_qs));
-    opener->OpenAddress(u"mailto:a@b.cz"_qs);
-    EXPECT_EQ(catcher.caught,
-              (QStringList{u"/tmp/Šablony/Výstup #1.html"_qs, u"mailto:a@b.cz"_qs}));
+    EXPECT_TRUE(opener->OpenFile(u"/tmp/Šablony/Výstup #1.html"_s));
+    opener->OpenAddress(u"mailto:a@b.cz"_s);
+    EXPECT_EQ(catcher.caught, (QStringList{u"/tmp/Šablony/Výstup #1.html"_s, u"mailto:a@b.cz"_s}));
 }
 
 TEST(Clock, TellsTheLocalTimeInWholeSeconds) {

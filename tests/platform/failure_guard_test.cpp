@@ -7,6 +7,9 @@
 #include <stdexcept>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Sender : public QObject {
@@ -27,7 +30,7 @@ class Receiver : public QObject {
 class FailureGuardTest : public ::testing::Test {
   protected:
     ~FailureGuardTest() override { TakeFailure(); }
-    void Send() { Q_EMIT sender.Sent(7, QStringLiteral("Rex")); }
+    void Send() { Q_EMIT sender.Sent(7, u"Rex"_s); }
 
     Sender sender;
     Receiver receiver;
@@ -46,7 +49,7 @@ TEST_F(FailureGuardTest, ASlotTakesAsManyArgumentsAsItHas) {
     Send();
     EXPECT_EQ(receiver.calls, 1);
     EXPECT_EQ(receiver.sum, 7);
-    EXPECT_EQ(received, QStringLiteral("Rex7"));
+    EXPECT_EQ(received, u"Rex7"_s);
 }
 
 TEST_F(FailureGuardTest, ASlotGoesWithItsContext) {

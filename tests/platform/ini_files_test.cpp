@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class IniFilesTest : public ::testing::Test {
@@ -20,16 +23,16 @@ class IniFilesTest : public ::testing::Test {
         QFile file(path_);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    QString Read(const QString& section = u"Main"_qs, const QString& key = u"Ignorovat tridy"_qs) {
+    QString Read(const QString& section = u"Main"_s, const QString& key = u"Ignorovat tridy"_s) {
         return ini_->Read(section, key, path_);
     }
-    bool Write(const QString& text, const QString& section = u"Main"_qs,
-               const QString& key = u"Ignorovat tridy"_qs) {
+    bool Write(const QString& text, const QString& section = u"Main"_s,
+               const QString& key = u"Ignorovat tridy"_s) {
         return ini_->Write(section, key, text, path_);
     }
 
     QTemporaryDir folder_;
-    QString path_ = folder_.filePath(u"Lorvosys.ini"_qs);
+    QString path_ = folder_.filePath(u"Lorvosys.ini"_s);
     std::unique_ptr<IniFiles> ini_ = MakeIniFiles();
 };
 
@@ -37,39 +40,39 @@ TEST_F(IniFilesTest, WhatIsMissingReadsAsEmpty) {
     EXPECT_EQ(Read(), QString());
     Put("[Other]\r\nIgnorovat tridy=1\r\n[Main]\r\nOther=2\r\n");
     EXPECT_EQ(Read(), QString());
-    EXPECT_EQ(Read(u"Missing"_qs), QString());
+    EXPECT_EQ(Read(u"Missing"_s), QString());
 }
 
 TEST_F(IniFilesTest, SectionAndKeyAreFoundWithoutRegardToCase) {
     Put(" [ MAIN ] \n  ignorovat TRIDY  =  1  \n");
-    EXPECT_EQ(Read(), u"1"_qs);
+    EXPECT_EQ(Read(), u"1"_s);
 }
 
 TEST_F(IniFilesTest, QuotesAroundAValueAreTakenOff) {
     Put("[Main]\nA=\" x \"\nB='y'\nC=\"z'\nD=\"\nE=\"\"\n");
-    EXPECT_EQ(Read(u"Main"_qs, u"A"_qs), u" x "_qs);
-    EXPECT_EQ(Read(u"Main"_qs, u"B"_qs), u"y"_qs);
-    EXPECT_EQ(Read(u"Main"_qs, u"C"_qs), u"\"z'"_qs);
-    EXPECT_EQ(Read(u"Main"_qs, u"D"_qs), u"\""_qs);
-    EXPECT_EQ(Read(u"Main"_qs, u"E"_qs), QString());
+    EXPECT_EQ(Read(u"Main"_s, u"A"_s), u" x "_s);
+    EXPECT_EQ(Read(u"Main"_s, u"B"_s), u"y"_s);
+    EXPECT_EQ(Read(u"Main"_s, u"C"_s), u"\"z'"_s);
+    EXPECT_EQ(Read(u"Main"_s, u"D"_s), u"\""_s);
+    EXPECT_EQ(Read(u"Main"_s, u"E"_s), QString());
 }
 
 TEST_F(IniFilesTest, AValueKeepsItsEqualsSignsAndItsLength) {
     Put("[Main]\nA=b=c\nLong=" + QByteArray(300, 'x') + "\n");
-    EXPECT_EQ(Read(u"Main"_qs, u"A"_qs), u"b=c"_qs);
-    EXPECT_EQ(Read(u"Main"_qs, u"Long"_qs), QString(254, u'x'));
+    EXPECT_EQ(Read(u"Main"_s, u"A"_s), u"b=c"_s);
+    EXPECT_EQ(Read(u"Main"_s, u"Long"_s), QString(254, u'x'));
 }
 
 TEST_F(IniFilesTest, WritesANewFileWithTheLineEndsOfSuchFiles) {
-    EXPECT_TRUE(Write(u"1"_qs));
+    EXPECT_TRUE(Write(u"1"_s));
     EXPECT_EQ(Bytes(), QByteArray("[Main]\r\nIgnorovat tridy=1\r\n"));
-    EXPECT_EQ(Read(), u"1"_qs);
+    EXPECT_EQ(Read(), u"1"_s);
 }
 
 TEST_F(IniFilesTest, AWriteTouchesOneLineOnly) {
     Put("; pozn\xe1mka \x81\x98\n\n[Jin\xfd]\nIgnorovat tridy=0\n\n[main]\n # a\nA = 1\n"
         "IGNOROVAT tridy = 0\nB=2\n\n[Konec]\r\nC=3");
-    EXPECT_TRUE(Write(u"1"_qs));
+    EXPECT_TRUE(Write(u"1"_s));
     EXPECT_EQ(Bytes(),
               QByteArray("; pozn\xe1mka \x81\x98\n\n[Jin\xfd]\nIgnorovat tridy=0\n\n[main]\n # a\n"
                          "A = 1\nIGNOROVAT tridy =1\nB=2\n\n[Konec]\r\nC=3"));
@@ -77,21 +80,21 @@ TEST_F(IniFilesTest, AWriteTouchesOneLineOnly) {
 
 TEST_F(IniFilesTest, ANewKeyStandsAtTheEndOfItsSection) {
     Put("[Main]\nA=1\n\n[Konec]\nB=2\n");
-    EXPECT_TRUE(Write(u"1"_qs));
+    EXPECT_TRUE(Write(u"1"_s));
     EXPECT_EQ(Bytes(), QByteArray("[Main]\nA=1\nIgnorovat tridy=1\n\n[Konec]\nB=2\n"));
 }
 
 TEST_F(IniFilesTest, ANewSectionStandsAtTheEndOfTheFile) {
     Put("[Konec]\nB=2");
-    EXPECT_TRUE(Write(u"č"_qs, u"Main"_qs, u"Klíč"_qs));
+    EXPECT_TRUE(Write(u"č"_s, u"Main"_s, u"Klíč"_s));
     EXPECT_EQ(Bytes(), QByteArray("[Konec]\nB=2\n[Main]\nKl\xed\xe8=\xe8\n"));
-    EXPECT_EQ(Read(u"main"_qs, u"KLÍČ"_qs), u"č"_qs);
+    EXPECT_EQ(Read(u"main"_s, u"KLÍČ"_s), u"č"_s);
 }
 
 TEST_F(IniFilesTest, AUtf8MarkStaysAndHidesNothing) {
     Put("\xEF\xBB\xBF[Main]\r\nIgnorovat tridy=1\r\nA=\xC4\x8D\r\n");
-    EXPECT_EQ(Read(), u"1"_qs);
-    EXPECT_TRUE(Write(u"0"_qs));
+    EXPECT_EQ(Read(), u"1"_s);
+    EXPECT_TRUE(Write(u"0"_s));
     EXPECT_EQ(Bytes(), QByteArray("\xEF\xBB\xBF[Main]\r\nIgnorovat tridy=0\r\nA=\xC4\x8D\r\n"));
 }
 
@@ -105,10 +108,10 @@ TEST_F(IniFilesTest, AUtf16FileStaysUtf16) {
             }
             return result;
         };
-        Put(bytes(u"[Main]\r\nIgnorovat tridy=1\r\nA=ж\r\n"_qs));
-        EXPECT_EQ(Read(), u"1"_qs);
-        EXPECT_TRUE(Write(u"0"_qs));
-        EXPECT_EQ(Bytes(), bytes(u"[Main]\r\nIgnorovat tridy=0\r\nA=ж\r\n"_qs));
+        Put(bytes(u"[Main]\r\nIgnorovat tridy=1\r\nA=ж\r\n"_s));
+        EXPECT_EQ(Read(), u"1"_s);
+        EXPECT_TRUE(Write(u"0"_s));
+        EXPECT_EQ(Bytes(), bytes(u"[Main]\r\nIgnorovat tridy=0\r\nA=ж\r\n"_s));
     }
 }
 
@@ -116,14 +119,14 @@ TEST_F(IniFilesTest, BrokenUtf16IsLeftAlone) {
     const QByteArray broken("\xFF\xFE[\0M", 5);
     Put(broken);
     EXPECT_EQ(Read(), QString());
-    EXPECT_FALSE(Write(u"1"_qs));
+    EXPECT_FALSE(Write(u"1"_s));
     EXPECT_EQ(Bytes(), broken);
 }
 
 TEST_F(IniFilesTest, RefusesWhatCannotBeWritten) {
-    EXPECT_FALSE(ini_->Write(u"Main"_qs, u"A"_qs, u"1"_qs, folder_.filePath(u"missing/x.ini"_qs)));
-    EXPECT_FALSE(ini_->Write(u"Main"_qs, u"A"_qs, u"1"_qs, folder_.path()));
-    EXPECT_FALSE(Write(u"a\nb"_qs));
+    EXPECT_FALSE(ini_->Write(u"Main"_s, u"A"_s, u"1"_s, folder_.filePath(u"missing/x.ini"_s)));
+    EXPECT_FALSE(ini_->Write(u"Main"_s, u"A"_s, u"1"_s, folder_.path()));
+    EXPECT_FALSE(Write(u"a\nb"_s));
     EXPECT_TRUE(Bytes().isEmpty());
     EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList());
 }
@@ -134,8 +137,8 @@ TEST_F(IniFilesTest, AnyBytesAreReadWithoutHarm) {
         all.append(static_cast<char>(byte));
     Put(all);
     EXPECT_EQ(Read(), QString());
-    EXPECT_TRUE(Write(u"1"_qs));
-    EXPECT_EQ(Read(), u"1"_qs);
+    EXPECT_TRUE(Write(u"1"_s));
+    EXPECT_EQ(Read(), u"1"_s);
     EXPECT_EQ(Bytes().size(), all.size() + 19);
 }
 

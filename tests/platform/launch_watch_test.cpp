@@ -4,29 +4,31 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 #ifdef Q_OS_LINUX // where the desktop's opener is a program of its own
 bool FailsWith(const QString& command) {
     const LaunchWatch watch;
-    EXPECT_TRUE(QProcess::startDetached(QStringLiteral("sh"), {QStringLiteral("-c"), command}));
+    EXPECT_TRUE(QProcess::startDetached(u"sh"_s, {u"-c"_s, command}));
     return watch.HasFailed();
 }
 
 TEST(LaunchWatch, SeesAnOpenerThatFindsNothing) {
-    EXPECT_TRUE(FailsWith(QStringLiteral("sleep 0.1; exit 3")));
+    EXPECT_TRUE(FailsWith(u"sleep 0.1; exit 3"_s));
 }
 
 TEST(LaunchWatch, IsContentWithOneThatOpensOrGoesOn) {
-    EXPECT_FALSE(FailsWith(QStringLiteral("exit 0")));
-    EXPECT_FALSE(FailsWith(QStringLiteral("sleep 3; exit 1")));
+    EXPECT_FALSE(FailsWith(u"exit 0"_s));
+    EXPECT_FALSE(FailsWith(u"sleep 3; exit 1"_s));
 }
 
 TEST(LaunchWatch, AnEarlierProgramsEndIsNotThisOnes) {
     const LaunchWatch earlier;
-    ASSERT_TRUE(QProcess::startDetached(
-        QStringLiteral("sh"), {QStringLiteral("-c"), QStringLiteral("sleep 0.2; exit 1")}));
-    EXPECT_FALSE(FailsWith(QStringLiteral("sleep 0.4; exit 0")));
+    ASSERT_TRUE(QProcess::startDetached(u"sh"_s, {u"-c"_s, u"sleep 0.2; exit 1"_s}));
+    EXPECT_FALSE(FailsWith(u"sleep 0.4; exit 0"_s));
 }
 
 #endif

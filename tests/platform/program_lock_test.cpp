@@ -9,6 +9,9 @@
 #include <unistd.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(ProgramLock, GivesAFolderToOneProgramAtATime) {
@@ -45,7 +48,7 @@ TEST(ProgramLock, DiesWithItsProcess) {
 }
 
 TEST(ProgramLock, AFolderThatIsNotThereStandsInNobodysWay) {
-    EXPECT_TRUE(ProgramLock(QStringLiteral("/nikde")).IsMine());
+    EXPECT_TRUE(ProgramLock(u"/nikde"_s).IsMine());
 }
 
 } // namespace

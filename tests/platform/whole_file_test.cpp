@@ -13,6 +13,9 @@
 #endif
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class WholeFile : public testing::Test {
@@ -33,45 +36,44 @@ class WholeFile : public testing::Test {
         } catch (const PlatformError& error) {
             return QString::fromUtf8(error.what());
         }
-        return u"no failure"_qs;
+        return u"no failure"_s;
     }
 
     QTemporaryDir folder_;
 };
 
 TEST_F(WholeFile, ReplacesTheOlderOne) {
-    ReplaceFile(Path(u"Výstup.html"_qs), "long text");
-    ReplaceFile(Path(u"Výstup.html"_qs), "\x81x");
-    EXPECT_EQ(Bytes(u"Výstup.html"_qs), "\x81x");
-    EXPECT_EQ(Names(), QStringList(u"Výstup.html"_qs));
+    ReplaceFile(Path(u"Výstup.html"_s), "long text");
+    ReplaceFile(Path(u"Výstup.html"_s), "\x81x");
+    EXPECT_EQ(Bytes(u"Výstup.html"_s), "\x81x");
+    EXPECT_EQ(Names(), QStringList(u"Výstup.html"_s));
 }
 
 TEST_F(WholeFile, CanBeReadByTheProgramThatOpensIt) {
-    ReplaceFile(Path(u"a.html"_qs), "a");
-    EXPECT_TRUE(QFile::permissions(Path(u"a.html"_qs)) & QFile::ReadOther);
+    ReplaceFile(Path(u"a.html"_s), "a");
+    EXPECT_TRUE(QFile::permissions(Path(u"a.html"_s)) & QFile::ReadOther);
 }
 
 TEST_F(WholeFile, ANewOneStandsBesideTheOlderOnes) {
-    const QString folder = Path(u"Tisky"_qs);
-    EXPECT_EQ(WriteNewFile(folder, u"Katalog"_qs, u"docx"_qs, "1"), folder + u"/Katalog.docx"_qs);
-    EXPECT_EQ(WriteNewFile(folder, u"Katalog"_qs, u"docx"_qs, "2"),
-              folder + u"/Katalog (2).docx"_qs);
-    EXPECT_EQ(Bytes(u"Tisky/Katalog.docx"_qs), "1");
-    EXPECT_EQ(Bytes(u"Tisky/Katalog (2).docx"_qs), "2");
+    const QString folder = Path(u"Tisky"_s);
+    EXPECT_EQ(WriteNewFile(folder, u"Katalog"_s, u"docx"_s, "1"), folder + u"/Katalog.docx"_s);
+    EXPECT_EQ(WriteNewFile(folder, u"Katalog"_s, u"docx"_s, "2"), folder + u"/Katalog (2).docx"_s);
+    EXPECT_EQ(Bytes(u"Tisky/Katalog.docx"_s), "1");
+    EXPECT_EQ(Bytes(u"Tisky/Katalog (2).docx"_s), "2");
     EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
 TEST_F(WholeFile, FailuresNameTheFileAndTheCauseInCzech) {
-    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"a.html"_qs));
-    EXPECT_EQ(Failure([&] { ReplaceFile(Path(u"a.html"_qs), "x"); }),
-              u"Soubor nelze zapsat „%1“: tento název má složka"_qs.arg(Path(u"a.html"_qs)));
-    EXPECT_EQ(Failure([&] { ReplaceFile(Path(u"chybí/b.html"_qs), "x"); }),
-              u"Soubor nelze zapsat „%1“: soubor nebo jeho složka neexistuje"_qs.arg(
-                  Path(u"chybí/b.html"_qs)));
-    ReplaceFile(Path(u"Tisky"_qs), "a file in the folder's place");
+    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"a.html"_s));
+    EXPECT_EQ(Failure([&] { ReplaceFile(Path(u"a.html"_s), "x"); }),
+              u"Soubor nelze zapsat „%1“: tento název má složka"_s.arg(Path(u"a.html"_s)));
+    EXPECT_EQ(Failure([&] { ReplaceFile(Path(u"chybí/b.html"_s), "x"); }),
+              u"Soubor nelze zapsat „%1“: soubor nebo jeho složka neexistuje"_s.arg(
+                  Path(u"chybí/b.html"_s)));
+    ReplaceFile(Path(u"Tisky"_s), "a file in the folder's place");
     const QString failure =
-        Failure([&] { (void)WriteNewFile(Path(u"Tisky"_qs), u"K"_qs, u"docx"_qs, "x"); });
-    EXPECT_TRUE(failure.startsWith(u"Soubor nelze zapsat „%1/K.docx“: "_qs.arg(Path(u"Tisky"_qs))))
+        Failure([&] { (void)WriteNewFile(Path(u"Tisky"_s), u"K"_s, u"docx"_s, "x"); });
+    EXPECT_TRUE(failure.startsWith(u"Soubor nelze zapsat „%1/K.docx“: "_s.arg(Path(u"Tisky"_s))))
         << failure.toStdString();
 }
 
@@ -95,20 +97,20 @@ class NarrowDisk {
 };
 
 TEST_F(WholeFile, ADiskThatEndsInTheMiddleLeavesTheOlderOneAndNothingElse) {
-    ReplaceFile(Path(u"a.html"_qs), "older");
+    ReplaceFile(Path(u"a.html"_s), "older");
     const QByteArray large(1 << 20, 'x');
     QString replacing;
     QString adding;
     {
         const NarrowDisk narrow(1 << 16);
-        replacing = Failure([&] { ReplaceFile(Path(u"a.html"_qs), large); });
-        adding = Failure([&] { (void)WriteNewFile(folder_.path(), u"b"_qs, u"docx"_qs, large); });
+        replacing = Failure([&] { ReplaceFile(Path(u"a.html"_s), large); });
+        adding = Failure([&] { (void)WriteNewFile(folder_.path(), u"b"_s, u"docx"_s, large); });
     }
-    EXPECT_TRUE(replacing.endsWith(u"a.html“: soubor je větší, než disk nebo systém dovoluje"_qs))
+    EXPECT_TRUE(replacing.endsWith(u"a.html“: soubor je větší, než disk nebo systém dovoluje"_s))
         << replacing.toStdString();
-    EXPECT_TRUE(adding.contains(u"b.docx“: "_qs)) << adding.toStdString();
-    EXPECT_EQ(Bytes(u"a.html"_qs), "older");
-    EXPECT_EQ(Names(), QStringList(u"a.html"_qs));
+    EXPECT_TRUE(adding.contains(u"b.docx“: "_s)) << adding.toStdString();
+    EXPECT_EQ(Bytes(u"a.html"_s), "older");
+    EXPECT_EQ(Names(), QStringList(u"a.html"_s));
 }
 #endif
 

@@ -14,12 +14,15 @@
 #include <random>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Files = std::map<QString, QByteArray>;
 
-const QString kDatabase = u"data.mdb"_qs;
-const QString kLog = u"data.mdb-wal"_qs;
+const QString kDatabase = u"data.mdb"_s;
+const QString kLog = u"data.mdb-wal"_s;
 
 /// A folder's files while a run is under way: the database, and edits in the log beside it.
 Files FilesWithLog() {
@@ -33,7 +36,7 @@ Files FilesWithLog() {
         module.rsPsi.Update();
     }
     Files files = FilesOf(folder.path());
-    files.erase(u"data.mdb-shm"_qs);
+    files.erase(u"data.mdb-shm"_s);
     return files;
 }
 

@@ -18,6 +18,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Where one edit writes several rows, their numbers lie so far apart.
@@ -238,15 +240,15 @@ int NumbersGiven(const QString&) {
 // Beside the database -----------------------------------------------------------------------------
 
 QString IniPath(const QString& folder) {
-    return folder + u"/Lorvosys.ini"_qs;
+    return folder + u"/Lorvosys.ini"_s;
 }
 void WriteIni(int number, const QString& folder) {
-    if (!MakeIniFiles()->Write(u"Main"_qs, u"Ignorovat tridy"_qs, QString::number(number),
+    if (!MakeIniFiles()->Write(u"Main"_s, u"Ignorovat tridy"_s, QString::number(number),
                                IniPath(folder)))
         throw std::runtime_error("the ini file can't be written");
 }
 int IniWritten(const QString& folder) {
-    return MakeIniFiles()->Read(u"Main"_qs, u"Ignorovat tridy"_qs, IniPath(folder)).toInt();
+    return MakeIniFiles()->Read(u"Main"_s, u"Ignorovat tridy"_s, IniPath(folder)).toInt();
 }
 
 constexpr const char* kRing = "INSERT INTO Kruhy (ID, Nazev) VALUES (1, '')";
@@ -290,7 +292,7 @@ void PrepareFolder(const EditKind& kind, const QString& folder) {
 
 int FoundAtNextStart(const EditKind& kind, const QString& folder) {
     Connection& connection = TheDataModule().Conn1;
-    const QString path = folder + u"/data.mdb"_qs;
+    const QString path = folder + u"/data.mdb"_s;
     connection.Open(path);
     const int found = kind.found(folder);
     connection.Close();

@@ -14,6 +14,9 @@
 #include <random>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FailingDisk : public ::testing::TestWithParam<EditKind> {
@@ -22,7 +25,7 @@ class FailingDisk : public ::testing::TestWithParam<EditKind> {
 
     /// Makes edit 1, then edit 2 with call number `fails` of it failing; whether that one passed.
     bool SecondPasses(const QString& folder, int fails, int code, int& calls) {
-        TheDataModule().Conn1.Open(folder + u"/data.mdb"_qs);
+        TheDataModule().Conn1.Open(folder + u"/data.mdb"_s);
         Kind().make(1, folder);
         WatchedDisk disk(folder);
         disk.before = [=](int number, const DiskCall&) {
@@ -70,7 +73,7 @@ TEST_P(FailingDisk, APowerCutLosesNothingThatWasDone) {
     std::vector<DiskCall> calls;
     {
         WatchedDisk disk(folder.path());
-        TheDataModule().Conn1.Open(folder.filePath(u"data.mdb"_qs));
+        TheDataModule().Conn1.Open(folder.filePath(u"data.mdb"_s));
         for (int number = 1; number <= 3; ++number) {
             Kind().make(number, folder.path());
             doneAt.push_back(disk.Passed().size());

@@ -13,6 +13,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray ContentOf(const QString& path) {
@@ -57,7 +60,7 @@ const QByteArray kReport(100000, 'x');
 const QByteArray kEarlier(300, 'y');
 
 QString ReportIn(const QString& folder) {
-    return folder + QStringLiteral("/Seznam.html");
+    return folder + u"/Seznam.html"_s;
 }
 
 TEST(FailingPapers, AnExportIsWholeOrTheEarlierOneStands) {
@@ -70,26 +73,23 @@ TEST(FailingPapers, AnExportIsWholeOrTheEarlierOneStands) {
 }
 
 TEST(FailingPapers, ADocumentIsWholeOrNotThere) {
-    FailEachCall([](const QString&) {},
-                 [](const QString& folder) {
-                     (void)WriteNewFile(folder, QStringLiteral("Katalog"), QStringLiteral("docx"),
-                                        kReport);
-                 },
-                 [](const QString& folder, bool failed) {
-                     const QString path = folder + QStringLiteral("/Katalog.docx");
-                     EXPECT_TRUE(QFile::exists(path) ? ContentOf(path) == kReport : failed);
-                 });
+    FailEachCall(
+        [](const QString&) {},
+        [](const QString& folder) { (void)WriteNewFile(folder, u"Katalog"_s, u"docx"_s, kReport); },
+        [](const QString& folder, bool failed) {
+            const QString path = folder + u"/Katalog.docx"_s;
+            EXPECT_TRUE(QFile::exists(path) ? ContentOf(path) == kReport : failed);
+        });
 }
 
 TEST(FailingPapers, SettingsAreTheEarlierOrTheNewOnes) {
     const auto write = [](const QString& folder, const QString& text) {
-        MakeSettingsTree(folder)->Write(QStringLiteral("Sys"), QStringLiteral("ShowGrid"), text);
+        MakeSettingsTree(folder)->Write(u"Sys"_s, u"ShowGrid"_s, text);
     };
-    FailEachCall([&](const QString& folder) { write(folder, QStringLiteral("1")); },
-                 [&](const QString& folder) { write(folder, QStringLiteral("0")); },
+    FailEachCall([&](const QString& folder) { write(folder, u"1"_s); },
+                 [&](const QString& folder) { write(folder, u"0"_s); },
                  [](const QString& folder, bool) {
-                     const QString text = MakeSettingsTree(folder)->Read(
-                         QStringLiteral("Sys"), QStringLiteral("ShowGrid"));
+                     const QString text = MakeSettingsTree(folder)->Read(u"Sys"_s, u"ShowGrid"_s);
                      EXPECT_TRUE(text == u"0" || text == u"1") << text.toStdString();
                  });
 }

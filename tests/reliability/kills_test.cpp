@@ -15,6 +15,9 @@
 #include <unistd.h>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Count {
@@ -27,7 +30,7 @@ struct Count {
 
 /// Makes edits and tells each by a byte, until it is killed.
 [[noreturn]] void EditForEver(const EditKind& kind, const QString& folder, int reports) {
-    TheDataModule().Conn1.Open(folder + u"/data.mdb"_qs);
+    TheDataModule().Conn1.Open(folder + u"/data.mdb"_s);
     for (int number = 1; number <= kMostEdits; ++number) {
         kind.make(number, folder);
         if (write(reports, "", 1) != 1)

@@ -6,6 +6,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class BreedOverview : public PaperFixture {
@@ -19,23 +21,23 @@ class BreedOverview : public PaperFixture {
 
 TEST_F(BreedOverview, IsTypedAsItWasReadByEye) {
     Click(window, "cmdOK");
-    ExpectGolden(u"breed_overview.txt"_qs, Operations().toUtf8() + '\n');
+    ExpectGolden(u"breed_overview.txt"_s, Operations().toUtf8() + '\n');
     EXPECT_EQ(platform.shownDocuments, 1);
     EXPECT_EQ(platform.waitCursorDepth, 0);
     EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(BreedOverview, CountsBreedsInUseAndTheirDogs) {
-    Control<QLineEdit>(window, "txtTitle").setText(u"Klubová výstava"_qs);
+    Control<QLineEdit>(window, "txtTitle").setText(u"Klubová výstava"_s);
     Click(window, "cmdOK");
     EXPECT_TRUE(Text().startsWith(u"Klubová výstava¶\n¶\nPřehled plemen :¶\n¶\nFCI 1¶\n"
                                   "\\tPočet plemen:\\t\\t1¶\n\\tPočet psů:\\t\\t0¶\n¶\nFCI 2¶\n"
                                   "\\tPočet plemen:\\t\\t1¶\n\\tPočet psů:\\t\\t3¶\n¶\nFCI 3¶\n"
-                                  "\\tPočet plemen:\\t\\t0¶\n\\tPočet psů:\\t\\t0¶\n"_qs))
+                                  "\\tPočet plemen:\\t\\t0¶\n\\tPočet psů:\\t\\t0¶\n"_s))
         << Text().toStdString();
     EXPECT_TRUE(
         Text().endsWith(u"FCI nezařazeno¶\n\\tPočet plemen:\\t\\t1¶\n\\tPočet psů:\\t\\t0¶\n"
-                        "¶\nCelkem psů:\\t\\t6¶\nCelkem plemen:\\t\\t4"_qs))
+                        "¶\nCelkem psů:\\t\\t6¶\nCelkem plemen:\\t\\t4"_s))
         << Text().toStdString();
 }
 
@@ -44,8 +46,8 @@ TEST_F(BreedOverview, ADocumentThatNothingOpensIsNamedAndTheWindowCloses) {
     platform.ExpectMessage(
         u"Dokument je uložen v souboru „%1/Tisky/Přehled plemen.docx“, ale na tomto počítači jej "
         u"nemá co otevřít. Otevřete jej na kterémkoli počítači s textovým procesorem (Microsoft "
-        u"Word, LibreOffice Writer)."_qs.arg(platform.ProgramFolder()),
-        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Přehled plemen"_qs);
+        u"Word, LibreOffice Writer)."_s.arg(platform.ProgramFolder()),
+        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Přehled plemen"_s);
     Click(window, "cmdOK");
     EXPECT_FALSE(window.isVisible());
 }
@@ -56,29 +58,29 @@ TEST_F(BreedOverview, TheTotalsAreTheSumsOfTheGroups) {
     int breeds = 0;
     int dogs = 0;
     for (const QString& line : Text().split(u'\n')) {
-        const int number = line.section(u"\\t\\t"_qs, 1).remove(u'¶').toInt();
-        if (line.startsWith(u"\\tPočet plemen:"_qs))
+        const int number = line.section(u"\\t\\t"_s, 1).remove(u'¶').toInt();
+        if (line.startsWith(u"\\tPočet plemen:"_s))
             breeds += number;
-        if (line.startsWith(u"\\tPočet psů:"_qs))
+        if (line.startsWith(u"\\tPočet psů:"_s))
             dogs += number;
     }
     EXPECT_EQ(dogs, 7);
     EXPECT_EQ(breeds, 4) << "a breed in no group from 1 to 11 falls out";
-    EXPECT_TRUE(Text().endsWith(u"Celkem psů:\\t\\t7¶\nCelkem plemen:\\t\\t4"_qs));
+    EXPECT_TRUE(Text().endsWith(u"Celkem psů:\\t\\t7¶\nCelkem plemen:\\t\\t4"_s));
 }
 
 TEST_F(BreedOverview, ACountBeyondSixteenBitsIsAMessage) {
     show.Execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32762) "
                  "INSERT INTO Psi (Jmeno, PlemenoID) SELECT 'x', 14 FROM n");
-    platform.ExpectMessage(u"Přehled plemen umí počítat jen do 32767."_qs, MessageAnswer::Ok,
-                           MessageIcon::Stop, MessageButtons::Ok, u"Přehled plemen"_qs);
+    platform.ExpectMessage(u"Přehled plemen umí počítat jen do 32767."_s, MessageAnswer::Ok,
+                           MessageIcon::Stop, MessageButtons::Ok, u"Přehled plemen"_s);
     Click(window, "cmdOK");
     EXPECT_EQ(platform.shownDocuments, 0);
     EXPECT_EQ(platform.waitCursorDepth, 0);
     EXPECT_TRUE(window.isVisible());
     show.Execute("DELETE FROM Psi WHERE ID = 1");
     Click(window, "cmdOK");
-    EXPECT_TRUE(Text().contains(u"Celkem psů:\\t\\t32767¶"_qs));
+    EXPECT_TRUE(Text().contains(u"Celkem psů:\\t\\t32767¶"_s));
 }
 
 TEST_F(BreedOverview, ItsWindowIsLaidOutForReadingAndForTheKeyboard) {

@@ -4,6 +4,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char* kTemplate = "__top__T__top_end____loop1__[_skupina_ __body__(_radek_)"
@@ -11,8 +13,8 @@ constexpr const char* kTemplate = "__top__T__top_end____loop1__[_skupina_ __body
 
 class DogLists : public PaperFixture {
   protected:
-    DogLists() { WriteTemplate(u"Seznam psů.html"_qs, kTemplate); }
-    void Choose(int option) { Click(window, qPrintable(u"optSortKey(%1)"_qs.arg(option))); }
+    DogLists() { WriteTemplate(u"Seznam psů.html"_s, kTemplate); }
+    void Choose(int option) { Click(window, qPrintable(u"optSortKey(%1)"_s.arg(option))); }
     QString Document() {
         Start(window, false);
         return Text();
@@ -29,11 +31,11 @@ class DogLists : public PaperFixture {
 } // namespace
 
 TEST_F(DogLists, OffersFourGroupings) {
-    const QString captions[] = {u"Plemene"_qs, u"Pohlaví"_qs, u"Majitele"_qs, u"Třídy"_qs};
+    const QString captions[] = {u"Plemene"_s, u"Pohlaví"_s, u"Majitele"_s, u"Třídy"_s};
     window.show();
     EXPECT_EQ(Control<QGroupBox>(window, "").title(), u"Seskupit podle ");
     for (int i = 0; i < 4; ++i) {
-        auto& option = Control<QRadioButton>(window, qPrintable(u"optSortKey(%1)"_qs.arg(i)));
+        auto& option = Control<QRadioButton>(window, qPrintable(u"optSortKey(%1)"_s.arg(i)));
         EXPECT_EQ(option.text(), captions[i]);
         EXPECT_EQ(option.isChecked(), i == 0);
     }
@@ -51,17 +53,17 @@ TEST_F(DogLists, ByBreedNamesTheOwnersAndEveryBreedInUse) {
         "Čert  - třída štěňat od 3 do 6 měsíců - datum narození  - majitel ¶\n"
         "Rex z Dvora - třída dorostu - datum narození 14.5.2003 - majitel Jan¶\n"
         "Čuvač¶\n"
-        "Kříženec¶\n"_qs);
+        "Kříženec¶\n"_s);
 }
 
 TEST_F(DogLists, BySexHasTwoGroupsAndOneGapAtTheEnd) {
     Choose(1);
     EXPECT_TRUE(Document().startsWith(
         u"Pes¶\nÁron z Lesa - třída štěňat od 3 do 6 měsíců - datum narození 1.6.2004 "
-        "- číslo PK CLP/9¶\n"_qs))
+        "- číslo PK CLP/9¶\n"_s))
         << Text().toStdString();
-    EXPECT_EQ(Text().count(u"\nFena¶\nAša od Řeky"_qs), 1);
-    EXPECT_EQ(platform.wordOperations.count(u"SetSelectionText \"\\r\\n\""_qs), 2);
+    EXPECT_EQ(Text().count(u"\nFena¶\nAša od Řeky"_s), 1);
+    EXPECT_EQ(platform.wordOperations.count(u"SetSelectionText \"\\r\\n\""_s), 2);
     EXPECT_EQ(platform.wordOperations.mid(platform.wordOperations.size() - 5).join(u'|'),
               u"SetSelectionText \"\\r\\n\"|SetSelectionText \"\\r\\n\"|EndKeyStory|HomeKeyStory|"
               "Show");
@@ -69,31 +71,31 @@ TEST_F(DogLists, BySexHasTwoGroupsAndOneGapAtTheEnd) {
 
 TEST_F(DogLists, ByOwnerHasAHeadingForOneWithoutDogsToo) {
     Choose(2);
-    EXPECT_TRUE(Document().startsWith(u"Bedřich¶\nEva¶\nAša od Řeky"_qs)) << Text().toStdString();
-    EXPECT_EQ(platform.wordOperations.count(u"EndKeyStory"_qs), 3);
+    EXPECT_TRUE(Document().startsWith(u"Bedřich¶\nEva¶\nAša od Řeky"_s)) << Text().toStdString();
+    EXPECT_EQ(platform.wordOperations.count(u"EndKeyStory"_s), 3);
 }
 
 TEST_F(DogLists, ByClassHasMalesAlone) {
     Choose(3);
     const QString typed = Document();
-    EXPECT_TRUE(typed.startsWith(u"štěňat od 3 do 6 měsíců¶\nÁron z Lesa"_qs))
+    EXPECT_TRUE(typed.startsWith(u"štěňat od 3 do 6 měsíců¶\nÁron z Lesa"_s))
         << typed.toStdString();
-    EXPECT_TRUE(typed.contains(u"¶\ndorostu¶\nBrok"_qs));
-    for (const QString& female : {u"Aša"_qs, u"Dora"_qs, u"Zita"_qs})
+    EXPECT_TRUE(typed.contains(u"¶\ndorostu¶\nBrok"_s));
+    for (const QString& female : {u"Aša"_s, u"Dora"_s, u"Zita"_s})
         EXPECT_FALSE(typed.contains(female)) << female.toStdString();
 }
 
 TEST_F(DogLists, ThePercentageCountsGroupsOrDogs) {
     const QStringList figures[] = {
-        {u"25%"_qs, u"50%"_qs, u"75%"_qs, u"100%"_qs},
-        {u"14%"_qs, u"28%"_qs, u"42%"_qs, u"57%"_qs, u"71%"_qs, u"85%"_qs, u"100%"_qs}};
+        {u"25%"_s, u"50%"_s, u"75%"_s, u"100%"_s},
+        {u"14%"_s, u"28%"_s, u"42%"_s, u"57%"_s, u"71%"_s, u"85%"_s, u"100%"_s}};
     for (int option = 0; option < 2; ++option) {
         frmTiskSeznamuPsu other(nullptr);
         other.show();
-        Click(other, qPrintable(u"optSortKey(%1)"_qs.arg(option)));
+        Click(other, qPrintable(u"optSortKey(%1)"_s.arg(option)));
         QStringList seen;
         platform.onProcessEvents = [&] {
-            const QString start = u"Export seznamu psů - Generuji: "_qs;
+            const QString start = u"Export seznamu psů - Generuji: "_s;
             EXPECT_TRUE(other.windowTitle().startsWith(start));
             const QString figure = other.windowTitle().mid(start.size());
             if (seen.isEmpty() || seen.last() != figure)
@@ -105,32 +107,32 @@ TEST_F(DogLists, ThePercentageCountsGroupsOrDogs) {
 }
 
 TEST_F(DogLists, AStopEndsTheDocumentInsideAGroup) {
-    StopAt(window, u"50%"_qs);
-    EXPECT_TRUE(Document().startsWith(u"Pug¶\n"_qs));
-    EXPECT_FALSE(Text().contains(u"Boxer"_qs));
+    StopAt(window, u"50%"_s);
+    EXPECT_TRUE(Document().startsWith(u"Pug¶\n"_s));
+    EXPECT_FALSE(Text().contains(u"Boxer"_s));
     EXPECT_EQ(platform.shownDocuments, 1);
     EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(DogLists, AGroupsTextKeepsItsMarkersAndItsRowsFollowIt) {
-    const QString rest = u" __body__(_radek_)__body_end__]"_qs;
-    EXPECT_EQ(Page(), u"T["_qs + rest + u"(Jan)(Jan)(Eva)[Boxer"_qs + rest +
-                          u"(Eva)()(Jan)[Čuvač"_qs + rest + u"[Kříženec"_qs + rest);
+    const QString rest = u" __body__(_radek_)__body_end__]"_s;
+    EXPECT_EQ(Page(), u"T["_s + rest + u"(Jan)(Jan)(Eva)[Boxer"_s + rest + u"(Eva)()(Jan)[Čuvač"_s +
+                          rest + u"[Kříženec"_s + rest);
     EXPECT_EQ(platform.openedFiles.size(), 1);
 }
 
 TEST_F(DogLists, AGroupsRowPatternIsSearchedInItsOwnText) {
     show.Execute("UPDATE Plemena SET Nazev = '__body__<_radek_>__body_end__' WHERE ID = 10;"
                  "UPDATE Plemena SET Pouzivat = 0 WHERE ID <> 10 AND ID <> 11");
-    EXPECT_TRUE(Page().contains(u"(Jan)(Jan)(Eva)["_qs));
-    EXPECT_TRUE(Page().endsWith(u"<Eva><><Jan>"_qs));
+    EXPECT_TRUE(Page().contains(u"(Jan)(Jan)(Eva)["_s));
+    EXPECT_TRUE(Page().endsWith(u"<Eva><><Jan>"_s));
 }
 
 TEST_F(DogLists, TheOtherGroupingsGiveTheTopAlone) {
     for (int option = 1; option < 4; ++option) {
         frmTiskSeznamuPsu other(nullptr);
         other.show();
-        Click(other, qPrintable(u"optSortKey(%1)"_qs.arg(option)));
+        Click(other, qPrintable(u"optSortKey(%1)"_s.arg(option)));
         Start(other, true);
         EXPECT_EQ(Output(), "T");
     }
@@ -138,7 +140,7 @@ TEST_F(DogLists, TheOtherGroupingsGiveTheTopAlone) {
 }
 
 TEST_F(DogLists, AStopWritesAndOpensNothing) {
-    StopAt(window, u"75%"_qs);
+    StopAt(window, u"75%"_s);
     Page();
     EXPECT_EQ(Output(), "no file");
     EXPECT_TRUE(platform.openedFiles.isEmpty());
@@ -156,11 +158,11 @@ TEST_F(DogLists, RunsUnderTheWaitCursorWithTheCloseButtonDisabled) {
 }
 
 TEST_F(DogLists, RowPatternOutsideTheGroupIsAMessageOnceThereIsADog) {
-    WriteTemplate(u"Seznam psů.html"_qs,
+    WriteTemplate(u"Seznam psů.html"_s,
                   "__top__T__top_end____body__r__body_end____loop1__[_skupina_]__loop1_end__"
                   "__bottom____bottom_end__");
     platform.ExpectMessage(
-        u"Šablona poškozena: značka __body_end__ stojí před značkou __body__."_qs);
+        u"Šablona poškozena: značka __body_end__ stojí před značkou __body__."_s);
     Start(window, true);
     EXPECT_EQ(Output(), "no file");
     show.Execute("DELETE FROM Psi");
@@ -170,7 +172,7 @@ TEST_F(DogLists, RowPatternOutsideTheGroupIsAMessageOnceThereIsADog) {
 TEST_F(DogLists, TwoClassesWithoutANameAreTwoGroups) {
     show.Execute("UPDATE Psi SET Trida = 19 WHERE ID = 1; UPDATE Psi SET Trida = 20 WHERE ID = 4");
     Choose(3);
-    EXPECT_EQ(Document().count(u"¶\n¶\n"_qs), 2);
+    EXPECT_EQ(Document().count(u"¶\n¶\n"_s), 2);
 }
 
 } // namespace lorvo::test

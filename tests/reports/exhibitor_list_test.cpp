@@ -4,12 +4,14 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ExhibitorList : public PaperFixture {
   protected:
     ExhibitorList() {
-        WriteTemplate(u"Seznam vystavovatelů.html"_qs,
+        WriteTemplate(u"Seznam vystavovatelů.html"_s,
                       "__top____top_end____body__<_majjmeno_,_majulice_,_majmesto_,_majpsc_:"
                       "_cislapsu_>__body_end____bottom____bottom_end__");
     }
@@ -31,7 +33,7 @@ TEST_F(ExhibitorList, AnOwnerWithoutDogsHasARowOnBothRoutesAndTheRawPlaceholderO
     Start(other, false);
     EXPECT_TRUE(
         Text().endsWith(u"Bedřich  Brno 602 00¶\nEva Krátká 1 Ústí nad Labem 012 34\\t1,3,5¶\n"
-                        "Jan Dlouhá 5 Zlín 760 01\\t4,7,12¶\n"_qs))
+                        "Jan Dlouhá 5 Zlín 760 01\\t4,7,12¶\n"_s))
         << Text().toStdString();
 }
 
@@ -43,11 +45,11 @@ TEST_F(ExhibitorList, DogsWithoutNumbersAreLoneCommasMinusTheLast) {
 
 TEST_F(ExhibitorList, TheBoxesChangeNothing) {
     for (int i = 0; i < 3; ++i)
-        Control<QLineEdit>(window, qPrintable(u"txtLine(%1)"_qs.arg(i))).setText(u"nothing"_qs);
+        Control<QLineEdit>(window, qPrintable(u"txtLine(%1)"_s.arg(i))).setText(u"nothing"_s);
     Start(window, false);
-    EXPECT_FALSE(Text().contains(u"nothing"_qs));
+    EXPECT_FALSE(Text().contains(u"nothing"_s));
     Click(window, "cmdOK");
-    EXPECT_FALSE(Page().contains(u"nothing"_qs));
+    EXPECT_FALSE(Page().contains(u"nothing"_s));
     EXPECT_FALSE(window.isVisible());
 }
 
@@ -61,7 +63,7 @@ TEST_F(ExhibitorList, TheDocumentHasNoProgressFigure) {
 }
 
 TEST_F(ExhibitorList, AStopLeavesTheRowsDoneSoFar) {
-    StopAt(window, u"66%"_qs);
+    StopAt(window, u"66%"_s);
     EXPECT_EQ(Page(), u"<Bedřich,,Brno,602 00:_cislapsu_>");
     EXPECT_EQ(platform.openedFiles.size(), 1);
 }

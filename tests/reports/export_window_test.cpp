@@ -11,18 +11,20 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ExportTraits SampleTraits() {
     return {
         .name = "frmSample",
-        .caption = QStringLiteral("Export"),
-        .title = QStringLiteral("Export vzorků"),
-        .startCaption = QStringLiteral("Tisk"),
-        .closeCaption = QStringLiteral("Storno"),
-        .paper = QStringLiteral("Vzorek"),
-        .templateFile = QStringLiteral("Vzorek.html"),
-        .outputFile = QStringLiteral("Výstup.html"),
+        .caption = u"Export"_s,
+        .title = u"Export vzorků"_s,
+        .startCaption = u"Tisk"_s,
+        .closeCaption = u"Storno"_s,
+        .paper = u"Vzorek"_s,
+        .templateFile = u"Vzorek.html"_s,
+        .outputFile = u"Výstup.html"_s,
     };
 }
 
@@ -31,7 +33,7 @@ class frmSample : public ExportWindow {
   public:
     explicit frmSample(const ExportTraits& traits = SampleTraits())
         : ExportWindow(traits, nullptr) {
-        LayOut(new QLabel(QStringLiteral("(žádné volby)"), this));
+        LayOut(new QLabel(u"(žádné volby)"_s, this));
     }
 
     QString Tag() const { return cmdOK->property("tag").toString(); }
@@ -68,12 +70,12 @@ class frmSample : public ExportWindow {
 class ExportWindowFrame : public testing::Test {
   protected:
     void WriteTemplate(const QByteArray& text) const {
-        QFile file(platform.ProgramFolder() + u"/Vzorek.html"_qs);
+        QFile file(platform.ProgramFolder() + u"/Vzorek.html"_s);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
     }
     QByteArray Output() const {
-        QFile file(platform.ProgramFolder() + u"/Výstup.html"_qs);
+        QFile file(platform.ProgramFolder() + u"/Výstup.html"_s);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
     }
 
@@ -107,10 +109,10 @@ TEST_F(ExportWindowFrame, ADocumentRunTypesUnderTheWaitCursorAndShowsTheDocument
         EXPECT_EQ(window.Tag(), u"jede");
     };
     window.ClickStart();
-    EXPECT_EQ(captions.mid(1), QStringList({u"Export vzorků - Generuji výpis - 20%"_qs,
-                                            u"Export vzorků - Generuji výpis - 40%"_qs,
-                                            u"Export vzorků - Generuji výpis - 60%"_qs,
-                                            u"Export vzorků - Generuji výpis - 80%"_qs}));
+    EXPECT_EQ(captions.mid(1), QStringList({u"Export vzorků - Generuji výpis - 20%"_s,
+                                            u"Export vzorků - Generuji výpis - 40%"_s,
+                                            u"Export vzorků - Generuji výpis - 60%"_s,
+                                            u"Export vzorků - Generuji výpis - 80%"_s}));
     EXPECT_EQ(platform.shownDocuments, 1);
     EXPECT_EQ(platform.wordOperations.last(), u"Show");
     EXPECT_EQ(platform.waitCursorDepth, 0);
@@ -232,8 +234,8 @@ TEST_F(ExportWindowFrame, AFailedRunEndsWithAMessageAndTheWindowAsItWas) {
     window.onRow = [](int) {
         throw StoreError("Tabulku nelze číst.");
     };
-    platform.ExpectMessage(u"Tabulku nelze číst."_qs, MessageAnswer::Ok, MessageIcon::Stop,
-                           MessageButtons::Ok, u"Export"_qs);
+    platform.ExpectMessage(u"Tabulku nelze číst."_s, MessageAnswer::Ok, MessageIcon::Stop,
+                           MessageButtons::Ok, u"Export"_s);
     window.ClickStart();
     EXPECT_EQ(platform.shownDocuments, 0);
     EXPECT_EQ(platform.waitCursorDepth, 0);
@@ -252,8 +254,8 @@ TEST_F(ExportWindowFrame, ADocumentThatNothingOpensIsNamedInAMessage) {
     platform.ExpectMessage(
         u"Dokument je uložen v souboru „%1/Tisky/Vzorek.docx“, ale na tomto počítači jej nemá co "
         u"otevřít. Otevřete jej na kterémkoli počítači s textovým procesorem (Microsoft Word, "
-        u"LibreOffice Writer)."_qs.arg(platform.ProgramFolder()),
-        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Export"_qs,
+        u"LibreOffice Writer)."_s.arg(platform.ProgramFolder()),
+        MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Export"_s,
         [&] { EXPECT_EQ(platform.waitCursorDepth, 0) << "the run is over"; });
     window.ClickStart();
     EXPECT_EQ(window.windowTitle(), u"Export vzorků");
@@ -277,7 +279,7 @@ TEST_F(ExportWindowFrame, ATemplateRunPutsTheSectionsTogetherAndOpensTheOutput) 
     window.chkHTML->setChecked(true);
     window.ClickStart();
     EXPECT_EQ(Output(), "<t><b><b><b><b><b><z>");
-    EXPECT_EQ(platform.openedFiles, QStringList({platform.ProgramFolder() + u"/Výstup.html"_qs}));
+    EXPECT_EQ(platform.openedFiles, QStringList({platform.ProgramFolder() + u"/Výstup.html"_s}));
     EXPECT_EQ(platform.shownDocuments, 0);
     EXPECT_EQ(window.windowTitle(), u"Export vzorků");
 }
@@ -303,10 +305,10 @@ TEST_F(ExportWindowFrame, AMissingTemplateIsMadeEmptyAndNothingIsOpened) {
     frmSample window;
     window.show();
     window.chkHTML->setChecked(true);
-    platform.ExpectMessage(u"Šablona poškozena, položka nebyla nalezena."_qs, MessageAnswer::Ok,
+    platform.ExpectMessage(u"Šablona poškozena, položka nebyla nalezena."_s, MessageAnswer::Ok,
                            MessageIcon::None, MessageButtons::Ok);
     window.ClickStart();
-    EXPECT_TRUE(QFile::exists(platform.ProgramFolder() + u"/Vzorek.html"_qs));
+    EXPECT_TRUE(QFile::exists(platform.ProgramFolder() + u"/Vzorek.html"_s));
     EXPECT_EQ(Output(), "no file");
     EXPECT_TRUE(platform.openedFiles.isEmpty());
     EXPECT_TRUE(window.cmdCancel->isEnabled());

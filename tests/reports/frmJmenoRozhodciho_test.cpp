@@ -13,6 +13,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class JudgesName : public testing::Test {
@@ -20,8 +22,8 @@ class JudgesName : public testing::Test {
     JudgesName() {
         show.Execute("INSERT INTO Kruhy (ID, Nazev, JmenoRozhodciho) VALUES (3, 'Kruh 3', NULL), "
                      "(4, 'Kruh 4', 'Petr Malý')");
-        mainWindow.AddNode(u"K3"_qs, u"Kruh 3"_qs);
-        mainWindow.AddNode(u"K4"_qs, u"Kruh 4"_qs);
+        mainWindow.AddNode(u"K3"_s, u"Kruh 3"_s);
+        mainWindow.AddNode(u"K4"_s, u"Kruh 4"_s);
     }
     /// Opens the window; what stands in its box is returned, and the button clicked.
     QString TypeAndClick(const QString& text, const char* button) {
@@ -46,16 +48,16 @@ class JudgesName : public testing::Test {
 } // namespace
 
 TEST_F(JudgesName, IsStoredInTheSelectedRing) {
-    mainWindow.selected = u"K3"_qs;
-    EXPECT_EQ(TypeAndClick(u"Jan O'Hara"_qs, "cmdOK"), u"");
+    mainWindow.selected = u"K3"_s;
+    EXPECT_EQ(TypeAndClick(u"Jan O'Hara"_s, "cmdOK"), u"");
     EXPECT_EQ(RingByID(3)->JmenoRozhodciho, u"Jan O'Hara");
-    EXPECT_EQ(TypeAndClick(u"nobody"_qs, "cmdCancel"), u"Jan O'Hara");
+    EXPECT_EQ(TypeAndClick(u"nobody"_s, "cmdCancel"), u"Jan O'Hara");
     EXPECT_EQ(RingByID(3)->JmenoRozhodciho, u"Jan O'Hara");
     EXPECT_EQ(RingByID(4)->JmenoRozhodciho, u"Petr Malý");
 }
 
 TEST_F(JudgesName, WithoutASelectedNodeNothingIsReadOrStored) {
-    EXPECT_EQ(TypeAndClick(u"nobody"_qs, "cmdOK"), u"");
+    EXPECT_EQ(TypeAndClick(u"nobody"_s, "cmdOK"), u"");
     EXPECT_EQ(RingByID(3)->JmenoRozhodciho, u"");
     EXPECT_EQ(RingByID(4)->JmenoRozhodciho, u"Petr Malý");
 }

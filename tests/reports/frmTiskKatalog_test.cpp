@@ -11,6 +11,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class CatalogueWindow : public testing::Test {
@@ -64,10 +66,9 @@ TEST_F(CatalogueWindow, IsLaidOutForReadingAndForTheKeyboard) {
 
 TEST_F(CatalogueWindow, PutsTheCatalogueOutAndStaysOpen) {
     Click("cmdOK");
-    EXPECT_TRUE(Typed(u"TypeText \"Rex \""_qs))
-        << platform.wordOperations.join(u'\n').toStdString();
-    EXPECT_FALSE(Typed(u"TypeText \"Ocenění :\\t\""_qs));
-    EXPECT_EQ(platform.documentTitles, QStringList(u"Katalog"_qs));
+    EXPECT_TRUE(Typed(u"TypeText \"Rex \""_s)) << platform.wordOperations.join(u'\n').toStdString();
+    EXPECT_FALSE(Typed(u"TypeText \"Ocenění :\\t\""_s));
+    EXPECT_EQ(platform.documentTitles, QStringList(u"Katalog"_s));
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(window.windowTitle(), u"Tisk katalogu");
     EXPECT_EQ(Control<QPushButton>("cmdOK").text(), u"Start");
@@ -84,14 +85,14 @@ TEST_F(CatalogueWindow, StartsAgainByTwoClicks) {
 TEST_F(CatalogueWindow, TheCatalogueAfterTheShowHasAwards) {
     QTest::keyClick(&Control<QCheckBox>("chkEX"), Qt::Key_Space);
     Click("cmdOK");
-    EXPECT_TRUE(Typed(u"TypeText \"Ocenění :\\t\""_qs));
+    EXPECT_TRUE(Typed(u"TypeText \"Ocenění :\\t\""_s));
 }
 
 TEST_F(CatalogueWindow, AClassOutsideTheTableIsAMessageAndNoDocument) {
     show.Execute("UPDATE Psi SET Trida = 21");
-    platform.ExpectMessage(u"Pes „Rex“ má třídu 21, ale třídy jsou jen 1 až 20."_qs,
+    platform.ExpectMessage(u"Pes „Rex“ má třídu 21, ale třídy jsou jen 1 až 20."_s,
                            MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
-                           u"Tisk katalogu"_qs);
+                           u"Tisk katalogu"_s);
     Click("cmdOK");
     EXPECT_EQ(platform.shownDocuments, 0);
     EXPECT_TRUE(window.isVisible());

@@ -9,6 +9,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Breeds: one with dogs of both sexes, one with no Czech name, one without dogs, one not in use.
@@ -45,20 +47,20 @@ QByteArray ReadAll(const QString& path) {
 } // namespace
 
 PaperFixture::PaperFixture() {
-    Module().MainCurrency = u"Kč"_qs;
+    Module().MainCurrency = u"Kč"_s;
     show.Execute(kShow);
-    QDir(platform.ProgramFolder()).mkdir(u"Šablony"_qs);
+    QDir(platform.ProgramFolder()).mkdir(u"Šablony"_s);
 }
 
 void PaperFixture::InstallTemplates() {
-    const QDir from(test::SourceFile(u"Šablony"_qs));
+    const QDir from(test::SourceFile(u"Šablony"_s));
     for (const QString& name : from.entryList(QDir::Files))
         ASSERT_TRUE(
-            QFile::copy(from.filePath(name), platform.ProgramFolder() + u"/Šablony/"_qs + name));
+            QFile::copy(from.filePath(name), platform.ProgramFolder() + u"/Šablony/"_s + name));
 }
 
 void PaperFixture::WriteTemplate(const QString& name, const QByteArray& text) {
-    QFile file(platform.ProgramFolder() + u"/Šablony/"_qs + name);
+    QFile file(platform.ProgramFolder() + u"/Šablony/"_s + name);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(text);
 }
@@ -91,9 +93,9 @@ QString PaperFixture::Text() const {
     QString text;
     for (const QString& operation : platform.wordOperations) {
         if (operation == u"TypeParagraph")
-            text += u"¶\n"_qs;
+            text += u"¶\n"_s;
         else if (operation == u"InsertPageBreak")
-            text += u"--- page\n"_qs;
+            text += u"--- page\n"_s;
         else if (operation.startsWith(u"TypeText \""))
             text += operation.mid(10).chopped(1);
     }
@@ -101,7 +103,7 @@ QString PaperFixture::Text() const {
 }
 
 void ExpectGolden(const QString& name, const QByteArray& bytes) {
-    QFile file(test::SourceFile(u"tests/reports/golden/"_qs + name));
+    QFile file(test::SourceFile(u"tests/reports/golden/"_s + name));
     if (qEnvironmentVariableIsSet("LORVO_WRITE_GOLDEN")) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);

@@ -16,6 +16,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Paper {
@@ -114,12 +116,12 @@ TEST_P(EachPaper, WithoutRowsIsThePageAlone) {
 }
 
 TEST_P(EachPaper, AMissingTemplateFolderIsAMessageThatNamesTheFile) {
-    QDir(platform.ProgramFolder() + u"/Šablony"_qs).removeRecursively();
+    QDir(platform.ProgramFolder() + u"/Šablony"_s).removeRecursively();
     const auto window = GetParam().make();
     const QString path =
-        platform.ProgramFolder() + u"/Šablony/"_qs + QString::fromUtf16(GetParam().templateFile);
+        platform.ProgramFolder() + u"/Šablony/"_s + QString::fromUtf16(GetParam().templateFile);
     platform.ExpectMessage(
-        u"Šablonu nelze otevřít „%1“: soubor nebo jeho složka neexistuje"_qs.arg(path),
+        u"Šablonu nelze otevřít „%1“: soubor nebo jeho složka neexistuje"_s.arg(path),
         MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
         QString::fromUtf16(GetParam().caption));
     Start(*window, true);
@@ -129,10 +131,10 @@ TEST_P(EachPaper, AMissingTemplateFolderIsAMessageThatNamesTheFile) {
 
 TEST_P(EachPaper, AMissingTemplateIsMadeEmptyAndAMessageComes) {
     const auto window = GetParam().make();
-    platform.ExpectMessage(u"Šablona poškozena, položka nebyla nalezena."_qs, MessageAnswer::Ok,
-                           MessageIcon::None, MessageButtons::Ok, u"Lorvo"_qs);
+    platform.ExpectMessage(u"Šablona poškozena, položka nebyla nalezena."_s, MessageAnswer::Ok,
+                           MessageIcon::None, MessageButtons::Ok, u"Lorvo"_s);
     Start(*window, true);
-    EXPECT_EQ(File(u"Šablony/"_qs + QString::fromUtf16(GetParam().templateFile)), "");
+    EXPECT_EQ(File(u"Šablony/"_s + QString::fromUtf16(GetParam().templateFile)), "");
     EXPECT_EQ(window->isVisible(), !GetParam().closesAfterTemplate);
     // The dog list alone writes and opens its empty output.
     const bool writes = GetParam().name == std::string("dog_list");
@@ -145,7 +147,7 @@ TEST_P(EachPaper, AClosingMarkerBeforeItsOpeningOneIsAMessage) {
                   "__top_end__T__top____loop1____body____body_end____loop1_end__"
                   "__bottom____bottom_end__");
     const auto window = GetParam().make();
-    platform.ExpectMessage(u"Šablona poškozena: značka __top_end__ stojí před značkou __top__."_qs);
+    platform.ExpectMessage(u"Šablona poškozena: značka __top_end__ stojí před značkou __top__."_s);
     Start(*window, true);
     EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(Control<QPushButton>(*window, "cmdCancel").isEnabled());
@@ -158,7 +160,7 @@ TEST_P(EachPaper, AnOutputThatCannotBeWrittenIsAMessage) {
     const QString path = platform.ProgramFolder() + u'/' + QString::fromUtf16(GetParam().output);
     ASSERT_TRUE(QDir().mkdir(path));
     const auto window = GetParam().make();
-    platform.ExpectMessage(u"Soubor nelze zapsat „%1“: tento název má složka"_qs.arg(path));
+    platform.ExpectMessage(u"Soubor nelze zapsat „%1“: tento název má složka"_s.arg(path));
     Start(*window, true);
     EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(platform.openedFiles.isEmpty());

@@ -21,6 +21,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class UnstoppedRun final : public RunProgress {
@@ -40,10 +42,10 @@ class PapersRendering : public PaperFixture {
   protected:
     /// Every dog with a kennel, a breed and an owner whose fields are full.
     void FillFields() {
-        const QString dog = Full(50, u"Alexandrova Mája Žofie "_qs);
-        const QString kennel = Full(150, u"z Moravského Krumlova WÜRTTEMBERG "_qs);
-        const QString street = Full(255, u"Náměstí Svobody v Dolním Městě "_qs);
-        const QString breed = Full(255, u"Německý Ohař Drátosrstý "_qs);
+        const QString dog = Full(50, u"Alexandrova Mája Žofie "_s);
+        const QString kennel = Full(150, u"z Moravského Krumlova WÜRTTEMBERG "_s);
+        const QString street = Full(255, u"Náměstí Svobody v Dolním Městě "_s);
+        const QString breed = Full(255, u"Německý Ohař Drátosrstý "_s);
         const auto set = [this](const char* statement, const QStringList& values) {
             QString sql = QString::fromUtf8(statement);
             for (const QString& value : values)
@@ -53,23 +55,23 @@ class PapersRendering : public PaperFixture {
         set("UPDATE Psi SET Jmeno = ?, ChovnaStanice = ?, PK = ?", {dog, kennel, kennel.left(50)});
         set("UPDATE Plemena SET Nazev = ?", {breed});
         set("UPDATE Majitele SET Jmeno = ?, Prijmeni = ?, Ulice = ?, Mesto = ?",
-            {Full(50, u"Evženie Dvořáková "_qs), Full(50, u"Nováková Malá "_qs), street,
-             Full(100, u"Ústí nad Labem "_qs)});
+            {Full(50, u"Evženie Dvořáková "_s), Full(50, u"Nováková Malá "_s), street,
+             Full(100, u"Ústí nad Labem "_s)});
     }
 
     void TypeAll() {
         QStringList lines;
         for (const ConfirmationLine& line : kConfirmationLines)
             lines << QString::fromUtf16(line.text);
-        const QString title = u"Krajská výstava psů společenských plemen Zlín 14. května 2005"_qs;
-        Type(u"Katalog"_qs, [](auto& word) { TypeCatalogue(word, true); });
-        Type(u"Pozvánky"_qs, [&](auto& word) { TypeConfirmations(word, lines, run_); });
-        Type(u"Posudkové listy"_qs, [&](auto& word) { TypeJudgingSheets(word, title, run_); });
-        Type(u"Diplomy"_qs, [&](auto& word) { TypeDiplomas(word, run_); });
-        Type(u"Seznam psů"_qs, [&](auto& word) { TypeDogList(word, DogGrouping::ByBreed, run_); });
-        Type(u"Seznam vystavovatelů"_qs, [](auto& word) { TypeExhibitors(word); });
-        Type(u"Platby"_qs, [&](auto& word) { TypePayments(word, run_); });
-        Type(u"Přehled plemen"_qs, [&](auto& word) { TypeBreedOverview(word, title); });
+        const QString title = u"Krajská výstava psů společenských plemen Zlín 14. května 2005"_s;
+        Type(u"Katalog"_s, [](auto& word) { TypeCatalogue(word, true); });
+        Type(u"Pozvánky"_s, [&](auto& word) { TypeConfirmations(word, lines, run_); });
+        Type(u"Posudkové listy"_s, [&](auto& word) { TypeJudgingSheets(word, title, run_); });
+        Type(u"Diplomy"_s, [&](auto& word) { TypeDiplomas(word, run_); });
+        Type(u"Seznam psů"_s, [&](auto& word) { TypeDogList(word, DogGrouping::ByBreed, run_); });
+        Type(u"Seznam vystavovatelů"_s, [](auto& word) { TypeExhibitors(word); });
+        Type(u"Platby"_s, [&](auto& word) { TypePayments(word, run_); });
+        Type(u"Přehled plemen"_s, [&](auto& word) { TypeBreedOverview(word, title); });
     }
 
     Layout LaidOutWith(FontSet fonts) {
@@ -79,7 +81,7 @@ class PapersRendering : public PaperFixture {
         Layout layout;
         for (const QString& title : documents_.keys())
             layout[title] = PdfPages(folder + u'/' +
-                                     QFileInfo(documents_[title]).completeBaseName() + u".pdf"_qs);
+                                     QFileInfo(documents_[title]).completeBaseName() + u".pdf"_s);
         return layout;
     }
 
@@ -97,12 +99,12 @@ class PapersRendering : public PaperFixture {
     }
 
     void ExpectSheets(const Layout& layout) {
-        EXPECT_EQ(layout.at(u"Pozvánky"_qs).size(), 5 + 1) << "with the page behind the last break";
-        EXPECT_EQ(layout.at(u"Diplomy"_qs).size(), 7 + 1);
-        const QStringList sheets = layout.at(u"Posudkové listy"_qs);
+        EXPECT_EQ(layout.at(u"Pozvánky"_s).size(), 5 + 1) << "with the page behind the last break";
+        EXPECT_EQ(layout.at(u"Diplomy"_s).size(), 7 + 1);
+        const QStringList sheets = layout.at(u"Posudkové listy"_s);
         ASSERT_EQ(sheets.size(), 7 + 1);
         for (const QString& sheet : sheets.first(7))
-            EXPECT_TRUE(sheet.contains(u"POSUDEK:"_qs) && sheet.contains(u"podpis rozhodčího"_qs));
+            EXPECT_TRUE(sheet.contains(u"POSUDEK:"_s) && sheet.contains(u"podpis rozhodčího"_s));
     }
 
   private:
@@ -119,7 +121,7 @@ class PapersRendering : public PaperFixture {
     /// or without blanks between.
     static std::string LettersOf(const QString& page) {
         QString letters = page;
-        letters.remove(QRegularExpression(QStringLiteral("\\s")));
+        letters.remove(QRegularExpression(u"\\s"_s));
         std::sort(letters.begin(), letters.end());
         return letters.toStdString();
     }
@@ -137,13 +139,13 @@ TEST_F(PapersRendering, EveryPaperHasTheSamePagesWithThreeSetsOfFonts) {
     TypeAll();
     const Layout layout = LaidOutWith(FontSet::Liberation);
     ExpectSheets(layout);
-    for (const QString& list : {u"Katalog"_qs, u"Seznam psů"_qs, u"Seznam vystavovatelů"_qs,
-                                u"Platby"_qs, u"Přehled plemen"_qs})
+    for (const QString& list : {u"Katalog"_s, u"Seznam psů"_s, u"Seznam vystavovatelů"_s,
+                                u"Platby"_s, u"Přehled plemen"_s})
         EXPECT_EQ(layout.at(list).size(), 1) << list.toStdString();
-    EXPECT_TRUE(layout.at(u"Seznam vystavovatelů"_qs)
+    EXPECT_TRUE(layout.at(u"Seznam vystavovatelů"_s)
                     .first()
-                    .contains(u"Eva Krátká 1 Ústí nad Labem 012 34"_qs));
-    EXPECT_TRUE(layout.at(u"Platby"_qs).first().contains(u"složenkou"_qs));
+                    .contains(u"Eva Krátká 1 Ústí nad Labem 012 34"_s));
+    EXPECT_TRUE(layout.at(u"Platby"_s).first().contains(u"složenkou"_s));
     for (const FontSet fonts : {FontSet::Urw, FontSet::DejaVu})
         ExpectAlike(layout, LaidOutWith(fonts), fonts);
 }

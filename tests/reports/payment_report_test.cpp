@@ -5,20 +5,22 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kQuestion = QStringLiteral("Označit všechny vyexportované platby jako 'vytištěné'?");
+const QString kQuestion = u"Označit všechny vyexportované platby jako 'vytištěné'?"_s;
 
 class PaymentReport : public PaperFixture {
   protected:
     PaymentReport() {
-        WriteTemplate(u"Platby.html"_qs,
+        WriteTemplate(u"Platby.html"_s,
                       "__top____top_end____body__<_majitel_;_jmenopsa_;_datum_;_kc_;_uhrada_;"
                       "_ucet_>__body_end____bottom____bottom_end__");
     }
     void ExpectQuestion(MessageAnswer answer) {
         platform.ExpectMessage(kQuestion, answer, MessageIcon::Question, MessageButtons::YesNo,
-                               u"Export plateb"_qs);
+                               u"Export plateb"_s);
     }
     QList<bool> Marks() const {
         QList<bool> marks;
@@ -70,7 +72,7 @@ TEST_F(PaymentReport, NoChangesNothing) {
 }
 
 TEST_F(PaymentReport, AStoppedRunAsksAllTheSame) {
-    StopAt(window, u"66%"_qs);
+    StopAt(window, u"66%"_s);
     Start(window, true);
     EXPECT_EQ(Output().count('<'), 1);
     ExpectQuestion(MessageAnswer::No);
@@ -78,16 +80,16 @@ TEST_F(PaymentReport, AStoppedRunAsksAllTheSame) {
 }
 
 TEST_F(PaymentReport, AStopOfTheDocumentLeavesTheLinesDoneSoFar) {
-    StopAt(window, u"66%"_qs);
+    StopAt(window, u"66%"_s);
     Start(window, false);
-    EXPECT_EQ(Text().count(u"¶"_qs), 2);
+    EXPECT_EQ(Text().count(u"¶"_s), 2);
     ExpectQuestion(MessageAnswer::No);
     window.close();
 }
 
 TEST_F(PaymentReport, ABrokenTemplateAsksAllTheSame) {
-    WriteTemplate(u"Platby.html"_qs, "__top__");
-    platform.ExpectMessage(u"Šablona poškozena, položka nebyla nalezena."_qs);
+    WriteTemplate(u"Platby.html"_s, "__top__");
+    platform.ExpectMessage(u"Šablona poškozena, položka nebyla nalezena."_s);
     Start(window, true);
     EXPECT_TRUE(window.isVisible());
     ExpectQuestion(MessageAnswer::Yes);
@@ -100,8 +102,8 @@ TEST_F(PaymentReport, AnUnknownWayOfPaymentEndsTheRunAndNothingIsAsked) {
         show.Execute("UPDATE Uhrady SET Uhrada = " + std::to_string(mode) + " WHERE ID = 2");
         frmTiskPlateb other(nullptr);
         platform.ExpectMessage(
-            u"Platba za psa „Rex“ má způsob úhrady %1, ale způsoby jsou jen 0 až 2."_qs.arg(mode),
-            MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok, u"Platby"_qs);
+            u"Platba za psa „Rex“ má způsob úhrady %1, ale způsoby jsou jen 0 až 2."_s.arg(mode),
+            MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok, u"Platby"_s);
         Start(other, mode < 0);
         EXPECT_EQ(platform.shownDocuments, 0);
         EXPECT_EQ(Output(), "no file");
@@ -114,9 +116,9 @@ TEST_F(PaymentReport, APaymentWithoutAWayOfPaymentEndsTheRun) {
     show.Execute("UPDATE Uhrady SET Uhrada = NULL WHERE ID = 2");
     for (const bool html : {true, false}) {
         frmTiskPlateb other(nullptr);
-        platform.ExpectMessage(u"Platba za psa „Rex“ nemá uveden způsob úhrady."_qs,
+        platform.ExpectMessage(u"Platba za psa „Rex“ nemá uveden způsob úhrady."_s,
                                MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
-                               u"Platby"_qs);
+                               u"Platby"_s);
         Start(other, html);
         EXPECT_EQ(platform.shownDocuments, 0);
         EXPECT_EQ(Output(), "no file");

@@ -7,6 +7,9 @@
 #include "setup/setup_fixture.h"
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class CodeListTest : public SetupTest {
@@ -38,8 +41,8 @@ TEST_F(CodeListTest, ColoursStandAsStoredWithTheirUses) {
     OpenColours([&](QWidget& window, ReportList& list) {
         EXPECT_EQ(window.windowTitle(), u"Barvy");
         EXPECT_EQ(RowsOf(list), (Texts{"hnědá|2", "bílá|0"}));
-        EXPECT_EQ(list.model()->headerData(0, Qt::Horizontal), u"Barva"_qs);
-        EXPECT_EQ(list.model()->headerData(1, Qt::Horizontal), u"Použita"_qs);
+        EXPECT_EQ(list.model()->headerData(0, Qt::Horizontal), u"Barva"_s);
+        EXPECT_EQ(list.model()->headerData(1, Qt::Horizontal), u"Použita"_s);
         list.SelectRow(0);
         platform.ExpectMessage(Text("Tuto barvu není možno smazat, protože je použita (2x)"),
                                MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
@@ -139,8 +142,8 @@ TEST_F(CodeListTest, AwardsLookForTheirNamesAmongTheColours) {
     AddAward("CAC");
     OpenAwards([&](QWidget& window, ReportList& list) {
         EXPECT_EQ(window.windowTitle(), u"Ocenění ve výstavních třídách");
-        EXPECT_EQ(list.model()->headerData(0, Qt::Horizontal), u"Barva"_qs);
-        EXPECT_EQ(list.model()->headerData(1, Qt::Horizontal), u"Použito"_qs);
+        EXPECT_EQ(list.model()->headerData(0, Qt::Horizontal), u"Barva"_s);
+        EXPECT_EQ(list.model()->headerData(1, Qt::Horizontal), u"Použito"_s);
         Command(window, "Add");
         EXPECT_EQ(EditorOf(list)->text(), u"Nové ocenění");
         TypeInPlace(list, Text("CAC"));
@@ -185,7 +188,7 @@ TEST_F(CodeListTest, ClassesShowEightNamesAndTwoFreePlaces) {
         for (const int free : {8, 9}) {
             EXPECT_EQ(list.CellText(free, 0), u"-nepoužito-");
             EXPECT_EQ(list.CellText(free, 1), u"");
-            EXPECT_EQ(list.Row(free).key, QStringLiteral("C%1").arg(free + 1));
+            EXPECT_EQ(list.Row(free).key, u"C%1"_s.arg(free + 1));
         }
     });
 }
@@ -215,7 +218,7 @@ class RingNameTest : public SetupTest {
         tree.AddNode(Key(), Text("Kruh A"));
         tree.selected = Key();
     }
-    QString Key() const { return QStringLiteral("K%1").arg(ring); }
+    QString Key() const { return u"K%1"_s.arg(ring); }
 
     int ring;
 };

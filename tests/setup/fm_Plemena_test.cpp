@@ -9,6 +9,9 @@
 #include <QTimer>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class BreedRegisterTest : public SetupTest {
@@ -87,7 +90,7 @@ TEST_F(BreedRegisterTest, ShowsBreedsWithTheirSubgroupsByName) {
         EXPECT_EQ(Cells(brown), "Pudl hnědý (Orig)|-nezařazeno-|9|0|Ne|Ano");
         EXPECT_EQ(Tree().Model().InOrder(),
                   (std::vector<BreedNode*>{&Node(pudl), &Node(brown), &Node(vipet)}));
-        EXPECT_EQ(Data(vipet, Qt::UserRole), u"C1"_qs);
+        EXPECT_EQ(Data(vipet, Qt::UserRole), u"C1"_s);
         EXPECT_EQ(Data(vipet, Qt::CheckStateRole), Qt::Checked);
         EXPECT_EQ(Data(pudl, Qt::CheckStateRole), Qt::Unchecked);
         EXPECT_EQ(Data(vipet, Qt::BackgroundRole).value<QColor>(), QColor(224, 255, 255));
@@ -360,11 +363,11 @@ TEST_F(BreedRegisterTest, TheMenuOfABaseBreedGreysWhatNeedsAnOwnOne) {
         QStringList expected = {Text("Zařadit do FCI"), Text("  20000 -nezařazeno- (-)"),
                                 Text("  20001 FCI 1 (-)"), Text("  0 [x] FCI 2")};
         for (int fci = 3; fci <= 10; ++fci)
-            expected << QStringLiteral("  %1 FCI %2 (-)").arg(20000 + fci).arg(fci);
+            expected << u"  %1 FCI %2 (-)"_s.arg(20000 + fci).arg(fci);
         expected << Text("Zařadit do kruhu") << Text("  10001 Zadní") << Text("  10002 [x] Přední")
                  << Text("602 Odstranit plemeno (-)") << Text("603 Přejít na plemeno ve stromečku");
         QStringList lines = platform.LastMenuLines();
-        lines.replaceInStrings(QStringLiteral("  [x] FCI 2"), QStringLiteral("  0 [x] FCI 2"));
+        lines.replaceInStrings(u"  [x] FCI 2"_s, u"  0 [x] FCI 2"_s);
         EXPECT_EQ(lines, expected);
     });
 }
@@ -467,7 +470,7 @@ TEST_F(BreedRegisterTest, ABlankWithinATypedNameTicksNothingAndOneOfItsOwnDoes) 
     const int usual = QApplication::keyboardInputInterval();
     OpenRegister([&](QWidget&) {
         QApplication::setKeyboardInputInterval(60'000);
-        QTest::keyClicks(&Tree(), QStringLiteral("jack "));
+        QTest::keyClicks(&Tree(), u"jack "_s);
         EXPECT_EQ(Selected(), jack);
         EXPECT_FALSE(Node(jack).checked);
         QApplication::setKeyboardInputInterval(1);

@@ -8,6 +8,9 @@
 #include <QHeaderView>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class CompetitionsTest : public SetupTest {
@@ -226,7 +229,7 @@ TEST_F(CompetitionsTest, ThePriceTakesDigitsAndAPastedTextIsRefusedByName) {
             QLineEdit& price = Box(editor, "txtNazev(3)");
             price.setFocus();
             price.selectAll();
-            QTest::keyClicks(&price, QStringLiteral("1x2"));
+            QTest::keyClicks(&price, u"1x2"_s);
             EXPECT_EQ(price.text(), u"12");
             QApplication::clipboard()->setText(Text("moc"));
             price.selectAll();

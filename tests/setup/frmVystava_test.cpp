@@ -10,6 +10,9 @@
 #include <QStackedWidget>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ShowEditorTest : public SetupTest {
@@ -37,7 +40,7 @@ class ShowEditorTest : public SetupTest {
         ChangeRow(TheDataModule().rsrsQuery1, "Vystavy", show,
                   {{(std::string("Poplatky") + part).c_str(), Currency::FromUnits(units)}});
     }
-    QString IniPath() const { return platform.ProgramFolder() + QStringLiteral("/Lorvosys.ini"); }
+    QString IniPath() const { return platform.ProgramFolder() + u"/Lorvosys.ini"_s; }
     void WriteIni(const QByteArray& bytes) const {
         QFile file(IniPath());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -265,7 +268,7 @@ TEST_F(ShowEditorTest, APastedTextThatIsNoAmountIsRefusedByTheNameOfItsBox) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         QLineEdit& box = Price(window, 2, 5);
         box.setFocus();
-        QTest::keyClicks(&box, QStringLiteral("a-1"));
+        QTest::keyClicks(&box, u"a-1"_s);
         EXPECT_EQ(box.text(), u"1");
         QApplication::clipboard()->setText(Text("zdarma"));
         box.selectAll();
@@ -286,7 +289,7 @@ TEST_F(ShowEditorTest, TheSimpleGridTakesLettersAndIsRefusedByItsOwnName) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         QLineEdit& box = Price(window, 1, 19);
         box.setFocus();
-        QTest::keyClicks(&box, QStringLiteral("x"));
+        QTest::keyClicks(&box, u"x"_s);
         EXPECT_EQ(box.text(), u"x");
         platform.ExpectMessage(Text(
             "Další pes, I. uzávěrka: Text „x“ není částka, zapište ji například jako 1234,50."));

@@ -9,6 +9,9 @@
 #include <map>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray ReadAll(const QString& path) {
@@ -25,7 +28,7 @@ void WriteAll(const QString& path, const QByteArray& bytes) {
 
 class BadFileTest : public ::testing::Test {
   protected:
-    QString Path() const { return folder.filePath(u"data.mdb"_qs); }
+    QString Path() const { return folder.filePath(u"data.mdb"_s); }
 
     /// Every file of the folder with its bytes.
     std::map<QString, QByteArray> Contents() const {
@@ -54,7 +57,7 @@ TEST_F(BadFileTest, RefusesAMissingFile) {
 }
 
 TEST_F(BadFileTest, RefusesAFolderOfThatName) {
-    QDir(folder.path()).mkdir(u"data.mdb"_qs);
+    QDir(folder.path()).mkdir(u"data.mdb"_s);
     ExpectRefused("na místě souboru je složka");
 }
 
@@ -159,11 +162,11 @@ class ConnectionTest : public StoreTest {
 TEST_F(ConnectionTest, TheFolderHoldsTheFileAloneAfterTheEnd) {
     module.rsKruhy.Open("SELECT * FROM Kruhy");
     module.rsKruhy.AddNew();
-    module.rsKruhy.Set("Nazev", u"Kruh 1"_qs);
+    module.rsKruhy.Set("Nazev", u"Kruh 1"_s);
     module.rsKruhy.Update();
     EXPECT_GT(Files().size(), 1); // the journal of the run
     module.Conn1.Close();
-    EXPECT_EQ(Files(), QStringList{u"data.mdb"_qs});
+    EXPECT_EQ(Files(), QStringList{u"data.mdb"_s});
     const QByteArray header = ReadAll(database.Path()).left(20);
     EXPECT_EQ(header[18], '\1'); // no write-ahead log is asked for by the file itself
     EXPECT_EQ(header[19], '\1');
@@ -193,11 +196,11 @@ TEST_F(ConnectionTest, ClosesWhileAnotherProgramReads) {
     module.Conn1.Open(database.Path());
     EXPECT_EQ(ValueOf("SELECT COUNT(*) FROM Kruhy"), "1");
     module.Conn1.Close();
-    EXPECT_EQ(Files(), QStringList{u"data.mdb"_qs});
+    EXPECT_EQ(Files(), QStringList{u"data.mdb"_s});
 }
 
 TEST_F(ConnectionTest, OpensInAFolderWithBlanksAccentsAndPercentSigns) {
-    const QString folder = database.Folder() + u"/Výstava 100 % #1?"_qs;
+    const QString folder = database.Folder() + u"/Výstava 100 % #1?"_s;
     QDir().mkpath(folder);
     Connection connection;
     connection.Open(TempDatabase::CopyTo(folder));
@@ -213,7 +216,7 @@ TEST_F(ConnectionTest, ADatabaseThatLacksATableOpensAndFailsWhereItIsAskedFor) {
 }
 
 TEST(QuotedTest, DoublesInnerQuotes) {
-    EXPECT_EQ(Quoted(u"O'Hara"_qs), "'O''Hara'");
+    EXPECT_EQ(Quoted(u"O'Hara"_s), "'O''Hara'");
     EXPECT_EQ(Quoted(QString()), "''");
     EXPECT_EQ(Number(-12), "-12");
 }

@@ -8,6 +8,9 @@
 #include <QFile>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Table = std::vector<Strings>;
@@ -59,14 +62,14 @@ TEST(DataBuilderTest, TheSameTextsGiveTheSameBytes) {
         file.open(QIODevice::ReadOnly);
         return file.readAll();
     };
-    const QByteArray first = build(u"1"_qs);
+    const QByteArray first = build(u"1"_s);
     EXPECT_TRUE(first.startsWith("SQLite format 3"));
-    EXPECT_EQ(build(u"2"_qs), first);
+    EXPECT_EQ(build(u"2"_s), first);
 }
 
 TEST(DataBuilderTest, RefusesAListThatIsNone) {
     const QTemporaryDir folder;
-    const std::string path = folder.filePath(u"1"_qs).toStdString();
+    const std::string path = folder.filePath(u"1"_s).toStdString();
     EXPECT_THROW(BuildDeliveredDatabase(path, "", "number,group\n166,1\n"), std::runtime_error);
 }
 

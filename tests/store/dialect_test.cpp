@@ -4,6 +4,9 @@
 #include "store/store_test.h"
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DialectTest : public StoreTest {
@@ -174,7 +177,7 @@ TEST_F(DialectTest, KnowsNamesWithAccentsInAnyLetterCase) {
                      "INSERT INTO Třídy VALUES (1, 'mladých')");
     database.Reopen();
     module.rsrsQuery1.Open("SELECT OZNAČENÍ FROM třídy WHERE TŘÍDY!označení = 'mladých'");
-    EXPECT_EQ(module.rsrsQuery1.Field("označenÍ").ToText(), u"mladých"_qs);
+    EXPECT_EQ(module.rsrsQuery1.Field("označenÍ").ToText(), u"mladých"_s);
 }
 
 TEST_F(DialectTest, DeletesWithOrWithoutTheStar) {

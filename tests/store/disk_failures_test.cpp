@@ -12,6 +12,9 @@
 #include <thread>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using test::DiskCall;
@@ -37,8 +40,8 @@ TEST_F(DiskFailuresTest, AFailedWriteNamesFileCauseAndWhatToDo) {
         disk.before = [code](int, const DiskCall& call) {
             return call.kind == DiskCall::Kind::Write ? code : 0;
         };
-        EXPECT_THROW(InsertRing(u"Kruh"_qs), DiskError);
-        return FailureOf([] { InsertRing(u"Kruh"_qs); });
+        EXPECT_THROW(InsertRing(u"Kruh"_s), DiskError);
+        return FailureOf([] { InsertRing(u"Kruh"_s); });
     };
     const std::string full = failureOf(ENOSPC);
     EXPECT_NE(full.find(database.Path().toStdString() + ": na disku není místo"), std::string::npos)
@@ -49,7 +52,7 @@ TEST_F(DiskFailuresTest, AFailedWriteNamesFileCauseAndWhatToDo) {
     const std::string broken = failureOf(EIO);
     EXPECT_NE(broken.find("disk nelze číst ani zapisovat"), std::string::npos) << broken;
     disk.before = nullptr;
-    InsertRing(u"Kruh"_qs); // and goes on when the disk does
+    InsertRing(u"Kruh"_s); // and goes on when the disk does
     EXPECT_EQ(ValueOf("SELECT COUNT(*) FROM Kruhy"), "1");
 }
 
@@ -58,7 +61,7 @@ TEST_F(DiskFailuresTest, OneThatIsSkippedIsKeptToBeSaidOnce) {
     disk.before = [](int, const DiskCall&) {
         return ENOSPC;
     };
-    EXPECT_FALSE(SkipFailure([] { InsertRing(u"Kruh"_qs); }));
+    EXPECT_FALSE(SkipFailure([] { InsertRing(u"Kruh"_s); }));
     disk.before = nullptr;
     EXPECT_FALSE(SkipFailure([] { ValueOf("SELECT Nic FROM Kruhy"); })); // a statement's own fault
     EXPECT_TRUE(TakeSkippedDiskFailure().contains(u"na disku není místo"));
@@ -75,7 +78,7 @@ TEST_F(DiskFailuresTest, ALockOfSecondsIsWaitedForUnderTheWaitCursor) {
         std::this_thread::sleep_for(std::chrono::milliseconds(3300));
         backup.exec("COMMIT");
     });
-    InsertRing(u"Kruh"_qs);
+    InsertRing(u"Kruh"_s);
     end.join();
     ThePlatform().ui.reset();
     EXPECT_EQ(ValueOf("SELECT COUNT(*) FROM Kruhy"), "1");

@@ -8,7 +8,12 @@
 #include <cstdlib>
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Report() {
@@ -63,9 +68,9 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const std::map<QString, void (*)(const QString&)> ways = {
-        {u"Singly"_qs, lorvo::EditSingly},
-        {u"InShortRuns"_qs, lorvo::EditInShortRuns},
-        {u"InLongRuns"_qs, lorvo::EditInLongRuns},
+        {u"Singly"_s, lorvo::EditSingly},
+        {u"InShortRuns"_s, lorvo::EditInShortRuns},
+        {u"InLongRuns"_s, lorvo::EditInLongRuns},
     };
     if (arguments.size() != 3 || !ways.contains(arguments[1]))
         return 2;

@@ -8,6 +8,9 @@
 #include <thread>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A child that edits a database until it is killed, and reports each edit that has returned.
@@ -15,7 +18,7 @@ class Editor {
   public:
     Editor(const QString& path, const char* way) {
         child_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        child_.start(QCoreApplication::applicationDirPath() + u"/edit_until_killed"_qs,
+        child_.start(QCoreApplication::applicationDirPath() + u"/edit_until_killed"_s,
                      {QString::fromLatin1(way), path}, QIODevice::ReadOnly);
         if (!child_.waitForStarted())
             throw std::runtime_error("edit_until_killed does not start");

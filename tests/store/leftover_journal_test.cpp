@@ -13,11 +13,14 @@
 #include <unistd.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LeftoverJournalTest : public ::testing::Test {
   protected:
-    QString Path() const { return folder.filePath(u"data.mdb"_qs); }
+    QString Path() const { return folder.filePath(u"data.mdb"_s); }
 
     std::map<QString, QByteArray> Contents() const {
         std::map<QString, QByteArray> contents;
@@ -126,7 +129,7 @@ TEST_F(LeftoverJournalTest, ARollbackJournalIsTakenUp) {
     module.Conn1.Open(Path());
     module.rsKruhy.Open("SELECT * FROM Kruhy");
     EXPECT_EQ(module.rsKruhy.RecordCount(), 1);
-    EXPECT_EQ(module.rsKruhy.Field("Nazev").ToText(), u"dřív"_qs);
+    EXPECT_EQ(module.rsKruhy.Field("Nazev").ToText(), u"dřív"_s);
 }
 
 TEST_F(LeftoverJournalTest, AFileCutBesideItsRollbackJournalIsRefusedUntouched) {
@@ -140,7 +143,7 @@ TEST_F(LeftoverJournalTest, TheCompletedContentIsWhatTheEngineMakesOfBoth) {
     const QByteArray completed = CompletedContent(Path());
     SQLite::Database(Path().toStdString(), SQLite::OPEN_READWRITE)
         .exec("PRAGMA wal_checkpoint(TRUNCATE); PRAGMA journal_mode = DELETE");
-    const QByteArray made = Contents().at(u"data.mdb"_qs);
+    const QByteArray made = Contents().at(u"data.mdb"_s);
     EXPECT_EQ(completed.size(), made.size());
     // Behind the first page, which counts its changes, all is the same.
     EXPECT_EQ(completed.mid(4096), made.mid(4096));
@@ -165,10 +168,10 @@ TEST_F(LeftoverJournalTest, WhatIsFoundDamagedLaterIsNotWrittenToAtTheEnd) {
     module.rsKruhy.Open("SELECT * FROM Kruhy");
     module.rsKruhy.AddNew();
     module.rsKruhy.Update();
-    const QByteArray before = Contents().at(u"data.mdb"_qs);
+    const QByteArray before = Contents().at(u"data.mdb"_s);
     EXPECT_THROW(module.rsPsi.Open("SELECT * FROM Psi"), CorruptStoreError);
     module.Conn1.Close();
-    EXPECT_EQ(Contents().at(u"data.mdb"_qs), before);
+    EXPECT_EQ(Contents().at(u"data.mdb"_s), before);
     EXPECT_TRUE(HasLeftoverJournal(Path())); // the ring stands there
 }
 

@@ -4,6 +4,9 @@
 #include "store/store_test.h"
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class QueryTest : public StoreTest {
@@ -22,10 +25,10 @@ TEST_F(QueryTest, ReadsTypedCells) {
     EXPECT_EQ(row.Int(0), 10);
     EXPECT_EQ(row.Date(1).ToIso(), "2005-05-14T08:30:00");
     EXPECT_EQ(row.Amount(2), Currency::FromRaw(1005000));
-    EXPECT_EQ(row.Text(3), u"účet"_qs);
+    EXPECT_EQ(row.Text(3), u"účet"_s);
     EXPECT_TRUE(row.Bool(4));
     EXPECT_EQ(row.Cell(2), Value(Currency::FromRaw(1005000)));
-    EXPECT_EQ(row.Text(2), u"100.5"_qs);
+    EXPECT_EQ(row.Text(2), u"100.5"_s);
     EXPECT_EQ(row.Amount(0), Currency::FromUnits(10));
     EXPECT_FALSE(row.Next());
 }
@@ -55,7 +58,7 @@ TEST_F(QueryTest, TakesValuesForQuestionMarks) {
         idsOf("SELECT ID FROM Uhrady WHERE Kc = ? OR ID = ?", {Currency::FromRaw(1005000), 2}),
         (IDs{1, 2}));
     EXPECT_EQ(idsOf("SELECT ID FROM Uhrady WHERE Kc < ?", {100}), (IDs{3}));
-    EXPECT_EQ(idsOf("SELECT ID FROM Uhrady WHERE Ucet = ?", {u"účet"_qs}), (IDs{1}));
+    EXPECT_EQ(idsOf("SELECT ID FROM Uhrady WHERE Ucet = ?", {u"účet"_s}), (IDs{1}));
     EXPECT_EQ(idsOf("SELECT ID FROM Uhrady WHERE Printed = ?", {true}), (IDs{1}));
     EXPECT_EQ(idsOf("SELECT ID FROM Uhrady WHERE ID_Psa = ?", {Value()}), (IDs{}));
     EXPECT_THROW(idsOf("SELECT ID FROM Uhrady WHERE ID = ?", {}), StoreError);

@@ -3,6 +3,9 @@
 #include "store/store_test.h"
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class RecordSetTest : public StoreTest {
@@ -21,13 +24,13 @@ class RecordSetTest : public StoreTest {
 };
 
 TEST_F(RecordSetTest, StandsOnTheFirstRowAndWalksToTheEnd) {
-    AddDog(u"Asta"_qs);
-    AddDog(u"Bery"_qs);
+    AddDog(u"Asta"_s);
+    AddDog(u"Bery"_s);
     module.rsPsi.Open("SELECT * FROM Psi");
     EXPECT_EQ(module.rsPsi.RecordCount(), 2);
-    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Asta"_qs);
+    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Asta"_s);
     module.rsPsi.MoveNext();
-    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Bery"_qs);
+    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Bery"_s);
     EXPECT_FALSE(module.rsPsi.Eof());
     module.rsPsi.MoveNext();
     EXPECT_TRUE(module.rsPsi.Eof());
@@ -36,17 +39,17 @@ TEST_F(RecordSetTest, StandsOnTheFirstRowAndWalksToTheEnd) {
 }
 
 TEST_F(RecordSetTest, KnowsFieldsByNameInAnyLetterCaseAndByPosition) {
-    AddDog(u"Asta"_qs);
+    AddDog(u"Asta"_s);
     module.rsPsi.Open("SELECT ID, jMENO FROM pSI");
-    EXPECT_EQ(module.rsPsi.Field("JMENO").ToText(), u"Asta"_qs);
-    EXPECT_EQ(module.rsPsi.Field(1).ToText(), u"Asta"_qs);
+    EXPECT_EQ(module.rsPsi.Field("JMENO").ToText(), u"Asta"_s);
+    EXPECT_EQ(module.rsPsi.Field(1).ToText(), u"Asta"_s);
     EXPECT_THROW(module.rsPsi.Field(2), StoreError);
     EXPECT_THROW(module.rsPsi.Field(-1), StoreError);
     EXPECT_NE(FailureOf([&] { module.rsPsi.Field("Barva"); }).find("Barva"), std::string::npos);
 }
 
 TEST_F(RecordSetTest, GivesTheFirstOfSeveralFieldsOfOneName) {
-    const int dog = AddDog(u"Asta"_qs);
+    const int dog = AddDog(u"Asta"_s);
     database.Execute("INSERT INTO Majitele (ID, Jmeno) VALUES (70, 'Jan');"
                      "UPDATE Psi SET MajitelID = 70");
     module.rsPsi.Open("SELECT Psi.ID, Majitele.ID, Majitele.Jmeno FROM Psi, Majitele "
@@ -62,10 +65,10 @@ TEST_F(RecordSetTest, OpensEmptySets) {
 }
 
 TEST_F(RecordSetTest, ReadsTheNewIDRightBehindTheUpdate) {
-    EXPECT_EQ(AddDog(u"Asta"_qs), 1);
-    EXPECT_EQ(AddDog(u"Bery"_qs), 2);
+    EXPECT_EQ(AddDog(u"Asta"_s), 1);
+    EXPECT_EQ(AddDog(u"Bery"_s), 2);
     module.rsPsi.Open("DELETE * FROM Psi WHERE ID = 2");
-    EXPECT_EQ(AddDog(u"Cora"_qs), 3); // never given twice
+    EXPECT_EQ(AddDog(u"Cora"_s), 3); // never given twice
 }
 
 TEST_F(RecordSetTest, AddsANewRowToTheOpenSetWithTheDefaultsOfTheTable) {
@@ -91,27 +94,27 @@ TEST_F(RecordSetTest, AddsRowsToATableWithoutAnID) {
 }
 
 TEST_F(RecordSetTest, ChangesOnlyTheCurrentRow) {
-    AddDog(u"Asta"_qs);
-    AddDog(u"Bery"_qs);
+    AddDog(u"Asta"_s);
+    AddDog(u"Bery"_s);
     module.rsPsi.Open("SELECT * FROM Psi ORDER BY Jmeno DESC");
     module.rsPsi.Set("Cislo", 7);
     EXPECT_EQ(module.rsPsi.Field("Cislo").ToInt(), 7);
     module.rsPsi.Update();
     module.rsPsi.Open("SELECT Jmeno FROM Psi WHERE Cislo = 7");
     EXPECT_EQ(module.rsPsi.RecordCount(), 1);
-    EXPECT_EQ(module.rsPsi.Field(0).ToText(), u"Bery"_qs);
+    EXPECT_EQ(module.rsPsi.Field(0).ToText(), u"Bery"_s);
 }
 
 TEST_F(RecordSetTest, RefusesToWalkOnFromAnUnsavedEdit) {
-    AddDog(u"Asta"_qs);
+    AddDog(u"Asta"_s);
     module.rsPsi.Open("SELECT * FROM Psi");
     module.rsPsi.Set("Cislo", 7);
     EXPECT_THROW(module.rsPsi.MoveNext(), StoreError);
 }
 
 TEST_F(RecordSetTest, ADeletionLeavesTheSetShut) {
-    AddDog(u"Asta"_qs);
-    AddDog(u"Bery"_qs);
+    AddDog(u"Asta"_s);
+    AddDog(u"Bery"_s);
     module.rsPsi.Open("DELETE * FROM Psi WHERE ID = 1");
     EXPECT_FALSE(module.rsPsi.IsOpen());
     EXPECT_THROW(module.rsPsi.Eof(), StoreError);
@@ -120,7 +123,7 @@ TEST_F(RecordSetTest, ADeletionLeavesTheSetShut) {
 }
 
 TEST_F(RecordSetTest, OpenClosesASetThatAFailureLeftOpen) {
-    AddDog(u"Asta"_qs);
+    AddDog(u"Asta"_s);
     module.rsPsi.Open("SELECT * FROM Psi");
     module.rsPsi.AddNew();
     module.rsPsi.Open("SELECT COUNT(*) FROM Psi");
@@ -130,21 +133,21 @@ TEST_F(RecordSetTest, OpenClosesASetThatAFailureLeftOpen) {
 }
 
 TEST_F(RecordSetTest, IsStaticAgainstLaterEdits) {
-    AddDog(u"Asta"_qs);
+    AddDog(u"Asta"_s);
     module.rsPsi.Open("SELECT * FROM Psi");
     module.rsrsQuery1.Open("DELETE * FROM Psi");
     EXPECT_EQ(module.rsPsi.RecordCount(), 1);
-    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Asta"_qs);
+    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Asta"_s);
     module.rsPsi.Set("Cislo", 7);
     EXPECT_THROW(module.rsPsi.Update(), StoreError); // the row is gone
 }
 
 TEST_F(RecordSetTest, TakesEditsOnlyFromAPlainSelectOnAnUpdatableSet) {
-    AddDog(u"Asta"_qs);
+    AddDog(u"Asta"_s);
     module.rsPsi.Open("SELECT COUNT(*) FROM Psi");
     EXPECT_THROW(module.rsPsi.AddNew(), StoreError);
     module.rsPsi.Open("SELECT DISTINCT Otec FROM Psi");
-    EXPECT_THROW(module.rsPsi.Set("Otec", u"Rek"_qs), StoreError);
+    EXPECT_THROW(module.rsPsi.Set("Otec", u"Rek"_s), StoreError);
     module.rsPsi.Open("SELECT Psi.ID FROM Psi, Plemena");
     EXPECT_THROW(module.rsPsi.AddNew(), StoreError);
     module.rsVazby_Trida.Open("SELECT * FROM Vazby_Trida");
@@ -153,18 +156,18 @@ TEST_F(RecordSetTest, TakesEditsOnlyFromAPlainSelectOnAnUpdatableSet) {
 }
 
 TEST_F(RecordSetTest, ConvertsToTheTypeOfTheField) {
-    AddDog(u"Asta"_qs);
+    AddDog(u"Asta"_s);
     module.rsPsi.Open("SELECT * FROM Psi");
     module.rsPsi.Set("PohlaviPes", 1);
     module.rsPsi.Set("PrvniPes", true);
-    module.rsPsi.Set("Trida", u" 12 "_qs);
+    module.rsPsi.Set("Trida", u" 12 "_s);
     module.rsPsi.Set("DatumNar", 0);
     module.rsPsi.Set("Poznamka", 5);
     module.rsPsi.Update();
     EXPECT_EQ(module.rsPsi.Field("PohlaviPes"), Value(true));
     EXPECT_EQ(module.rsPsi.Field("Trida"), Value(12));
     EXPECT_EQ(module.rsPsi.Field("DatumNar"), Value(DateValue()));
-    EXPECT_EQ(module.rsPsi.Field("Poznamka"), Value(u"5"_qs));
+    EXPECT_EQ(module.rsPsi.Field("Poznamka"), Value(u"5"_s));
     // In the file true is -1, so that it sorts before false.
     module.rsPsi.Open("SELECT SUM(PohlaviPes) FROM Psi");
     EXPECT_EQ(module.rsPsi.Field(0).ToInt(), -1);
@@ -173,7 +176,7 @@ TEST_F(RecordSetTest, ConvertsToTheTypeOfTheField) {
 TEST_F(RecordSetTest, StoresAmountsExactlyFromTextAndFromNumbers) {
     module.rsSouteze.Open("SELECT * FROM Souteze");
     module.rsSouteze.AddNew();
-    module.rsSouteze.Set("Cena", u"1234,5678"_qs);
+    module.rsSouteze.Set("Cena", u"1234,5678"_s);
     module.rsSouteze.Update();
     EXPECT_EQ(module.rsSouteze.Field("Cena"), Value(Currency::FromRaw(12345678)));
     module.rsSouteze.Set("Cena", 300);
@@ -189,9 +192,9 @@ TEST_F(RecordSetTest, NamesTheFieldThatAValueDoesNotFit) {
         const char* field;
         Value value;
     };
-    const Case cases[] = {{"Trida", u"tři"_qs},           {"Trida", u"99999999999"_qs},
-                          {"MajitelID", qint64{1} << 40}, {"DatumNar", u"včera"_qs},
-                          {"DatumNar", 99999999},         {"Jmeno", QString(256, u'a')}};
+    const Case cases[] = {
+        {"Trida", u"tři"_s},      {"Trida", u"99999999999"_s}, {"MajitelID", qint64{1} << 40},
+        {"DatumNar", u"včera"_s}, {"DatumNar", 99999999},      {"Jmeno", QString(256, u'a')}};
     module.rsPsi.Open("SELECT * FROM Psi");
     module.rsPsi.AddNew();
     for (const Case& each : cases)
@@ -199,11 +202,11 @@ TEST_F(RecordSetTest, NamesTheFieldThatAValueDoesNotFit) {
                   std::string::npos);
     module.rsVystavy.Open("SELECT * FROM Vystavy");
     module.rsVystavy.AddNew();
-    EXPECT_THROW(module.rsVystavy.Set("PoplatkyIClass1D1", u"zdarma"_qs), StoreError);
+    EXPECT_THROW(module.rsVystavy.Set("PoplatkyIClass1D1", u"zdarma"_s), StoreError);
 }
 
 TEST_F(RecordSetTest, KeepsNullApartFromAnEmptyText) {
-    AddDog(QString(u""_qs));
+    AddDog(QString(u""_s));
     module.rsPsi.Open("SELECT Jmeno, Otec FROM Psi WHERE Otec IS NULL AND NOT (Jmeno IS NULL)");
     ASSERT_EQ(module.rsPsi.RecordCount(), 1);
     EXPECT_FALSE(module.rsPsi.Field(0).IsNull());
@@ -215,8 +218,8 @@ TEST_F(RecordSetTest, KeepsNullApartFromAnEmptyText) {
 }
 
 TEST_F(RecordSetTest, KeepsAnyTextAsItIs) {
-    const QString texts[] = {u"O'Hara"_qs,        u"\"Rek\" z Dvora; --"_qs, u"Ňuf 'ch' ŘŽ"_qs,
-                             u"řádek\njiný\t"_qs, QString(255, u'ž'),        u"\U0001F415"_qs};
+    const QString texts[] = {u"O'Hara"_s,        u"\"Rek\" z Dvora; --"_s, u"Ňuf 'ch' ŘŽ"_s,
+                             u"řádek\njiný\t"_s, QString(255, u'ž'),       u"\U0001F415"_s};
     for (const QString& text : texts) {
         const int id = AddDog(text);
         module.rsPsi.Open("SELECT * FROM Psi WHERE Jmeno = " + Quoted(text));
@@ -227,13 +230,13 @@ TEST_F(RecordSetTest, KeepsAnyTextAsItIs) {
 }
 
 TEST_F(RecordSetTest, AFailedUpdateLeavesTheSetUsable) {
-    AddDog(u"Asta"_qs);
+    AddDog(u"Asta"_s);
     module.rsPsi.Open("SELECT * FROM Psi");
     module.rsPsi.AddNew();
     module.rsPsi.Set("ID", 1); // there is one already
     EXPECT_THROW(module.rsPsi.Update(), StoreError);
     EXPECT_EQ(module.rsPsi.RecordCount(), 1);
-    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Asta"_qs);
+    EXPECT_EQ(module.rsPsi.Field("Jmeno").ToText(), u"Asta"_s);
 }
 
 TEST_F(RecordSetTest, NeedsAnOpenConnection) {

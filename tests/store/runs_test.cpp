@@ -7,6 +7,9 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class RunsTest : public StoreTest {
@@ -110,7 +113,7 @@ TEST_F(RunsTest, ARowCanBeEditedWhileAQueryStandsOnIt) {
     int walked = 0;
     for (; rings.Next(); ++walked) {
         module.rsKruhy.Open("SELECT * FROM Kruhy WHERE ID = " + Number(rings.Int(0)));
-        module.rsKruhy.Set("Nazev", u"x"_qs);
+        module.rsKruhy.Set("Nazev", u"x"_s);
         module.rsKruhy.Update();
     }
     EXPECT_EQ(walked, 5);

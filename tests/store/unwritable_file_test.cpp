@@ -9,6 +9,9 @@
 #include <unistd.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray BytesOf(const QString& path) {
@@ -53,7 +56,7 @@ TEST(UnwritableFileTest, AFileOrAFolderThatCannotBeWrittenIsRefusedUntouched) {
     QFile::setPermissions(folder.path(), kAllRead | kAllEnter | kAllWrite);
     EXPECT_EQ(BytesOf(path), before);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
-              QStringList(u"data.mdb"_qs));
+              QStringList(u"data.mdb"_s));
 }
 
 } // namespace

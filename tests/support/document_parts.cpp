@@ -5,6 +5,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ClosedZip {
@@ -18,8 +20,8 @@ Zip OpenZip(const QString& path) {
 
 QString TextOf(const QDomElement& paragraph) {
     QString text;
-    for (QDomElement run = paragraph.firstChildElement(QStringLiteral("w:r")); !run.isNull();
-         run = run.nextSiblingElement(QStringLiteral("w:r"))) {
+    for (QDomElement run = paragraph.firstChildElement(u"w:r"_s); !run.isNull();
+         run = run.nextSiblingElement(u"w:r"_s)) {
         for (QDomElement child = run.firstChildElement(); !child.isNull();
              child = child.nextSiblingElement()) {
             if (child.tagName() == u"w:t")
@@ -27,7 +29,7 @@ QString TextOf(const QDomElement& paragraph) {
             if (child.tagName() == u"w:tab")
                 text += u'\t';
             if (child.tagName() == u"w:br")
-                text += QStringLiteral("{%1}").arg(child.attribute(QStringLiteral("w:type")));
+                text += u"{%1}"_s.arg(child.attribute(u"w:type"_s));
         }
     }
     return text;
@@ -36,7 +38,7 @@ QString TextOf(const QDomElement& paragraph) {
 } // namespace
 
 QString DocumentDesk::Document(const std::function<void(WordProcessor&)>& type) {
-    const auto word = processors.Create(QStringLiteral("Katalog"));
+    const auto word = processors.Create(u"Katalog"_s);
     type(*word);
     return word->Show().path;
 }
@@ -73,8 +75,8 @@ QDomElement PartOf(const QString& path, const QString& entry) {
 
 QStringList ParagraphsOf(const QString& path) {
     QStringList texts;
-    const QDomElement root = PartOf(path, QStringLiteral("word/document.xml"));
-    for (const QDomElement& paragraph : Elements(root, QStringLiteral("w:p")))
+    const QDomElement root = PartOf(path, u"word/document.xml"_s);
+    for (const QDomElement& paragraph : Elements(root, u"w:p"_s))
         texts.append(TextOf(paragraph));
     return texts;
 }
@@ -89,18 +91,15 @@ QList<QDomElement> Elements(const QDomElement& root, const QString& name) {
 
 QString StyleOf(const QDomElement& paragraphOrRun) {
     const bool paragraph = paragraphOrRun.tagName() == u"w:p";
-    const QDomElement style =
-        paragraphOrRun
-            .firstChildElement(paragraph ? QStringLiteral("w:pPr") : QStringLiteral("w:rPr"))
-            .firstChildElement(paragraph ? QStringLiteral("w:pStyle") : QStringLiteral("w:rStyle"));
-    return style.attribute(QStringLiteral("w:val"),
-                           paragraph ? QStringLiteral("Normal") : QString());
+    const QDomElement style = paragraphOrRun.firstChildElement(paragraph ? u"w:pPr"_s : u"w:rPr"_s)
+                                  .firstChildElement(paragraph ? u"w:pStyle"_s : u"w:rStyle"_s);
+    return style.attribute(u"w:val"_s, paragraph ? u"Normal"_s : QString());
 }
 
 QDomElement StyleNamed(const QString& path, const QString& id) {
-    const QDomElement root = PartOf(path, QStringLiteral("word/styles.xml"));
-    for (const QDomElement& style : Elements(root, QStringLiteral("w:style")))
-        if (style.attribute(QStringLiteral("w:styleId")) == id)
+    const QDomElement root = PartOf(path, u"word/styles.xml"_s);
+    for (const QDomElement& style : Elements(root, u"w:style"_s))
+        if (style.attribute(u"w:styleId"_s) == id)
             return style;
     ADD_FAILURE() << "no style " << id.toStdString();
     return {};
@@ -108,7 +107,7 @@ QDomElement StyleNamed(const QString& path, const QString& id) {
 
 QString Setting(const QDomElement& root, const QString& element, const QString& name) {
     const QList<QDomElement> found = Elements(root, element);
-    return found.isEmpty() ? QString() : found.first().attribute(QStringLiteral("w:") + name);
+    return found.isEmpty() ? QString() : found.first().attribute(u"w:"_s + name);
 }
 
 } // namespace lorvo::test

@@ -8,6 +8,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kTimeout = 120000;
@@ -24,9 +26,7 @@ OutputOf(const QString& program, const QStringList& arguments,
 }
 
 QStringList PagesOf(const QStringList& arguments) {
-    QStringList pages =
-        OutputOf(QStringLiteral("pdftotext"), arguments + QStringList{QStringLiteral("-")})
-            .split(u'\f');
+    QStringList pages = OutputOf(u"pdftotext"_s, arguments + QStringList{u"-"_s}).split(u'\f');
     pages.removeLast(); // the text behind the last page's end
     return pages;
 }
@@ -41,47 +41,43 @@ struct FontSource {
 FontSource SourceOf(FontSet fonts) {
     switch (fonts) {
     case FontSet::Liberation:
-        return {QStringLiteral("Liberation"), QStringLiteral("truetype/liberation"),
-                QStringLiteral("Liberation Sans"), QStringLiteral("Liberation Serif")};
+        return {u"Liberation"_s, u"truetype/liberation"_s, u"Liberation Sans"_s,
+                u"Liberation Serif"_s};
     case FontSet::Urw:
-        return {QStringLiteral("URW"), QStringLiteral("opentype/urw-base35"),
-                QStringLiteral("Nimbus Sans"), QStringLiteral("Nimbus Roman")};
+        return {u"URW"_s, u"opentype/urw-base35"_s, u"Nimbus Sans"_s, u"Nimbus Roman"_s};
     case FontSet::DejaVu:
         break;
     }
-    return {QStringLiteral("DejaVu"), QStringLiteral("truetype/dejavu"),
-            QStringLiteral("DejaVu Sans"), QStringLiteral("DejaVu Serif")};
+    return {u"DejaVu"_s, u"truetype/dejavu"_s, u"DejaVu Sans"_s, u"DejaVu Serif"_s};
 }
 
 /// What a system says of a font that it lacks.
 QString StandIn(const QString& family, const QString& other) {
-    return QStringLiteral("<alias binding=\"same\"><family>%1</family>"
-                          "<prefer><family>%2</family></prefer></alias>")
-        .arg(family, other);
+    return u"<alias binding=\"same\"><family>%1</family>"
+           "<prefer><family>%2</family></prefer></alias>"_s.arg(family, other);
 }
 
 /// A configuration that knows the fonts of one folder, and its path.
 QString FontConfiguration(const QString& folder, FontSet fonts) {
     const FontSource source = SourceOf(fonts);
-    const QString fontFolder = QStringLiteral("/usr/share/fonts/") + source.folder;
+    const QString fontFolder = u"/usr/share/fonts/"_s + source.folder;
     EXPECT_TRUE(QFileInfo::exists(fontFolder)) << "no fonts in " << fontFolder.toStdString();
-    QFile file(QStringLiteral("%1/%2.conf").arg(folder, source.name));
+    QFile file(u"%1/%2.conf"_s.arg(folder, source.name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    QString text = QStringLiteral("<?xml version=\"1.0\"?><fontconfig><dir>%1</dir>"
-                                  "<cachedir>%2/%3</cachedir>")
-                       .arg(fontFolder, folder, source.name);
+    QString text = u"<?xml version=\"1.0\"?><fontconfig><dir>%1</dir>"
+                   "<cachedir>%2/%3</cachedir>"_s.arg(fontFolder, folder, source.name);
     for (const char* family : {"Arial", "Tahoma", "sans-serif"})
         text += StandIn(QString::fromUtf8(family), source.sans);
     for (const char* family : {"Times New Roman", "serif"})
         text += StandIn(QString::fromUtf8(family), source.serif);
-    file.write((text + QStringLiteral("</fontconfig>\n")).toUtf8());
+    file.write((text + u"</fontconfig>\n"_s).toUtf8());
     return file.fileName();
 }
 
 } // namespace
 
 bool HasOfficeProgram() {
-    return !QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty();
+    return !QStandardPaths::findExecutable(u"soffice"_s).isEmpty();
 }
 
 QString NameOf(FontSet fonts) {
@@ -91,37 +87,33 @@ QString NameOf(FontSet fonts) {
 QString PdfOf(const QString& document, const QString& profileFolder, FontSet fonts) {
     const QFileInfo info(document);
     MakePdfs({document}, info.path(), profileFolder, fonts);
-    return info.path() + u'/' + info.completeBaseName() + QStringLiteral(".pdf");
+    return info.path() + u'/' + info.completeBaseName() + u".pdf"_s;
 }
 
 void MakePdfs(const QStringList& documents, const QString& folder, const QString& profileFolder,
               FontSet fonts) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("FONTCONFIG_FILE"), FontConfiguration(profileFolder, fonts));
-    OutputOf(
-        QStringLiteral("soffice"),
-        QStringList{QStringLiteral("-env:UserInstallation=file://%1/profile").arg(profileFolder),
-                    QStringLiteral("--headless"), QStringLiteral("--convert-to"),
-                    QStringLiteral("pdf"), QStringLiteral("--outdir"), folder} +
-            documents,
-        environment);
+    environment.insert(u"FONTCONFIG_FILE"_s, FontConfiguration(profileFolder, fonts));
+    OutputOf(u"soffice"_s,
+             QStringList{u"-env:UserInstallation=file://%1/profile"_s.arg(profileFolder),
+                         u"--headless"_s, u"--convert-to"_s, u"pdf"_s, u"--outdir"_s, folder} +
+                 documents,
+             environment);
 }
 
 QString PdfInfo(const QString& pdf) {
-    return OutputOf(QStringLiteral("pdfinfo"), {pdf});
+    return OutputOf(u"pdfinfo"_s, {pdf});
 }
 
 QString PdfFonts(const QString& pdf) {
-    return OutputOf(QStringLiteral("pdffonts"), {pdf});
+    return OutputOf(u"pdffonts"_s, {pdf});
 }
 
 QStringList PdfColumns(const QString& pdf, int width, int columns) {
     QList<QStringList> texts;
     for (int column = 0; column < columns; ++column)
-        texts << PagesOf({QStringLiteral("-layout"), QStringLiteral("-r"), QStringLiteral("72"),
-                          QStringLiteral("-x"), QString::number(column * width),
-                          QStringLiteral("-y"), QStringLiteral("0"), QStringLiteral("-W"),
-                          QString::number(width), QStringLiteral("-H"), QStringLiteral("5000"),
+        texts << PagesOf({u"-layout"_s, u"-r"_s, u"72"_s, u"-x"_s, QString::number(column * width),
+                          u"-y"_s, u"0"_s, u"-W"_s, QString::number(width), u"-H"_s, u"5000"_s,
                           pdf});
     QStringList inOrder;
     for (qsizetype page = 0; page < texts.first().size(); ++page) {
@@ -132,7 +124,7 @@ QStringList PdfColumns(const QString& pdf, int width, int columns) {
 }
 
 QStringList PdfPages(const QString& pdf) {
-    return PagesOf({QStringLiteral("-layout"), pdf});
+    return PagesOf({u"-layout"_s, pdf});
 }
 
 } // namespace lorvo::test

@@ -6,6 +6,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 RecordingMainWindow::RecordingMainWindow() {
     SetTheMainWindow(this);
 }
@@ -49,38 +51,36 @@ QString RecordingMainWindow::ParentNode(const QString& key) const {
 
 void RecordingMainWindow::SelectNode(const QString& key) {
     selected = Find(key).key;
-    calls << QStringLiteral("SelectNode %1").arg(key);
+    calls << u"SelectNode %1"_s.arg(key);
 }
 
 void RecordingMainWindow::MakeNodeVisible(const QString& key) {
-    calls << QStringLiteral("MakeNodeVisible %1").arg(Find(key).key);
+    calls << u"MakeNodeVisible %1"_s.arg(Find(key).key);
 }
 
 void RecordingMainWindow::AddDogNode(const QString& parentKey, int psiID, const QString& text,
                                      bool male) {
-    const QString key = QStringLiteral("P%1").arg(psiID);
+    const QString key = u"P%1"_s.arg(psiID);
     AddNode(key, text, Find(parentKey).key);
-    calls << QStringLiteral("AddDogNode %1 %2 %3 %4")
-                 .arg(parentKey, key, text,
-                      male ? QStringLiteral("male") : QStringLiteral("female"));
+    calls << u"AddDogNode %1 %2 %3 %4"_s.arg(parentKey, key, text, male ? u"male"_s : u"female"_s);
 }
 
 void RecordingMainWindow::SetNodeText(const QString& key, const QString& text) {
     Find(key).text = text;
-    calls << QStringLiteral("SetNodeText %1 %2").arg(key, text);
+    calls << u"SetNodeText %1 %2"_s.arg(key, text);
 }
 
 void RecordingMainWindow::LoadData() {
-    calls << QStringLiteral("LoadData");
+    calls << u"LoadData"_s;
 }
 
 void RecordingMainWindow::ShowNodeInfo(const QString& key) {
-    calls << QStringLiteral("ShowNodeInfo %1").arg(key);
+    calls << u"ShowNodeInfo %1"_s.arg(key);
 }
 
 void RecordingMainWindow::SetItemTitle(const QString& text) {
     title = text;
-    calls << QStringLiteral("SetItemTitle %1").arg(text);
+    calls << u"SetItemTitle %1"_s.arg(text);
 }
 
 } // namespace lorvo::test

@@ -9,10 +9,12 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString& ProgramKey() {
-    static const QString key = QStringLiteral("Software\\Hollow Peak\\Lorvo\\");
+    static const QString key = u"Software\\Hollow Peak\\Lorvo\\"_s;
     return key;
 }
 
@@ -42,16 +44,16 @@ const MenuEntry* FindEntry(const std::vector<MenuEntry>& entries, int number) {
 
 QString LineOf(const MenuEntry& entry) {
     if (entry.separator)
-        return u"---"_qs;
+        return u"---"_s;
     QString line = entry.number != 0 ? QString::number(entry.number) + u' ' : QString();
-    line += (entry.checked ? u"[x] "_qs : QString()) + entry.text;
-    return line + (entry.enabled ? QString() : u" (-)"_qs);
+    line += (entry.checked ? u"[x] "_s : QString()) + entry.text;
+    return line + (entry.enabled ? QString() : u" (-)"_s);
 }
 
 void AppendLines(const std::vector<MenuEntry>& entries, const QString& indent, QStringList& lines) {
     for (const MenuEntry& entry : entries) {
         lines << indent + LineOf(entry);
-        AppendLines(entry.submenu, indent + u"  "_qs, lines);
+        AppendLines(entry.submenu, indent + u"  "_s, lines);
     }
 }
 
@@ -116,7 +118,7 @@ struct RecordingPlatform::Doubles {
             owner_.lastMenu_ = entries;
             if (owner_.expectedMenus_.empty()) {
                 ADD_FAILURE() << "nobody expected a menu: "
-                              << owner_.LastMenuLines().join(u" | "_qs).toStdString();
+                              << owner_.LastMenuLines().join(u" | "_s).toStdString();
                 return 0;
             }
             const ExpectedMenu expected = std::move(owner_.expectedMenus_.front());
@@ -132,7 +134,7 @@ struct RecordingPlatform::Doubles {
             if (number == 0 || (entry && entry->enabled))
                 return number;
             ADD_FAILURE() << "the menu doesn't offer " << number << ": "
-                          << owner_.LastMenuLines().join(u" | "_qs).toStdString();
+                          << owner_.LastMenuLines().join(u" | "_s).toStdString();
             return 0;
         }
         RecordingPlatform& owner_;
@@ -229,7 +231,7 @@ RecordingPlatform::RecordingPlatform() : outer_(std::move(ThePlatform())) {
         std::make_unique<RecordingWordProcessors>(wordOperations, [this](const QString& title) {
             ++shownDocuments;
             documentTitles << title;
-            return ShownDocument{ProgramFolder() + u"/Tisky/"_qs + title + u".docx"_qs, filesOpen};
+            return ShownDocument{ProgramFolder() + u"/Tisky/"_s + title + u".docx"_s, filesOpen};
         });
     platform.ui = std::make_unique<Doubles::Ui>(*this);
 }

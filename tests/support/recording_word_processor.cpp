@@ -4,6 +4,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString LengthText(double length) {
@@ -11,33 +13,33 @@ QString LengthText(double length) {
 }
 
 QString Quoted(QString text) {
-    text.replace(u'\\', u"\\\\"_qs).replace(u'"', u"\\\""_qs).replace(u'\t', u"\\t"_qs);
-    text.replace(u'\r', u"\\r"_qs).replace(u'\n', u"\\n"_qs);
+    text.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s).replace(u'\t', u"\\t"_s);
+    text.replace(u'\r', u"\\r"_s).replace(u'\n', u"\\n"_s);
     return u'"' + text + u'"';
 }
 
 QString SwitchText(FontSwitch value) {
     switch (value) {
     case FontSwitch::Off:
-        return u"Off"_qs;
+        return u"Off"_s;
     case FontSwitch::On:
-        return u"On"_qs;
+        return u"On"_s;
     case FontSwitch::Toggle:
         break;
     }
-    return u"Toggle"_qs;
+    return u"Toggle"_s;
 }
 
 QString AlignmentText(ParagraphAlignment alignment) {
     switch (alignment) {
     case ParagraphAlignment::Left:
-        return u"Left"_qs;
+        return u"Left"_s;
     case ParagraphAlignment::Center:
-        return u"Center"_qs;
+        return u"Center"_s;
     case ParagraphAlignment::Right:
         break;
     }
-    return u"Right"_qs;
+    return u"Right"_s;
 }
 
 class RecordingWordProcessor final : public WordProcessor {
@@ -48,63 +50,61 @@ class RecordingWordProcessor final : public WordProcessor {
 
     void SetOrientation(PageOrientation orientation) override {
         const bool portrait = orientation == PageOrientation::Portrait;
-        Note(u"SetOrientation"_qs, portrait ? u"Portrait"_qs : u"Landscape"_qs);
+        Note(u"SetOrientation"_s, portrait ? u"Portrait"_s : u"Landscape"_s);
     }
     void SetPageSize(double width, double height) override {
-        Note(u"SetPageSize"_qs, LengthText(width) + u' ' + LengthText(height));
+        Note(u"SetPageSize"_s, LengthText(width) + u' ' + LengthText(height));
     }
-    void SetTopMargin(double length) override { Note(u"SetTopMargin"_qs, LengthText(length)); }
-    void SetBottomMargin(double length) override {
-        Note(u"SetBottomMargin"_qs, LengthText(length));
-    }
-    void SetLeftMargin(double length) override { Note(u"SetLeftMargin"_qs, LengthText(length)); }
-    void SetRightMargin(double length) override { Note(u"SetRightMargin"_qs, LengthText(length)); }
-    void SetGutter(double length) override { Note(u"SetGutter"_qs, LengthText(length)); }
+    void SetTopMargin(double length) override { Note(u"SetTopMargin"_s, LengthText(length)); }
+    void SetBottomMargin(double length) override { Note(u"SetBottomMargin"_s, LengthText(length)); }
+    void SetLeftMargin(double length) override { Note(u"SetLeftMargin"_s, LengthText(length)); }
+    void SetRightMargin(double length) override { Note(u"SetRightMargin"_s, LengthText(length)); }
+    void SetGutter(double length) override { Note(u"SetGutter"_s, LengthText(length)); }
     void SetHeaderDistance(double length) override {
-        Note(u"SetHeaderDistance"_qs, LengthText(length));
+        Note(u"SetHeaderDistance"_s, LengthText(length));
     }
     void SetFooterDistance(double length) override {
-        Note(u"SetFooterDistance"_qs, LengthText(length));
+        Note(u"SetFooterDistance"_s, LengthText(length));
     }
     void AddTextColumn(double width, double spacing) override {
-        Note(u"AddTextColumn"_qs, LengthText(width) + u' ' + LengthText(spacing));
+        Note(u"AddTextColumn"_s, LengthText(width) + u' ' + LengthText(spacing));
     }
 
-    void SetFontName(const QString& name) override { Note(u"SetFontName"_qs, Quoted(name)); }
-    void SetFontSize(double points) override { Note(u"SetFontSize"_qs, LengthText(points)); }
-    void SetBold(FontSwitch value) override { Note(u"SetBold"_qs, SwitchText(value)); }
-    void SetItalic(bool on) override { Note(u"SetItalic"_qs, on ? u"On"_qs : u"Off"_qs); }
-    void SetUnderline(bool on) override { Note(u"SetUnderline"_qs, on ? u"On"_qs : u"Off"_qs); }
+    void SetFontName(const QString& name) override { Note(u"SetFontName"_s, Quoted(name)); }
+    void SetFontSize(double points) override { Note(u"SetFontSize"_s, LengthText(points)); }
+    void SetBold(FontSwitch value) override { Note(u"SetBold"_s, SwitchText(value)); }
+    void SetItalic(bool on) override { Note(u"SetItalic"_s, on ? u"On"_s : u"Off"_s); }
+    void SetUnderline(bool on) override { Note(u"SetUnderline"_s, on ? u"On"_s : u"Off"_s); }
 
     void SetAlignment(ParagraphAlignment alignment) override {
-        Note(u"SetAlignment"_qs, AlignmentText(alignment));
+        Note(u"SetAlignment"_s, AlignmentText(alignment));
     }
-    void SetLeftIndent(double points) override { Note(u"SetLeftIndent"_qs, LengthText(points)); }
+    void SetLeftIndent(double points) override { Note(u"SetLeftIndent"_s, LengthText(points)); }
     void SetFirstLineIndent(double points) override {
-        Note(u"SetFirstLineIndent"_qs, LengthText(points));
+        Note(u"SetFirstLineIndent"_s, LengthText(points));
     }
-    void AddTabStop(double position) override { Note(u"AddTabStop"_qs, LengthText(position)); }
-    void ClearTabStop(double position) override { Note(u"ClearTabStop"_qs, LengthText(position)); }
+    void AddTabStop(double position) override { Note(u"AddTabStop"_s, LengthText(position)); }
+    void ClearTabStop(double position) override { Note(u"ClearTabStop"_s, LengthText(position)); }
 
-    void TypeText(const QString& text) override { Note(u"TypeText"_qs, Quoted(text)); }
-    void TypeParagraph() override { Note(u"TypeParagraph"_qs); }
+    void TypeText(const QString& text) override { Note(u"TypeText"_s, Quoted(text)); }
+    void TypeParagraph() override { Note(u"TypeParagraph"_s); }
     void SetSelectionText(const QString& text) override {
-        Note(u"SetSelectionText"_qs, Quoted(text));
+        Note(u"SetSelectionText"_s, Quoted(text));
     }
-    void InsertPageBreak() override { Note(u"InsertPageBreak"_qs); }
+    void InsertPageBreak() override { Note(u"InsertPageBreak"_s); }
 
     void SetKeepWithNext(bool) override {}
     void KeepSheetsWhole() override {}
     void ExpectLines(double, const std::vector<double>&) override {}
 
-    void HomeKeyStory() override { Note(u"HomeKeyStory"_qs); }
-    void EndKeyStory() override { Note(u"EndKeyStory"_qs); }
-    void WholeStory() override { Note(u"WholeStory"_qs); }
+    void HomeKeyStory() override { Note(u"HomeKeyStory"_s); }
+    void EndKeyStory() override { Note(u"EndKeyStory"_s); }
+    void WholeStory() override { Note(u"WholeStory"_s); }
 
-    void SetPrintView() override { Note(u"SetPrintView"_qs); }
-    void SetZoomWholePage() override { Note(u"SetZoomWholePage"_qs); }
+    void SetPrintView() override { Note(u"SetPrintView"_s); }
+    void SetZoomWholePage() override { Note(u"SetZoomWholePage"_s); }
     ShownDocument Show() override {
-        Note(u"Show"_qs);
+        Note(u"Show"_s);
         return show_(title_);
     }
 

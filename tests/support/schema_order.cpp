@@ -7,58 +7,53 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Children in the order of the schema; those with a plus may stand there more than once. An
 /// element that isn't listed has none.
 const std::map<QString, QString> kChildren = {
-    {QStringLiteral("Types"), QStringLiteral("Default+ Override+")},
-    {QStringLiteral("Relationships"), QStringLiteral("Relationship+")},
-    {QStringLiteral("cp:coreProperties"), QStringLiteral("dc:title dc:creator dc:language")},
-    {QStringLiteral("w:document"), QStringLiteral("background body")},
-    {QStringLiteral("w:body"), QStringLiteral("p+ sectPr")},
-    {QStringLiteral("w:p"), QStringLiteral("pPr r+")},
-    {QStringLiteral("w:tabs"), QStringLiteral("tab+")},
-    {QStringLiteral("w:cols"), QStringLiteral("col+")},
-    {QStringLiteral("w:pPr"),
-     QStringLiteral(
-         "pStyle keepNext keepLines pageBreakBefore framePr widowControl numPr "
-         "suppressLineNumbers pBdr shd tabs suppressAutoHyphens kinsoku wordWrap overflowPunct "
-         "topLinePunct autoSpaceDE autoSpaceDN bidi adjustRightInd snapToGrid spacing ind "
-         "contextualSpacing mirrorIndents suppressOverlap jc textDirection textAlignment "
-         "textboxTightWrap outlineLvl divId cnfStyle rPr sectPr pPrChange")},
-    {QStringLiteral("w:rPr"),
-     QStringLiteral("rStyle rFonts b bCs i iCs caps smallCaps strike dstrike outline shadow emboss "
-                    "imprint noProof snapToGrid vanish webHidden color spacing w kern position sz "
-                    "szCs highlight u effect bdr shd fitText vertAlign rtl cs em lang "
-                    "eastAsianLayout specVanish oMath")},
-    {QStringLiteral("w:sectPr"),
-     QStringLiteral("headerReference+ footerReference+ footnotePr endnotePr type pgSz pgMar "
+    {u"Types"_s, u"Default+ Override+"_s},
+    {u"Relationships"_s, u"Relationship+"_s},
+    {u"cp:coreProperties"_s, u"dc:title dc:creator dc:language"_s},
+    {u"w:document"_s, u"background body"_s},
+    {u"w:body"_s, u"p+ sectPr"_s},
+    {u"w:p"_s, u"pPr r+"_s},
+    {u"w:tabs"_s, u"tab+"_s},
+    {u"w:cols"_s, u"col+"_s},
+    {u"w:pPr"_s,
+     u"pStyle keepNext keepLines pageBreakBefore framePr widowControl numPr "
+     "suppressLineNumbers pBdr shd tabs suppressAutoHyphens kinsoku wordWrap overflowPunct "
+     "topLinePunct autoSpaceDE autoSpaceDN bidi adjustRightInd snapToGrid spacing ind "
+     "contextualSpacing mirrorIndents suppressOverlap jc textDirection textAlignment "
+     "textboxTightWrap outlineLvl divId cnfStyle rPr sectPr pPrChange"_s},
+    {u"w:rPr"_s, u"rStyle rFonts b bCs i iCs caps smallCaps strike dstrike outline shadow emboss "
+                 "imprint noProof snapToGrid vanish webHidden color spacing w kern position sz "
+                 "szCs highlight u effect bdr shd fitText vertAlign rtl cs em lang "
+                 "eastAsianLayout specVanish oMath"_s},
+    {u"w:sectPr"_s, u"headerReference+ footerReference+ footnotePr endnotePr type pgSz pgMar "
                     "paperSrc pgBorders lnNumType pgNumType cols formProt vAlign noEndnote titlePg "
-                    "textDirection bidi rtlGutter docGrid printerSettings")},
-    {QStringLiteral("w:styles"), QStringLiteral("docDefaults latentStyles style+")},
-    {QStringLiteral("w:docDefaults"), QStringLiteral("rPrDefault pPrDefault")},
-    {QStringLiteral("w:rPrDefault"), QStringLiteral("rPr")},
-    {QStringLiteral("w:style"),
-     QStringLiteral("name aliases basedOn next link autoRedefine hidden uiPriority semiHidden "
-                    "unhideWhenUsed qFormat locked personal personalCompose personalReply rsid pPr "
-                    "rPr tblPr trPr tcPr tblStylePr+")},
-    {QStringLiteral("w:settings"),
-     QStringLiteral("writeProtection view zoom removePersonalInformation removeDateAndTime "
-                    "mirrorMargins proofState defaultTabStop autoHyphenation evenAndOddHeaders "
-                    "characterSpacingControl footnotePr endnotePr compat docVars rsids mathPr "
-                    "themeFontLang clrSchemeMapping decimalSymbol listSeparator")},
-    {QStringLiteral("w:compat"), QStringLiteral("compatSetting+")},
-    {QStringLiteral("w:fonts"), QStringLiteral("font+")},
-    {QStringLiteral("w:font"),
-     QStringLiteral("altName panose1 charset family notTrueType pitch sig embedRegular embedBold "
-                    "embedItalic embedBoldItalic")},
+                    "textDirection bidi rtlGutter docGrid printerSettings"_s},
+    {u"w:styles"_s, u"docDefaults latentStyles style+"_s},
+    {u"w:docDefaults"_s, u"rPrDefault pPrDefault"_s},
+    {u"w:rPrDefault"_s, u"rPr"_s},
+    {u"w:style"_s, u"name aliases basedOn next link autoRedefine hidden uiPriority semiHidden "
+                   "unhideWhenUsed qFormat locked personal personalCompose personalReply rsid pPr "
+                   "rPr tblPr trPr tcPr tblStylePr+"_s},
+    {u"w:settings"_s, u"writeProtection view zoom removePersonalInformation removeDateAndTime "
+                      "mirrorMargins proofState defaultTabStop autoHyphenation evenAndOddHeaders "
+                      "characterSpacingControl footnotePr endnotePr compat docVars rsids mathPr "
+                      "themeFontLang clrSchemeMapping decimalSymbol listSeparator"_s},
+    {u"w:compat"_s, u"compatSetting+"_s},
+    {u"w:fonts"_s, u"font+"_s},
+    {u"w:font"_s, u"altName panose1 charset family notTrueType pitch sig embedRegular embedBold "
+                  "embedItalic embedBoldItalic"_s},
 };
 
 /// Text, tabs and breaks of a run come in any order behind its properties.
 bool IsRunContent(const QDomElement& run) {
-    const QStringList content{QStringLiteral("w:t"), QStringLiteral("w:tab"),
-                              QStringLiteral("w:br")};
+    const QStringList content{u"w:t"_s, u"w:tab"_s, u"w:br"_s};
     bool first = true;
     for (auto child = run.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {

@@ -3,7 +3,7 @@
 namespace lorvo::test {
 
 QString SourceFile(const QString& pathInProject) {
-    return qEnvironmentVariable("LORVO_SOURCE_DIR", QStringLiteral(LORVO_SOURCE_DIR)) + u'/' +
+    return qEnvironmentVariable("LORVO_SOURCE_DIR", QString::fromUtf8(LORVO_SOURCE_DIR)) + u'/' +
            pathInProject;
 }
 

@@ -14,6 +14,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::string ReadSource(const QString& pathInProject) {
@@ -27,15 +29,15 @@ std::string ReadSource(const QString& pathInProject) {
 class Templates {
   public:
     Templates() {
-        const std::string schema = ReadSource(u"data/schema.sql"_qs);
+        const std::string schema = ReadSource(u"data/schema.sql"_s);
         BuildEmptyDatabase(PathOf(TempDatabase::Content::Empty).toStdString(), schema);
         BuildDeliveredDatabase(PathOf(TempDatabase::Content::Delivered).toStdString(), schema,
-                               ReadSource(u"data/fci-breeds.csv"_qs));
+                               ReadSource(u"data/fci-breeds.csv"_s));
     }
 
     QString PathOf(TempDatabase::Content content) const {
-        return folder_.filePath(content == TempDatabase::Content::Empty ? u"empty"_qs
-                                                                        : u"delivered"_qs);
+        return folder_.filePath(content == TempDatabase::Content::Empty ? u"empty"_s
+                                                                        : u"delivered"_s);
     }
 
   private:
@@ -53,12 +55,12 @@ TempDatabase::~TempDatabase() {
 }
 
 QString TempDatabase::FolderTemplate() {
-    const QString memory = u"/dev/shm"_qs;
-    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + u"/lorvo-XXXXXX"_qs;
+    const QString memory = u"/dev/shm"_s;
+    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + u"/lorvo-XXXXXX"_s;
 }
 
 QString TempDatabase::Path() const {
-    return folder_.filePath(u"data.mdb"_qs);
+    return folder_.filePath(u"data.mdb"_s);
 }
 
 void TempDatabase::Reopen() {
@@ -72,7 +74,7 @@ void TempDatabase::Execute(const std::string& sql) {
 
 QString TempDatabase::CopyTo(const QString& folder, Content content) {
     static const Templates templates;
-    const QString path = folder + u"/data.mdb"_qs;
+    const QString path = folder + u"/data.mdb"_s;
     if (!QFile::copy(templates.PathOf(content), path))
         throw std::runtime_error("can't copy a database to " + path.toStdString());
     return path;

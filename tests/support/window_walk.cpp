@@ -17,15 +17,17 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::string Describe(const QWidget& widget) {
     QString text = QString::fromLatin1(widget.metaObject()->className()) + u' ';
     text += widget.objectName();
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        text += QStringLiteral(" \"%1\"").arg(label->text());
+        text += u" \"%1\""_s.arg(label->text());
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        text += QStringLiteral(" \"%1\"").arg(button->text());
+        text += u" \"%1\""_s.arg(button->text());
     return text.toStdString();
 }
 

@@ -26,6 +26,9 @@
 #include <set>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using show::Numbers;
@@ -123,7 +126,7 @@ TEST_P(GeneratedShow, EveryFeeIsThere) {
 
 TEST_P(GeneratedShow, PaymentsAreConverted) {
     ASSERT_EQ(MainCurrencies().size(), 1u);
-    EXPECT_EQ(MainCurrencies()[0].Zkratka, u"Kč"_qs);
+    EXPECT_EQ(MainCurrencies()[0].Zkratka, u"Kč"_s);
     EXPECT_EQ(MainCurrencies()[0].Kurs, Currency::FromUnits(1));
     std::set<int> currencies;
     for (const PaymentRow& row : PaymentsWithOwners()) {

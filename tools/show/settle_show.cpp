@@ -14,6 +14,8 @@
 
 namespace lorvo::show {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char16_t* kColours[] = {
@@ -75,7 +77,7 @@ std::vector<int> AddSubgroups(int count, const std::vector<int>& official) {
         const std::size_t at = static_cast<std::size_t>(i);
         const int parent = official[1 + at % (official.size() - 1)];
         const QString name =
-            BreedByID(parent)->Nazev + u", "_qs + Tables().DogSizes[1 + at % kKinds];
+            BreedByID(parent)->Nazev + u", "_s + Tables().DogSizes[1 + at % kKinds];
         subgroups.push_back(InsertSubgroup(parent, name));
     }
     return subgroups;
@@ -92,7 +94,7 @@ std::vector<int> AddBreeds(const ShowSize& size, Dice& dice) {
 void AddRings(int count, const std::vector<int>& breeds) {
     std::vector<int> rings;
     for (int i = 1; i <= count; ++i)
-        rings.push_back(InsertRing(u"Kruh %1"_qs.arg(i, 2, 10, QChar(u'0'))));
+        rings.push_back(InsertRing(u"Kruh %1"_s.arg(i, 2, 10, QChar(u'0'))));
     for (std::size_t i = 0; i < breeds.size(); ++i) {
         SetBreedUsed(breeds[i], true);
         MoveBreedToRing(breeds[i], rings[i % rings.size()]);
@@ -137,9 +139,9 @@ std::vector<int> AddCompetitions() {
 
 std::vector<Meny> AddCurrencies() {
     std::vector<Meny> currencies = {
-        {0, u"Koruna česká"_qs, u"Kč"_qs, Currency::FromUnits(1), true},
-        {0, u"Euro"_qs, u"EUR"_qs, Currency::FromText("25.345"), false},
-        {0, u"Polský zlotý"_qs, u"PLN"_qs, Currency::FromText("5.8725"), false}};
+        {0, u"Koruna česká"_s, u"Kč"_s, Currency::FromUnits(1), true},
+        {0, u"Euro"_s, u"EUR"_s, Currency::FromText("25.345"), false},
+        {0, u"Polský zlotý"_s, u"PLN"_s, Currency::FromText("5.8725"), false}};
     for (Meny& currency : currencies)
         currency.ID = InsertCurrency(currency);
     return currencies;

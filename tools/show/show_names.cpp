@@ -2,6 +2,8 @@
 
 namespace lorvo::show {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Text = const char16_t*;
@@ -194,12 +196,12 @@ QString AnyStreet(Dice& dice) {
 
 QString AnyPhone(Dice& dice) {
     const QString digits = QString::number(dice.Between(601000000, 779999999));
-    return u"+420 "_qs + digits.left(3) + u' ' + digits.mid(3, 3) + u' ' + digits.mid(6);
+    return u"+420 "_s + digits.left(3) + u' ' + digits.mid(3, 3) + u' ' + digits.mid(6);
 }
 
 QString EmailOf(const Person& person, int number) {
     return Plain(person.firstName) + u'.' + Plain(person.surname) + QString::number(number) +
-           u"@example.org"_qs;
+           u"@example.org"_s;
 }
 
 QString AnyDogName(Dice& dice, bool male) {
@@ -208,13 +210,13 @@ QString AnyDogName(Dice& dice, bool male) {
 
 QString AnyKennel(Dice& dice) {
     const QString adjective = ToText(dice.Pick(kKennelAdjectives));
-    return u"od "_qs + adjective + u' ' + ToText(dice.Pick(kKennelNouns));
+    return u"od "_s + adjective + u' ' + ToText(dice.Pick(kKennelNouns));
 }
 
 QString AnyStudBookEntry(Dice& dice, int year) {
     const QString book = ToText(dice.Pick(kStudBooks));
     const int number = dice.Between(100, 99999);
-    return u"%1/%2/%3"_qs.arg(book).arg(number).arg(year % 100, 2, 10, QChar(u'0'));
+    return u"%1/%2/%3"_s.arg(book).arg(number).arg(year % 100, 2, 10, QChar(u'0'));
 }
 
 QString AnyNote(Dice& dice) {

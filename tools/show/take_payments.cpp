@@ -7,6 +7,8 @@
 
 namespace lorvo::show {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kWaysOfPayment = 3;
@@ -32,8 +34,8 @@ Currency InCurrency(Currency amount, const Meny& currency) {
 
 QString AnyAccount(int way, Dice& dice) {
     if (way == 0)
-        return QString::number(dice.Between(100000000, 999999999)) + u"/0800"_qs;
-    return u"P-"_qs + QString::number(dice.Between(10000, 99999));
+        return QString::number(dice.Between(100000000, 999999999)) + u"/0800"_s;
+    return u"P-"_s + QString::number(dice.Between(10000, 99999));
 }
 
 DateValue AnyMoment(DateValue day, Dice& dice) {

@@ -20,6 +20,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The sub-items of a show's line; a competition has the price alone.
@@ -40,12 +42,12 @@ void FillAwards(DogCard& card, int psiID) {
     card.awards.clear();
     for (const Oceneni& award : Awards()) {
         CheckLine line;
-        line.key = QStringLiteral("C%1").arg(award.ID);
+        line.key = u"C%1"_s.arg(award.ID);
         line.text = award.Nazev;
         card.awards.push_back(std::move(line));
     }
     for (const int awardID : AwardsOfDog(psiID))
-        ExistingLine(card.awards, QStringLiteral("C%1").arg(awardID)).checked = true;
+        ExistingLine(card.awards, u"C%1"_s.arg(awardID)).checked = true;
 }
 
 void FillOrigin(DogCard& card, const Psi& dog) {
@@ -86,7 +88,7 @@ void AddShowLines(DogCard& card) {
     card.shows.clear();
     for (const Vystavy& show : Shows()) {
         CheckLine line;
-        line.key = QStringLiteral("V%1").arg(show.ID);
+        line.key = u"V%1"_s.arg(show.ID);
         line.icon = LineIcon::Show;
         line.text = show.Nazev;
         card.shows.push_back(std::move(line));
@@ -95,18 +97,17 @@ void AddShowLines(DogCard& card) {
 
 void FillEnteredShows(DogCard& card, const Psi& dog, const Account& account) {
     for (const Account::Entry& entered : account.shows) {
-        CheckLine& line = ExistingLine(card.shows, QStringLiteral("V%1").arg(entered.ID));
+        CheckLine& line = ExistingLine(card.shows, u"V%1"_s.arg(entered.ID));
         line.checked = true;
         line.subItems[kPrice].text = PriceText(entered.price);
-        line.subItems[kClosing].text =
-            ClosingText(dog.PrvniUzaverka) + QStringLiteral(". uzávěrka");
+        line.subItems[kClosing].text = ClosingText(dog.PrvniUzaverka) + u". uzávěrka"_s;
         line.subItems[kFirstDog].text = YesNo(dog.PrvniPes);
     }
 }
 
 void FillOtherShows(DogCard& card, const Psi& dog) {
     for (const int showID : ShowsOfOtherDogs(dog.ID)) {
-        CheckLine& line = ExistingLine(card.shows, QStringLiteral("V%1").arg(showID));
+        CheckLine& line = ExistingLine(card.shows, u"V%1"_s.arg(showID));
         if (line.checked)
             continue;
         const std::optional<Currency> fee = FeeOf(dog, showID, FeeClassRule::AsStored);
@@ -119,7 +120,7 @@ void AddCompetitionLines(DogCard& card, const std::vector<Souteze>& competitions
                          const Account& account) {
     for (const Souteze& competition : competitions) {
         CheckLine line;
-        line.key = QStringLiteral("k%1").arg(competition.ID);
+        line.key = u"k%1"_s.arg(competition.ID);
         line.tag = QString::number(competition.ID);
         line.icon = LineIcon::Competition;
         line.text = competition.Nazev;
@@ -136,9 +137,9 @@ void FillBalance(DogCard& card, Currency balance) {
     card.Rozdil = {AmountText(balance), colour};
     card.balanceWord = {QString(), colour};
     if (balance.IsNegative())
-        card.balanceWord.text = QStringLiteral("Nedoplatek");
+        card.balanceWord.text = u"Nedoplatek"_s;
     else if (!balance.IsZero())
-        card.balanceWord.text = QStringLiteral("Přeplatek");
+        card.balanceWord.text = u"Přeplatek"_s;
 }
 
 void FillNeighbours(DogCard& card, int ownerID) {
@@ -166,7 +167,7 @@ void FillMoney(DogCard& card, const Psi& dog) {
     FillEnteredShows(card, dog, account);
     FillOtherShows(card, dog);
     AddCompetitionLines(card, competitions, account);
-    card.Uzaverka = dog.PrvniUzaverka ? QStringLiteral("První") : QStringLiteral("Druhá");
+    card.Uzaverka = dog.PrvniUzaverka ? u"První"_s : u"Druhá"_s;
     FillBalance(card, account.Balance());
     card.PrvniPes = YesNo(dog.PrvniPes);
     card.CenaCelkem = AmountText(account.Owed());

@@ -7,6 +7,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 RingFigures FiguresOfRing(int ringID) {
     const ReadRun run(TheDataModule().Conn1);
     RingFigures figures;
@@ -30,7 +32,7 @@ BreedFigures FiguresOfBreed(int breedID) {
 
 QString TitleOfBreed(int breedID) {
     const Plemena breed = ExistingBreed(breedID);
-    return QStringLiteral("%1 (%2)").arg(breed.Nazev, breed.NazevOrig);
+    return u"%1 (%2)"_s.arg(breed.Nazev, breed.NazevOrig);
 }
 
 QString DogCountOfClass(int breedID, int trida) {

@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Name of the first show the dog stands in, empty for none.
@@ -27,7 +29,7 @@ QString CompetitionNames(const Account& account, const std::vector<Souteze>& com
     for (const Souteze& competition : competitions)
         if (account.IsInCompetition(competition.ID))
             names << competition.Nazev;
-    return names.join(QStringLiteral(", "));
+    return names.join(u", "_s);
 }
 
 InkedText BalanceText(Currency balance) {

@@ -2,6 +2,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The forms of a noun after 1, after 2 to 4, and after any other number.
@@ -26,8 +28,8 @@ QString Counted(const Forms& forms, int count) {
 } // namespace
 
 QString DogCountsLine(int males, int females) {
-    return QStringLiteral("V seznamu  %1 a %2, celkem %3.")
-        .arg(Counted(kMales, males), Counted(kFemales, females), QString::number(males + females));
+    return u"V seznamu  %1 a %2, celkem %3."_s.arg(
+        Counted(kMales, males), Counted(kFemales, females), QString::number(males + females));
 }
 
 } // namespace lorvo

@@ -4,6 +4,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One name is as a rule all, and is then shared by all dogs that have it.
@@ -14,7 +16,7 @@ QString Joined(const QStringList& names, const QString& between) {
 } // namespace
 
 QString AwardsText(const QStringList& names) {
-    return Joined(names, QStringLiteral(", "));
+    return Joined(names, u", "_s);
 }
 
 DogListTables::DogListTables() : awardsByDog_(AwardNamesByDog()) {}
@@ -33,14 +35,14 @@ QString DogListTables::ShowNames(const Account& account) const {
     QStringList names;
     for (const Account::Entry& show : account.shows)
         names << ledger_.ShowName(show.ID);
-    return Joined(names, QStringLiteral(" "));
+    return Joined(names, u" "_s);
 }
 
 QString DogListTables::CompetitionNames(const Account& account) const {
     QStringList names;
     for (const Account::Entry& competition : account.competitions)
         names << ledger_.CompetitionName(competition.ID);
-    return Joined(names, QStringLiteral(", "));
+    return Joined(names, u", "_s);
 }
 
 } // namespace lorvo

@@ -10,9 +10,11 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kNoColour = QStringLiteral("Nezadáno");
+const QString kNoColour = u"Nezadáno"_s;
 
 int OwnerOfEntry(const DogEntry& entry) {
     if (!entry.newOwner)

@@ -4,6 +4,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QChar kQuote = u'"';
@@ -98,7 +100,7 @@ QString CsvField(const QString& field) {
     });
     if (bare && field.trimmed() == field)
         return field;
-    return kQuote + QString(field).replace(kQuote, QStringLiteral("\"\"")) + kQuote;
+    return kQuote + QString(field).replace(kQuote, u"\"\""_s) + kQuote;
 }
 
 } // namespace
@@ -106,13 +108,13 @@ QString CsvField(const QString& field) {
 QString SeparatorName(QChar separator) {
     switch (separator.unicode()) {
     case u';':
-        return QStringLiteral("středník");
+        return u"středník"_s;
     case u',':
-        return QStringLiteral("čárka");
+        return u"čárka"_s;
     case u'\t':
-        return QStringLiteral("tabulátor");
+        return u"tabulátor"_s;
     default:
-        return QStringLiteral("svislá čára");
+        return u"svislá čára"_s;
     }
 }
 
@@ -132,7 +134,7 @@ QByteArray CsvBytes(const std::vector<QStringList>& rows) {
         QStringList fields;
         for (const QString& field : row)
             fields << CsvField(field);
-        text += fields.join(u';') + QStringLiteral("\r\n");
+        text += fields.join(u';') + u"\r\n"_s;
     }
     return text.toUtf8();
 }

@@ -6,6 +6,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype kBytesLookedAt = 1000;
@@ -74,13 +76,13 @@ QString RawText(const QByteArray& bytes, TextEncoding encoding) {
 QString EncodingName(TextEncoding encoding) {
     switch (encoding) {
     case TextEncoding::Utf8:
-        return QStringLiteral("UTF-8");
+        return u"UTF-8"_s;
     case TextEncoding::Windows1250:
-        return QStringLiteral("windows-1250 (středoevropské)");
+        return u"windows-1250 (středoevropské)"_s;
     case TextEncoding::Utf16LittleEndian:
-        return QStringLiteral("UTF-16 LE");
+        return u"UTF-16 LE"_s;
     case TextEncoding::Utf16BigEndian:
-        return QStringLiteral("UTF-16 BE");
+        return u"UTF-16 BE"_s;
     }
     return {};
 }
@@ -97,7 +99,7 @@ QString Decoded(const QByteArray& bytes, TextEncoding encoding) {
     QString text = RawText(bytes, encoding);
     if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.replace(u"\r\n"_s, u"\n"_s);
     text.replace(u'\r', u'\n');
     return text;
 }

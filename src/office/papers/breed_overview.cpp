@@ -12,6 +12,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kGroups = 11;
@@ -53,7 +55,7 @@ std::array<GroupCounts, kGroups> CountGroups() {
 }
 
 void TypeTitle(WordProcessor& word, const QString& title) {
-    word.SetFontName(QStringLiteral("Arial"));
+    word.SetFontName(u"Arial"_s);
     word.SetKeepWithNext(true);
     word.SetFontSize(14);
     word.SetBold(FontSwitch::On);
@@ -63,19 +65,18 @@ void TypeTitle(WordProcessor& word, const QString& title) {
     word.SetAlignment(ParagraphAlignment::Left);
     word.SetItalic(true);
     word.SetUnderline(false);
-    TypeLine(word, QStringLiteral("Přehled plemen :"), 2);
+    TypeLine(word, u"Přehled plemen :"_s, 2);
     word.SetFontSize(10);
     word.SetBold(FontSwitch::Off);
     word.SetItalic(false);
 }
 
 QString GroupHeading(int group) {
-    return QStringLiteral("FCI ") +
-           (group == kUnassignedGroup ? QStringLiteral("nezařazeno") : QString::number(group));
+    return u"FCI "_s + (group == kUnassignedGroup ? u"nezařazeno"_s : QString::number(group));
 }
 
 QString CountText(const char16_t* caption, const Count& count) {
-    return QString::fromUtf16(caption) + QStringLiteral("\t\t") + QString::number(count.Value());
+    return QString::fromUtf16(caption) + u"\t\t"_s + QString::number(count.Value());
 }
 
 void TypeGroup(WordProcessor& word, int group, const GroupCounts& counts) {

@@ -9,6 +9,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Class of dogs that stand between two shows' ages; the catalogue names it in one word.
@@ -120,9 +122,9 @@ void CatalogueTypist::TypeDog(const Psi& dog) {
 }
 
 void CatalogueTypist::TypeClassHeading(const Psi& dog) {
-    word_.TypeText(dog.PohlaviPes ? QStringLiteral("   Pes - ") : QStringLiteral("   Fena - "));
-    word_.TypeText(dog.Trida == kIntermediateClass ? QStringLiteral("mezitřída ")
-                                                   : QStringLiteral("třída ") + ClassNameOf(dog));
+    word_.TypeText(dog.PohlaviPes ? u"   Pes - "_s : u"   Fena - "_s);
+    word_.TypeText(dog.Trida == kIntermediateClass ? u"mezitřída "_s
+                                                   : u"třída "_s + ClassNameOf(dog));
     lastClass_ = dog.Trida;
     lastMale_ = dog.PohlaviPes;
     TypeParagraphs(word_, 2);
@@ -134,22 +136,20 @@ void CatalogueTypist::TypeNameAndBirth(const Psi& dog) {
     word_.SetFontSize(9);
     word_.TypeText(FullNameOf(dog));
     TypeParagraphs(word_, 1);
-    word_.TypeText(QStringLiteral("  nar. : ") + BirthDateOf(dog) + QStringLiteral("\t  ") +
-                   dog.PK);
+    word_.TypeText(u"  nar. : "_s + BirthDateOf(dog) + u"\t  "_s + dog.PK);
 }
 
 void CatalogueTypist::TypeAwards(const Psi& dog) {
     TypeParagraphs(word_, 1);
-    word_.TypeText(QStringLiteral("Ocenění :\t") +
-                   Under(rows_.awards, dog.ID).join(QStringLiteral(", ")));
+    word_.TypeText(u"Ocenění :\t"_s + Under(rows_.awards, dog.ID).join(u", "_s));
 }
 
 void CatalogueTypist::TypeParentsAndPeople(const Psi& dog) {
     TypeParagraphs(word_, 1);
-    word_.TypeText(QStringLiteral("  o. :\t") + dog.Otec + QStringLiteral("\tm. : ") + dog.Matka);
+    word_.TypeText(u"  o. :\t"_s + dog.Otec + u"\tm. : "_s + dog.Matka);
     TypeParagraphs(word_, 1);
     word_.SetKeepWithNext(false);
-    word_.TypeText(QStringLiteral("  ch. : \t") + dog.Chovatel + QStringLiteral("\tmaj. : "));
+    word_.TypeText(u"  ch. : \t"_s + dog.Chovatel + u"\tmaj. : "_s);
     if (const QString& owner = Under(rows_.owners, dog.MajitelID); !owner.isEmpty())
         word_.TypeText(owner);
     TypeParagraphs(word_, 2);
@@ -169,7 +169,7 @@ void CatalogueTypist::SetUpPage() {
 }
 
 void CatalogueTypist::SetHeadingFont(double size, bool underlined) {
-    word_.SetFontName(QStringLiteral("Arial"));
+    word_.SetFontName(u"Arial"_s);
     word_.SetUnderline(underlined);
     word_.SetBold(FontSwitch::On);
     word_.SetFontSize(size);

@@ -7,13 +7,15 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Lines down to where the text clears the diploma's printed head.
 constexpr int kLinesOfHead = 24;
 
 QString LineBreak() {
-    return QStringLiteral("\r\n");
+    return u"\r\n"_s;
 }
 
 /// The template may be one of the entry confirmations, whose editable texts are empty here.
@@ -32,23 +34,23 @@ std::vector<DogField> DiplomaFields() {
 }
 
 void TypeDiploma(WordProcessor& word, const DogPaper& paper, const QString& spacing) {
-    word.SetFontName(QStringLiteral("Arial"));
+    word.SetFontName(u"Arial"_s);
     word.SetBold(FontSwitch::Toggle);
     word.SetFontSize(12);
     word.SetAlignment(ParagraphAlignment::Center);
     word.TypeText(spacing);
-    word.TypeText(paper.dog.PohlaviPes ? QStringLiteral("pes ") : QStringLiteral("fena "));
+    word.TypeText(paper.dog.PohlaviPes ? u"pes "_s : u"fena "_s);
     word.SetFontSize(16);
     word.TypeText(FullNameOf(paper.dog) + LineBreak());
     word.SetFontSize(12);
     word.TypeText(LineBreak());
     word.SetBold(FontSwitch::Toggle);
     if (paper.owner)
-        word.TypeText(QStringLiteral("majitel: ") + paper.owner->Jmeno + LineBreak());
+        word.TypeText(u"majitel: "_s + paper.owner->Jmeno + LineBreak());
     word.TypeText(LineBreak());
     word.SetBold(FontSwitch::Off);
     word.SetFontSize(12);
-    word.TypeText(QStringLiteral("Třída ") + ClassNameOf(paper.dog) + LineBreak());
+    word.TypeText(u"Třída "_s + ClassNameOf(paper.dog) + LineBreak());
     word.InsertPageBreak();
 }
 

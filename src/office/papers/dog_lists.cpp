@@ -15,6 +15,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using OwnerNamesByID = std::unordered_map<int, QString>;
@@ -137,27 +139,27 @@ void DogListTypist::TypeHeading(const QString& heading) {
 }
 
 void DogListTypist::TypeDog(const Psi& dog) {
-    TypeLine(word_, FullNameOf(dog) + QStringLiteral(" - třída ") + ClassNameOf(dog) +
-                        QStringLiteral(" - datum narození ") + BirthDateOf(dog) + tail_(dog));
+    TypeLine(word_, FullNameOf(dog) + u" - třída "_s + ClassNameOf(dog) + u" - datum narození "_s +
+                        BirthDateOf(dog) + tail_(dog));
 }
 
 void DogListTypist::TypeGap() {
-    word_.SetSelectionText(QStringLiteral("\r\n"));
-    word_.SetSelectionText(QStringLiteral("\r\n"));
+    word_.SetSelectionText(u"\r\n"_s);
+    word_.SetSelectionText(u"\r\n"_s);
     word_.EndKeyStory();
 }
 
 void TypeByBreed(WordProcessor& word, RunProgress& progress) {
     const BreedRows rows = ReadBreedRows(BreedNameOf);
     const auto tail = [&](const Psi& dog) {
-        return QStringLiteral(" - majitel ") + NameOfOwner(rows.owners, dog);
+        return u" - majitel "_s + NameOfOwner(rows.owners, dog);
     };
     DogListTypist(word, progress, tail).Type(rows.groups);
 }
 
 template<class Rows> void TypeWithPedigrees(WordProcessor& word, RunProgress& progress, Rows rows) {
     const auto tail = [](const Psi& dog) {
-        return QStringLiteral(" - číslo PK ") + dog.PK;
+        return u" - číslo PK "_s + dog.PK;
     };
     DogListTypist(word, progress, tail).Type(rows);
 }

@@ -8,6 +8,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 const std::array<ConfirmationLine, 11> kConfirmationLines = {{
     {u"Nadpis", u"VSTUPNÍ LIST - potvrzení přihlášky", "_uvod_"},
     {u"Úvod",
@@ -98,9 +100,9 @@ void ConfirmationTypist::TypeAddress(const Majitele* owner) {
     TypeParagraphs(word_, 3);
     word_.SetLeftIndent(CentimetersToPoints(7.0));
     word_.SetFirstLineIndent(kFirstLineIndent);
-    TypeLine(word_, owner ? owner->Jmeno : QStringLiteral(" "));
-    TypeLine(word_, owner ? owner->Ulice : QStringLiteral(" "));
-    word_.TypeText(owner ? PostCodeText(owner->PSC) + u' ' + owner->Mesto : QStringLiteral(" "));
+    TypeLine(word_, owner ? owner->Jmeno : u" "_s);
+    TypeLine(word_, owner ? owner->Ulice : u" "_s);
+    word_.TypeText(owner ? PostCodeText(owner->PSC) + u' ' + owner->Mesto : u" "_s);
     TypeParagraphs(word_, 5);
     word_.SetLeftIndent(0);
     word_.TypeParagraph();
@@ -118,16 +120,16 @@ void ConfirmationTypist::TypeOpening() {
 
 void ConfirmationTypist::TypeDog(const DogPaper& paper) {
     constexpr double kTabStop = CentimetersToPoints(5.0);
-    word_.TypeText(QStringLiteral("Katalogové číslo"));
+    word_.TypeText(u"Katalogové číslo"_s);
     word_.AddTabStop(kTabStop);
-    word_.TypeText(QStringLiteral(":\t"));
+    word_.TypeText(u":\t"_s);
     SetFont(16, FontSwitch::On);
     word_.TypeText(NumberOf(paper.dog));
     SetFont(12, FontSwitch::Off);
     word_.TypeParagraph();
-    TypeLine(word_, QStringLiteral("Jméno psa:\t") + FullNameOf(paper.dog));
-    TypeLine(word_, QStringLiteral("Plemeno:\t") + BreedOf(paper));
-    TypeLine(word_, QStringLiteral("Třída:\t") + ClassNameOf(paper.dog), 2);
+    TypeLine(word_, u"Jméno psa:\t"_s + FullNameOf(paper.dog));
+    TypeLine(word_, u"Plemeno:\t"_s + BreedOf(paper));
+    TypeLine(word_, u"Třída:\t"_s + ClassNameOf(paper.dog), 2);
     word_.ClearTabStop(kTabStop);
 }
 
@@ -158,7 +160,7 @@ void TypeConfirmations(WordProcessor& word, const QStringList& textLines, RunPro
     ConfirmationTypist typist(word, textLines);
     word.SetOrientation(PageOrientation::Portrait);
     word.KeepSheetsWhole();
-    word.SetFontName(QStringLiteral("Tahoma"));
+    word.SetFontName(u"Tahoma"_s);
     WalkRows(papers.All(), progress, [&](const DogPaper& paper) { typist.TypeSheet(paper); });
     word.HomeKeyStory();
     word.SetZoomWholePage();

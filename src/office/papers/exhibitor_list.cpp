@@ -10,6 +10,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Leaves the numbers behind their tab stop the room for those of four or five dogs.
@@ -57,18 +59,18 @@ std::vector<RowField<Exhibitor>> ExhibitorFields() {
 }
 
 void TypeHeading(WordProcessor& word) {
-    word.SetFontName(QStringLiteral("Arial"));
+    word.SetFontName(u"Arial"_s);
     word.SetKeepWithNext(true);
     word.SetBold(FontSwitch::On);
     word.SetItalic(true);
     word.SetUnderline(true);
     word.SetFontSize(14);
-    TypeLine(word, QStringLiteral("Seznam vystavovatelů"), 2);
+    TypeLine(word, u"Seznam vystavovatelů"_s, 2);
     word.AddTabStop(CentimetersToPoints(23.0));
     word.SetItalic(false);
     word.SetUnderline(false);
     word.SetFontSize(10);
-    word.TypeText(QStringLiteral("Vystavovatel\tKatalog.č."));
+    word.TypeText(u"Vystavovatel\tKatalog.č."_s);
     word.SetBold(FontSwitch::Off);
     TypeParagraphs(word, 2);
     word.SetKeepWithNext(false);
@@ -80,7 +82,7 @@ void TypeExhibitor(WordProcessor& word, const Exhibitor& exhibitor) {
     word.TypeText(owner.Jmeno + u' ' + owner.Ulice + u' ' + owner.Mesto + u' ' +
                   PostCodeText(owner.PSC));
     if (!exhibitor.numbers.isEmpty()) {
-        word.TypeText(QStringLiteral("\t"));
+        word.TypeText(u"\t"_s);
         word.SetBold(FontSwitch::On);
         word.TypeText(exhibitor.numbers);
     }

@@ -7,6 +7,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A line of the sheet's upper part.
@@ -94,7 +96,7 @@ void SheetTypist::SetUpPage() {
     word_.SetHeaderDistance(kEdgeDistance);
     word_.SetFooterDistance(kEdgeDistance);
     word_.SetPageSize(CentimetersToPoints(21.0), CentimetersToPoints(29.7));
-    word_.SetFontName(QStringLiteral("Arial"));
+    word_.SetFontName(u"Arial"_s);
 }
 
 void SheetTypist::TypeSheet(const DogPaper& paper) {
@@ -134,7 +136,7 @@ void SheetTypist::TypeRoomForReport() {
     SetAlignment(ParagraphAlignment::Left);
     word_.SetBold(FontSwitch::On);
     word_.TypeParagraph();
-    TypeLine(word_, QStringLiteral("POSUDEK:"));
+    TypeLine(word_, u"POSUDEK:"_s);
     SetAlignment(ParagraphAlignment::Left);
     word_.SetFontSize(11);
     TypeParagraphs(word_, 28);
@@ -144,7 +146,7 @@ void SheetTypist::TypeRoomForAward() {
     SetAlignment(ParagraphAlignment::Center);
     TypeRule(138);
     SetAlignment(ParagraphAlignment::Left);
-    TypeLine(word_, QStringLiteral("OCENĚNÍ:"));
+    TypeLine(word_, u"OCENĚNÍ:"_s);
     SetAlignment(ParagraphAlignment::Center);
     TypeParagraphs(word_, 6);
     TypeRule(138);
@@ -153,8 +155,8 @@ void SheetTypist::TypeRoomForAward() {
 void SheetTypist::TypeSignature() {
     SetAlignment(ParagraphAlignment::Right);
     TypeParagraphs(word_, 3);
-    TypeLine(word_, QStringLiteral("__________________"));
-    word_.TypeText(QStringLiteral("podpis rozhodčího"));
+    TypeLine(word_, u"__________________"_s);
+    word_.TypeText(u"podpis rozhodčího"_s);
 }
 
 void SheetTypist::TypeRule(int hyphens) {

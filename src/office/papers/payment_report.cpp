@@ -13,6 +13,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString DogOf(const PaymentRow& payment) {
@@ -26,12 +28,11 @@ QString DateOf(const PaymentRow& payment) {
 QString ModeOf(const PaymentRow& payment) {
     if (const QString* mode = FindPaymentMode(payment.Uhrada))
         return *mode;
-    const QString dog = QStringLiteral("Platba za psa „") + payment.Jmeno;
-    const QString found =
-        payment.Uhrada ? QStringLiteral("“ má způsob úhrady %1, ale způsoby jsou jen 0 až %2.")
-                             .arg(*payment.Uhrada)
-                             .arg(Tables().PaymentModes.size() - 1)
-                       : QStringLiteral("“ nemá uveden způsob úhrady.");
+    const QString dog = u"Platba za psa „"_s + payment.Jmeno;
+    const QString found = payment.Uhrada ? u"“ má způsob úhrady %1, ale způsoby jsou jen 0 až %2."_s
+                                               .arg(*payment.Uhrada)
+                                               .arg(Tables().PaymentModes.size() - 1)
+                                         : u"“ nemá uveden způsob úhrady."_s;
     throw RangeError((dog + found).toStdString());
 }
 
@@ -64,7 +65,7 @@ void SetUpPage(WordProcessor& word) {
     word.SetOrientation(PageOrientation::Portrait);
     for (const double position : {2.0, 4.0, 6.0, 8.0, 10.0, 12.0})
         word.AddTabStop(CentimetersToPoints(position));
-    word.SetFontName(QStringLiteral("Arial"));
+    word.SetFontName(u"Arial"_s);
     word.SetFontSize(9);
 }
 

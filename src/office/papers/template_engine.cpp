@@ -10,6 +10,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array kRowMarkers = {"__top__",      "__top_end__", "__body__",
@@ -47,7 +49,7 @@ bool IsOneWord(const QByteArray& literal) {
 ReportTemplate ReportTemplate::Read(const QString& path, TemplateKind kind) {
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite))
-        FailOnFile(QStringLiteral("Šablonu nelze otevřít"), path, errno);
+        FailOnFile(u"Šablonu nelze otevřít"_s, path, errno);
     return ReportTemplate(file.readAll(), kind);
 }
 

@@ -4,6 +4,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype kDigits = 5;
@@ -12,7 +14,7 @@ constexpr qsizetype kDigits = 5;
 
 QString CleanedPostCode(QString text) {
     text.remove(u' ');
-    return text.isEmpty() ? QStringLiteral("0") : text;
+    return text.isEmpty() ? u"0"_s : text;
 }
 
 std::optional<int> PostCodeFromText(const QString& text) {

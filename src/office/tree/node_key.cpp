@@ -2,6 +2,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 NodeKey ClassFromText(const QString& text) {
@@ -50,7 +52,7 @@ QString NodeKey::ToText() const {
     case NodeKind::Breed:
         return u'R' + number;
     case NodeKind::Class:
-        return QStringLiteral("TR%1|%2").arg(id).arg(trida);
+        return u"TR%1|%2"_s.arg(id).arg(trida);
     case NodeKind::Dog:
         return u'P' + number;
     }

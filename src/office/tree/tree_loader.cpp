@@ -13,6 +13,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char16_t* kClassCaptions[] = {
@@ -39,9 +41,8 @@ std::span<const char16_t* const> ClassCaptions(bool specialBreed) {
 }
 
 QString DetailText(const TreeDog& dog) {
-    return QStringLiteral(" (%1. uzávěrka%2)")
-        .arg(ClosingText(dog.PrvniUzaverka),
-             dog.PrvniPes ? QStringLiteral(", 1.pes majitele") : QString());
+    return u" (%1. uzávěrka%2)"_s.arg(ClosingText(dog.PrvniUzaverka),
+                                      dog.PrvniPes ? u", 1.pes majitele"_s : QString());
 }
 
 QString DogText(const TreeDog& dog, bool inDetail) {
@@ -80,9 +81,9 @@ TreeNode* BreedBuilder::ParentOf(const TreeDog& dog, TreeNode* breed) const {
     const NodeKey key = NodeKey::Class(breed->Id(), dog.Trida);
     if (TreeNode* classNode = nodes_.Find(key))
         return classNode;
-    throw Error(QStringLiteral("Pes \"%1\" má třídu, kterou jeho plemeno nemá (%2).")
-                    .arg(dog.Jmeno, key.ToText())
-                    .toStdString());
+    throw Error(
+        u"Pes \"%1\" má třídu, kterou jeho plemeno nemá (%2)."_s.arg(dog.Jmeno, key.ToText())
+            .toStdString());
 }
 
 void BreedBuilder::Add(TreeNode* ring, const Plemena& breed, const QString& text, bool inDetail) {
@@ -100,7 +101,7 @@ void BreedBuilder::Add(TreeNode* ring, const Plemena& breed, const QString& text
 } // namespace
 
 QString UnassignedRootText() {
-    return QStringLiteral("Nezařazeno v kruhu");
+    return u"Nezařazeno v kruhu"_s;
 }
 
 void LoadTree(TreeNodes& nodes) {

@@ -8,9 +8,11 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kNodeFormat = QStringLiteral("application/x-lorvo-node");
+const QString kNodeFormat = u"application/x-lorvo-node"_s;
 
 const QFont& BoldFont() {
     // Only the weight is set, so that family and size stay the view's.

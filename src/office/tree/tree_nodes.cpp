@@ -6,6 +6,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Enough for a large show, so that the table of keys grows once at most while it is filled.
@@ -34,7 +36,7 @@ QString TreeNode::Tag() const {
     case NodeKind::Class:
         return u'C' + QString::number(key.trida);
     case NodeKind::Dog:
-        return QStringLiteral("P ") + QString::number(key.id);
+        return u"P "_s + QString::number(key.id);
     case NodeKind::UnassignedRoot:
     case NodeKind::Breed:
         break;
@@ -73,7 +75,7 @@ TreeNode* TreeNodes::Find(const QString& key) const {
 TreeNode& TreeNodes::Get(const QString& key) const {
     if (TreeNode* node = Find(key))
         return *node;
-    throw Error(QStringLiteral("Položka stromu \"%1\" neexistuje.").arg(key).toStdString());
+    throw Error(u"Položka stromu \"%1\" neexistuje."_s.arg(key).toStdString());
 }
 
 TreeNode* TreeNodes::First() const {

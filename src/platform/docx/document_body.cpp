@@ -8,10 +8,12 @@
 
 namespace lorvo::docx {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString FileName() {
-    return QDir::temp().filePath(QStringLiteral("Lorvo-XXXXXX.xml"));
+    return QDir::temp().filePath(u"Lorvo-XXXXXX.xml"_s);
 }
 
 } // namespace

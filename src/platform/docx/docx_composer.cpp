@@ -6,6 +6,8 @@
 
 namespace lorvo::docx {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void Fail(const QString& message) {
@@ -63,7 +65,7 @@ ShownDocument Composer::Show() {
     page_.Write(body_.Xml());
     QString path;
     body_.Finish([&](const QByteArray& body) {
-        path = WriteNewFile(folder_, FileStem(), QStringLiteral("docx"),
+        path = WriteNewFile(folder_, FileStem(), u"docx"_s,
                             PackDocument(title_, body, styles_, view_));
     });
     return {path, opener_.OpenFile(path)};
@@ -83,7 +85,7 @@ void Composer::MoveTo(Place place) {
 
 void Composer::RequireEnd() const {
     if (place_ != Place::End)
-        Fail(QStringLiteral("Dokument lze psát jen na jeho konci."));
+        Fail(u"Dokument lze psát jen na jeho konci."_s);
 }
 
 void Composer::Switch(bool RunFormat::*property, bool on) {

@@ -7,6 +7,8 @@
 
 namespace lorvo::docx {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::string_view kAlignments[] = {"left", "center", "right"};
@@ -89,7 +91,7 @@ void StartStyle(XmlWriter& xml, std::string_view type, int number, const std::st
     xml.Start("w:style").Attribute("w:type", type);
     xml.Attribute(isDefault ? "w:default" : "w:customStyle", "1");
     xml.Attribute("w:styleId", std::string_view(id));
-    xml.Empty("w:name", "w:val", isDefault ? name : QStringLiteral("%1 %2").arg(name).arg(number));
+    xml.Empty("w:name", "w:val", isDefault ? name : u"%1 %2"_s.arg(name).arg(number));
 }
 
 /// What a word processor needs to know of a font that the machine lacks.
@@ -117,8 +119,7 @@ void WriteFontEntry(XmlWriter& xml, const QString& name) {
 }
 
 void WriteDefaultCharacterStyle(XmlWriter& xml) {
-    StartStyle(xml, "character", 0, "DefaultParagraphFont",
-               QStringLiteral("Default Paragraph Font"), true);
+    StartStyle(xml, "character", 0, "DefaultParagraphFont", u"Default Paragraph Font"_s, true);
     xml.Empty("w:uiPriority", "w:val", 1);
     xml.Empty("w:semiHidden");
     xml.End();
@@ -173,8 +174,8 @@ void Styles::WriteStyles(XmlWriter& xml) const {
     WriteDefaults(xml);
     for (int i = 0; i < static_cast<int>(paragraphs_.size()); ++i) {
         const Paragraph& style = paragraphs_[static_cast<std::size_t>(i)];
-        StartStyle(xml, "paragraph", i, ParagraphStyleId(i),
-                   i == 0 ? QStringLiteral("Normal") : QStringLiteral("Odstavec"), i == 0);
+        StartStyle(xml, "paragraph", i, ParagraphStyleId(i), i == 0 ? u"Normal"_s : u"Odstavec"_s,
+                   i == 0);
         xml.Empty("w:qFormat");
         WriteParagraphFormat(xml, style.format);
         xml.Start("w:rPr");
@@ -183,7 +184,7 @@ void Styles::WriteStyles(XmlWriter& xml) const {
     }
     WriteDefaultCharacterStyle(xml);
     for (int i = 0; i < static_cast<int>(characters_.size()); ++i) {
-        StartStyle(xml, "character", i + 1, CharacterStyleId(i), QStringLiteral("Znak"), false);
+        StartStyle(xml, "character", i + 1, CharacterStyleId(i), u"Znak"_s, false);
         xml.Empty("w:qFormat");
         xml.Start("w:rPr");
         WriteRunProperties(xml, characters_[static_cast<std::size_t>(i)]);

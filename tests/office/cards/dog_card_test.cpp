@@ -5,6 +5,9 @@
 #include "office/cards/card_test.h"
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QColor kGreen(0, 192, 0);
@@ -23,7 +26,7 @@ class DogCardTest : public CardTest {
     /// Text of a sub-item in the line with that key.
     QString SubItem(const QString& key, std::size_t number) {
         const CheckLine* line = FindLine(card.shows, key);
-        return line ? line->subItems[number - 1].text : QStringLiteral("no line");
+        return line ? line->subItems[number - 1].text : u"no line"_s;
     }
     std::optional<QColor> PriceColour(const QString& key) {
         return FindLine(card.shows, key)->subItems[0].colour;
@@ -46,27 +49,27 @@ TEST_F(DogCardTest, FillsTheLinesOfOriginAndOwner) {
         "'z Lhoty', 12, 7, -1, '2005-05-14T00:00:00', 5, 'Rek', 'Bára', 'ČLP 12', 'kouše', "
         "'Novák', -1, -1)");
     Fill(3);
-    EXPECT_EQ(card.title, u"Alík z Lhoty"_qs);
-    EXPECT_EQ(card.Plemeno, u"Pudl"_qs);
-    EXPECT_EQ(card.Pohlavi, (InkedText{u"Pes"_qs, kBlue}));
-    EXPECT_EQ(card.DatumNar, u"14.5.2005"_qs);
-    EXPECT_EQ(card.Trida, u"otevřená"_qs);
-    EXPECT_EQ(card.Poznamka, u"kouše"_qs);
-    EXPECT_EQ(card.ChovnaStanice, u"z Lhoty"_qs);
-    EXPECT_EQ(card.PK, u"ČLP 12"_qs);
-    EXPECT_EQ(card.Otec, u"Rek"_qs);
-    EXPECT_EQ(card.Matka, u"Bára"_qs);
-    EXPECT_EQ(card.Chovatel, u"Novák"_qs);
-    EXPECT_EQ(card.JmenoMajitele, u"Jana Malá"_qs);
+    EXPECT_EQ(card.title, u"Alík z Lhoty"_s);
+    EXPECT_EQ(card.Plemeno, u"Pudl"_s);
+    EXPECT_EQ(card.Pohlavi, (InkedText{u"Pes"_s, kBlue}));
+    EXPECT_EQ(card.DatumNar, u"14.5.2005"_s);
+    EXPECT_EQ(card.Trida, u"otevřená"_s);
+    EXPECT_EQ(card.Poznamka, u"kouše"_s);
+    EXPECT_EQ(card.ChovnaStanice, u"z Lhoty"_s);
+    EXPECT_EQ(card.PK, u"ČLP 12"_s);
+    EXPECT_EQ(card.Otec, u"Rek"_s);
+    EXPECT_EQ(card.Matka, u"Bára"_s);
+    EXPECT_EQ(card.Chovatel, u"Novák"_s);
+    EXPECT_EQ(card.JmenoMajitele, u"Jana Malá"_s);
     EXPECT_EQ(card.MajitelID, 7);
-    EXPECT_EQ(card.Ulice, u"Dlouhá 5"_qs);
-    EXPECT_EQ(card.PSC, u"110 00"_qs);
-    EXPECT_EQ(card.Mesto, u"Praha"_qs);
-    EXPECT_EQ(card.Stat, u"CZ"_qs);
-    EXPECT_EQ(card.Telefon, u"603 111 222"_qs);
-    EXPECT_EQ(card.Email, u"jana@psi.cz"_qs);
-    EXPECT_EQ(card.Uzaverka, u"První"_qs);
-    EXPECT_EQ(card.PrvniPes, u"Ano"_qs);
+    EXPECT_EQ(card.Ulice, u"Dlouhá 5"_s);
+    EXPECT_EQ(card.PSC, u"110 00"_s);
+    EXPECT_EQ(card.Mesto, u"Praha"_s);
+    EXPECT_EQ(card.Stat, u"CZ"_s);
+    EXPECT_EQ(card.Telefon, u"603 111 222"_s);
+    EXPECT_EQ(card.Email, u"jana@psi.cz"_s);
+    EXPECT_EQ(card.Uzaverka, u"První"_s);
+    EXPECT_EQ(card.PrvniPes, u"Ano"_s);
     EXPECT_EQ(Module().CurrentDogID, 3);
     EXPECT_EQ(Module().CurrentOwner, 7);
     EXPECT_FALSE(Module().SpecialBreed);
@@ -75,16 +78,16 @@ TEST_F(DogCardTest, FillsTheLinesOfOriginAndOwner) {
 TEST_F(DogCardTest, ABitchOfABreedWithoutCzechName) {
     AddDog(4, "Cita", 13, 8);
     Fill(4);
-    EXPECT_EQ(card.Plemeno, u"Barzoi"_qs);
-    EXPECT_EQ(card.Pohlavi, (InkedText{u"Fena"_qs, kRed}));
+    EXPECT_EQ(card.Plemeno, u"Barzoi"_s);
+    EXPECT_EQ(card.Pohlavi, (InkedText{u"Fena"_s, kRed}));
     EXPECT_EQ(card.DatumNar, QString());
-    EXPECT_EQ(card.Uzaverka, u"Druhá"_qs);
-    EXPECT_EQ(card.PrvniPes, u"Ne"_qs);
+    EXPECT_EQ(card.Uzaverka, u"Druhá"_s);
+    EXPECT_EQ(card.PrvniPes, u"Ne"_s);
 }
 
 TEST_F(DogCardTest, TheSpecialBreedHasClassNamesOfItsOwn) {
     AddDog(5, "Rolf", 949, 3);
-    EXPECT_EQ(Fill(5).Trida, u"dospívajících"_qs);
+    EXPECT_EQ(Fill(5).Trida, u"dospívajících"_s);
     EXPECT_TRUE(Module().SpecialBreed);
 }
 
@@ -94,8 +97,8 @@ TEST_F(DogCardTest, AClassOutsideTheTableEndsTheFillingBehindTheOwner) {
     AddDog(8, "Cvok", 12, 21);
     Fill(3);
     EXPECT_THROW(Fill(6), Error);
-    EXPECT_EQ(card.title, u"Brok z Lhoty"_qs);
-    EXPECT_EQ(card.Trida, u"otevřená"_qs);
+    EXPECT_EQ(card.title, u"Brok z Lhoty"_s);
+    EXPECT_EQ(card.Trida, u"otevřená"_s);
     EXPECT_THROW(Fill(8), Error);
 }
 
@@ -105,10 +108,10 @@ TEST_F(DogCardTest, ADogInNoShowOwesNothingAndItsPaymentDoesNotCount) {
     Pay(3, 500);
     Fill(3);
     EXPECT_EQ(Ticked(card.shows), QString());
-    EXPECT_EQ(SubItem(u"V1"_qs, 1), QString());
-    EXPECT_EQ(card.CenaCelkem, u" 0,00 Kč"_qs);
-    EXPECT_EQ(card.Uhrazeno, u" 500,00 Kč"_qs);
-    EXPECT_EQ(card.Rozdil, (InkedText{u" 0,00 Kč"_qs, std::nullopt}));
+    EXPECT_EQ(SubItem(u"V1"_s, 1), QString());
+    EXPECT_EQ(card.CenaCelkem, u" 0,00 Kč"_s);
+    EXPECT_EQ(card.Uhrazeno, u" 500,00 Kč"_s);
+    EXPECT_EQ(card.Rozdil, (InkedText{u" 0,00 Kč"_s, std::nullopt}));
     EXPECT_EQ(card.balanceWord.text, QString());
 }
 
@@ -120,16 +123,16 @@ TEST_F(DogCardTest, AnEnteredShowHasFeeClosingAndFirstDogMark) {
     Pay(3, 1000);
     Pay(3, 234);
     Fill(3);
-    EXPECT_EQ(Ticked(card.shows), u"V2"_qs);
-    EXPECT_EQ(SubItem(u"V2"_qs, 1), u"1749 Kč"_qs);
-    EXPECT_EQ(PriceColour(u"V2"_qs), std::nullopt);
-    EXPECT_EQ(SubItem(u"V2"_qs, 2), u"II. uzávěrka"_qs);
-    EXPECT_EQ(SubItem(u"V2"_qs, 3), u"Ne"_qs);
-    EXPECT_EQ(card.CenaCelkem, u"1 749,00 Kč"_qs);
-    EXPECT_EQ(card.Uhrazeno, u"1 234,00 Kč"_qs);
-    EXPECT_EQ(card.Rozdil.text, u"- 515,00 Kč"_qs);
+    EXPECT_EQ(Ticked(card.shows), u"V2"_s);
+    EXPECT_EQ(SubItem(u"V2"_s, 1), u"1749 Kč"_s);
+    EXPECT_EQ(PriceColour(u"V2"_s), std::nullopt);
+    EXPECT_EQ(SubItem(u"V2"_s, 2), u"II. uzávěrka"_s);
+    EXPECT_EQ(SubItem(u"V2"_s, 3), u"Ne"_s);
+    EXPECT_EQ(card.CenaCelkem, u"1 749,00 Kč"_s);
+    EXPECT_EQ(card.Uhrazeno, u"1 234,00 Kč"_s);
+    EXPECT_EQ(card.Rozdil.text, u"- 515,00 Kč"_s);
     EXPECT_EQ(card.Rozdil.colour, kRed);
-    EXPECT_EQ(card.balanceWord, (InkedText{u"Nedoplatek"_qs, kRed}));
+    EXPECT_EQ(card.balanceWord, (InkedText{u"Nedoplatek"_s, kRed}));
 }
 
 TEST_F(DogCardTest, FirstClosingAndFirstDogHaveColumnsOfTheirOwn) {
@@ -138,9 +141,9 @@ TEST_F(DogCardTest, FirstClosingAndFirstDogHaveColumnsOfTheirOwn) {
     Run("UPDATE Psi SET PrvniUzaverka = -1, PrvniPes = -1");
     Enter(3, 1);
     Fill(3);
-    EXPECT_EQ(SubItem(u"V1"_qs, 1), u"350 Kč"_qs);
-    EXPECT_EQ(SubItem(u"V1"_qs, 2), u"I. uzávěrka"_qs);
-    EXPECT_EQ(SubItem(u"V1"_qs, 3), u"Ano"_qs);
+    EXPECT_EQ(SubItem(u"V1"_s, 1), u"350 Kč"_s);
+    EXPECT_EQ(SubItem(u"V1"_s, 2), u"I. uzávěrka"_s);
+    EXPECT_EQ(SubItem(u"V1"_s, 3), u"Ano"_s);
 }
 
 TEST_F(DogCardTest, ABalanceIsGreenAboveZeroAndWordlessAtZero) {
@@ -149,12 +152,12 @@ TEST_F(DogCardTest, ABalanceIsGreenAboveZeroAndWordlessAtZero) {
     Enter(3, 1);
     Pay(3, 1349);
     Fill(3);
-    EXPECT_EQ(card.Rozdil, (InkedText{u" 0,00 Kč"_qs, std::nullopt}));
+    EXPECT_EQ(card.Rozdil, (InkedText{u" 0,00 Kč"_s, std::nullopt}));
     EXPECT_EQ(card.balanceWord.text, QString());
     Pay(3, 51);
     Fill(3);
-    EXPECT_EQ(card.Rozdil, (InkedText{u" 51,00 Kč"_qs, kGreen}));
-    EXPECT_EQ(card.balanceWord, (InkedText{u"Přeplatek"_qs, kGreen}));
+    EXPECT_EQ(card.Rozdil, (InkedText{u" 51,00 Kč"_s, kGreen}));
+    EXPECT_EQ(card.balanceWord, (InkedText{u"Přeplatek"_s, kGreen}));
 }
 
 TEST_F(DogCardTest, OfTwoShowsTheBalanceCountsTheLast) {
@@ -166,9 +169,9 @@ TEST_F(DogCardTest, OfTwoShowsTheBalanceCountsTheLast) {
     Enter(3, 1);
     Enter(3, 2);
     Fill(3);
-    EXPECT_EQ(Ticked(card.shows), u"V1 V2"_qs);
-    EXPECT_EQ(card.Rozdil.text, u"- 200,00 Kč"_qs);
-    EXPECT_EQ(card.CenaCelkem, u" 200,00 Kč"_qs);
+    EXPECT_EQ(Ticked(card.shows), u"V1 V2"_s);
+    EXPECT_EQ(card.Rozdil.text, u"- 200,00 Kč"_s);
+    EXPECT_EQ(card.CenaCelkem, u" 200,00 Kč"_s);
 }
 
 TEST_F(DogCardTest, TheSpecialBreedPaysFromItsColumnsButItsIdlePricesDoNot) {
@@ -179,10 +182,10 @@ TEST_F(DogCardTest, TheSpecialBreedPaysFromItsColumnsButItsIdlePricesDoNot) {
     Enter(5, 1);
     Enter(6, 2);
     Fill(5);
-    EXPECT_EQ(SubItem(u"V1"_qs, 1), u"1389 Kč"_qs);
-    EXPECT_EQ(SubItem(u"V2"_qs, 1), u"1729 Kč"_qs);
-    EXPECT_EQ(PriceColour(u"V2"_qs), kGrey);
-    EXPECT_EQ(card.CenaCelkem, u"1 389,00 Kč"_qs);
+    EXPECT_EQ(SubItem(u"V1"_s, 1), u"1389 Kč"_s);
+    EXPECT_EQ(SubItem(u"V2"_s, 1), u"1729 Kč"_s);
+    EXPECT_EQ(PriceColour(u"V2"_s), kGrey);
+    EXPECT_EQ(card.CenaCelkem, u"1 389,00 Kč"_s);
 }
 
 TEST_F(DogCardTest, AShowThatOnlyThisDogStandsInOrNobodyHasNoIdlePrice) {
@@ -193,8 +196,8 @@ TEST_F(DogCardTest, AShowThatOnlyThisDogStandsInOrNobodyHasNoIdlePrice) {
     Enter(3, 1);
     Enter(4, 1);
     Fill(3);
-    EXPECT_EQ(PriceColour(u"V1"_qs), std::nullopt);
-    EXPECT_EQ(SubItem(u"V2"_qs, 1), QString());
+    EXPECT_EQ(PriceColour(u"V1"_s), std::nullopt);
+    EXPECT_EQ(SubItem(u"V2"_s, 1), QString());
 }
 
 TEST_F(DogCardTest, AFeeNeverFilledInFailsInTheSumAndStaysBlankAsAnIdlePrice) {
@@ -204,8 +207,8 @@ TEST_F(DogCardTest, AFeeNeverFilledInFailsInTheSumAndStaysBlankAsAnIdlePrice) {
     Enter(3, 1);
     EXPECT_THROW(Fill(3), StoreError);
     Fill(4);
-    EXPECT_EQ(SubItem(u"V1"_qs, 1), u" Kč"_qs);
-    EXPECT_EQ(PriceColour(u"V1"_qs), kGrey);
+    EXPECT_EQ(SubItem(u"V1"_s, 1), u" Kč"_s);
+    EXPECT_EQ(PriceColour(u"V1"_s), kGrey);
 }
 
 TEST_F(DogCardTest, AClassWithoutAFeeColumnFails) {
@@ -228,18 +231,18 @@ TEST_F(DogCardTest, CompetitionsStandBehindTheShowsByNameAndCountWhenEntered) {
     Fill(3);
     ASSERT_EQ(card.shows.size(), 4U);
     EXPECT_EQ(card.shows[0].icon, LineIcon::Show);
-    EXPECT_EQ(card.shows[1].key, u"k2"_qs);
-    EXPECT_EQ(card.shows[1].tag, u"2"_qs);
+    EXPECT_EQ(card.shows[1].key, u"k2"_s);
+    EXPECT_EQ(card.shows[1].tag, u"2"_s);
     EXPECT_EQ(card.shows[1].icon, LineIcon::Competition);
-    EXPECT_EQ(card.shows[2].text, u"Šampion"_qs);
-    EXPECT_EQ(Ticked(card.shows), u"V1 k2 k3"_qs);
-    EXPECT_EQ(SubItem(u"k2"_qs, 1), u"50,5 Kč"_qs);
-    EXPECT_EQ(PriceColour(u"k2"_qs), std::nullopt);
-    EXPECT_EQ(SubItem(u"k1"_qs, 1), u"150 Kč"_qs);
-    EXPECT_EQ(PriceColour(u"k1"_qs), kGrey);
-    EXPECT_EQ(SubItem(u"k3"_qs, 1), u"0 Kč"_qs);
-    EXPECT_EQ(card.CenaCelkem, u"1 399,50 Kč"_qs);
-    EXPECT_EQ(card.Rozdil.text, u"- 50,50 Kč"_qs);
+    EXPECT_EQ(card.shows[2].text, u"Šampion"_s);
+    EXPECT_EQ(Ticked(card.shows), u"V1 k2 k3"_s);
+    EXPECT_EQ(SubItem(u"k2"_s, 1), u"50,5 Kč"_s);
+    EXPECT_EQ(PriceColour(u"k2"_s), std::nullopt);
+    EXPECT_EQ(SubItem(u"k1"_s, 1), u"150 Kč"_s);
+    EXPECT_EQ(PriceColour(u"k1"_s), kGrey);
+    EXPECT_EQ(SubItem(u"k3"_s, 1), u"0 Kč"_s);
+    EXPECT_EQ(card.CenaCelkem, u"1 399,50 Kč"_s);
+    EXPECT_EQ(card.Rozdil.text, u"- 50,50 Kč"_s);
 }
 
 TEST_F(DogCardTest, CompetitionsOfADogInNoShowAreOwedWhateverWasPaid) {
@@ -247,8 +250,8 @@ TEST_F(DogCardTest, CompetitionsOfADogInNoShowAreOwedWhateverWasPaid) {
     AddDog(3, "Alík");
     Compete(3, 1);
     Pay(3, 1000);
-    EXPECT_EQ(Fill(3).Rozdil.text, u"- 150,00 Kč"_qs);
-    EXPECT_EQ(card.CenaCelkem, u" 150,00 Kč"_qs);
+    EXPECT_EQ(Fill(3).Rozdil.text, u"- 150,00 Kč"_s);
+    EXPECT_EQ(card.CenaCelkem, u" 150,00 Kč"_s);
 }
 
 TEST_F(DogCardTest, AwardsAreListedAndTicked) {
@@ -257,8 +260,8 @@ TEST_F(DogCardTest, AwardsAreListedAndTicked) {
     Run("INSERT INTO PsiOceneni VALUES (3, 2), (99, 1)");
     Fill(3);
     ASSERT_EQ(card.awards.size(), 2U);
-    EXPECT_EQ(card.awards[0].text, u"CAC"_qs);
-    EXPECT_EQ(Ticked(card.awards), u"C2"_qs);
+    EXPECT_EQ(card.awards[0].text, u"CAC"_s);
+    EXPECT_EQ(Ticked(card.awards), u"C2"_s);
 }
 
 TEST_F(DogCardTest, AMissingOwnerBlanksFourLinesAndLeavesThree) {
@@ -271,9 +274,9 @@ TEST_F(DogCardTest, AMissingOwnerBlanksFourLinesAndLeavesThree) {
     EXPECT_EQ(card.Ulice, QString());
     EXPECT_EQ(card.PSC, QString());
     EXPECT_EQ(card.Mesto, QString());
-    EXPECT_EQ(card.Stat, u"CZ"_qs);
-    EXPECT_EQ(card.Telefon, u"603 111 222"_qs);
-    EXPECT_EQ(card.Email, u"jana@psi.cz"_qs);
+    EXPECT_EQ(card.Stat, u"CZ"_s);
+    EXPECT_EQ(card.Telefon, u"603 111 222"_s);
+    EXPECT_EQ(card.Email, u"jana@psi.cz"_s);
     EXPECT_EQ(Module().CurrentOwner, 88);
 }
 
@@ -284,14 +287,14 @@ TEST_F(DogCardTest, NeighboursAreTheNearestNamesInCzechOrder) {
     AddDog(4, "Chrt");
     AddDog(5, "Alík");
     Fill(2);
-    EXPECT_EQ(card.previous.key, u"P3"_qs);
-    EXPECT_EQ(card.previous.name, u"Cita z Lhoty"_qs);
-    EXPECT_EQ(card.next.key, u"P4"_qs);
+    EXPECT_EQ(card.previous.key, u"P3"_s);
+    EXPECT_EQ(card.previous.name, u"Cita z Lhoty"_s);
+    EXPECT_EQ(card.next.key, u"P4"_s);
     Fill(5);
     EXPECT_EQ(card.previous.key, QString());
-    EXPECT_EQ(card.next.key, u"P3"_qs);
+    EXPECT_EQ(card.next.key, u"P3"_s);
     Fill(1);
-    EXPECT_EQ(card.previous.key, u"P4"_qs);
+    EXPECT_EQ(card.previous.key, u"P4"_s);
     EXPECT_EQ(card.next.key, QString());
 }
 
@@ -301,9 +304,9 @@ TEST_F(DogCardTest, OfSeveralNeighboursOfOneNameItIsTheLast) {
     AddDog(3, "Bára");
     AddDog(4, "Cita");
     Fill(1);
-    EXPECT_EQ(card.next.key, u"P3"_qs);
+    EXPECT_EQ(card.next.key, u"P3"_s);
     Fill(4);
-    EXPECT_EQ(card.previous.key, u"P3"_qs);
+    EXPECT_EQ(card.previous.key, u"P3"_s);
 }
 
 TEST_F(DogCardTest, ADogAloneAndOneOfTheSameFullNameHaveNoNeighbours) {

@@ -11,6 +11,9 @@
 #include "support/watched_disk.h"
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 CheckLine Line(const QString& key, LineIcon icon, bool checked) {
@@ -23,10 +26,10 @@ CheckLine Line(const QString& key, LineIcon icon, bool checked) {
 
 /// Two shows and two competitions; `ticks` has an x for each ticked line.
 CheckLines Lines(std::string_view ticks) {
-    return {Line(u"V1"_qs, LineIcon::Show, ticks[0] == 'x'),
-            Line(u"V20"_qs, LineIcon::Show, ticks[1] == 'x'),
-            Line(u"k3"_qs, LineIcon::Competition, ticks[2] == 'x'),
-            Line(u"k41"_qs, LineIcon::Competition, ticks[3] == 'x')};
+    return {Line(u"V1"_s, LineIcon::Show, ticks[0] == 'x'),
+            Line(u"V20"_s, LineIcon::Show, ticks[1] == 'x'),
+            Line(u"k3"_s, LineIcon::Competition, ticks[2] == 'x'),
+            Line(u"k41"_s, LineIcon::Competition, ticks[3] == 'x')};
 }
 
 using EntryTicksKillTest = CardTest;
@@ -48,7 +51,7 @@ void LookAfterEachKill(const TempDatabase& database, const std::function<void()>
     for (const auto& files : kills) {
         const QTemporaryDir folder(TempDatabase::FolderTemplate());
         test::MakeFiles(folder.path(), files);
-        TheDataModule().Conn1.Open(folder.filePath(u"data.mdb"_qs));
+        TheDataModule().Conn1.Open(folder.filePath(u"data.mdb"_s));
         look();
         TheDataModule().Conn1.Close();
     }
@@ -69,7 +72,7 @@ TEST_F(EntryTicksKillTest, AKillLeavesTheEarlierTicksOrTheNewOnes) {
 TEST_F(EntryTicksKillTest, AKillLeavesTheEarlierAwardsOrTheNewOnes) {
     Run("INSERT INTO PsiOceneni VALUES (5, 1), (5, 2)");
     LookAfterEachKill(
-        database, [] { WriteAwards(5, {Line(u"C7"_qs, LineIcon::None, true)}); },
+        database, [] { WriteAwards(5, {Line(u"C7"_s, LineIcon::None, true)}); },
         [] {
             const bool isNew = AwardsOfDog(5) == std::vector({7});
             EXPECT_EQ(AwardsOfDog(5), isNew ? std::vector({7}) : std::vector({1, 2}));

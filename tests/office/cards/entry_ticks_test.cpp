@@ -7,6 +7,9 @@
 #include "office/cards/card_test.h"
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 CheckLine Line(const QString& key, LineIcon icon, bool checked) {
@@ -19,10 +22,10 @@ CheckLine Line(const QString& key, LineIcon icon, bool checked) {
 
 /// Two shows and two competitions; `ticks` has an x for each ticked line.
 CheckLines Lines(std::string_view ticks) {
-    return {Line(u"V1"_qs, LineIcon::Show, ticks[0] == 'x'),
-            Line(u"V20"_qs, LineIcon::Show, ticks[1] == 'x'),
-            Line(u"k3"_qs, LineIcon::Competition, ticks[2] == 'x'),
-            Line(u"k41"_qs, LineIcon::Competition, ticks[3] == 'x')};
+    return {Line(u"V1"_s, LineIcon::Show, ticks[0] == 'x'),
+            Line(u"V20"_s, LineIcon::Show, ticks[1] == 'x'),
+            Line(u"k3"_s, LineIcon::Competition, ticks[2] == 'x'),
+            Line(u"k41"_s, LineIcon::Competition, ticks[3] == 'x')};
 }
 
 struct RuleCase {
@@ -65,8 +68,8 @@ TEST_F(EntryTicksTest, EntriesAreRewrittenWholeForThatDogAlone) {
 
 TEST_F(EntryTicksTest, AwardsAreRewrittenWholeForThatDogAlone) {
     Run("INSERT INTO PsiOceneni VALUES (5, 1), (6, 1)");
-    WriteAwards(5, {Line(u"C1"_qs, LineIcon::None, false), Line(u"C2"_qs, LineIcon::None, true),
-                    Line(u"C30"_qs, LineIcon::None, true)});
+    WriteAwards(5, {Line(u"C1"_s, LineIcon::None, false), Line(u"C2"_s, LineIcon::None, true),
+                    Line(u"C30"_s, LineIcon::None, true)});
     EXPECT_EQ(AwardsOfDog(5), std::vector({2, 30}));
     EXPECT_EQ(AwardsOfDog(6), std::vector({1}));
 }

@@ -5,6 +5,9 @@
 #include "office/cards/card_test.h"
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class OwnerCardTest : public CardTest {
@@ -16,13 +19,13 @@ class OwnerCardTest : public CardTest {
 
 TEST_F(OwnerCardTest, FillsTheLinesOfTheOwner) {
     FillOwnerLines(card, 7);
-    EXPECT_EQ(card.title, u"Jana Malá"_qs);
-    EXPECT_EQ(card.Jmeno, u"Jana Malá"_qs);
-    EXPECT_EQ(card.Ulice, u"Dlouhá 5"_qs);
-    EXPECT_EQ(card.PSC, u"110 00"_qs);
-    EXPECT_EQ(card.Mesto, u"Praha"_qs);
-    EXPECT_EQ(card.Telefon, u"603 111 222"_qs);
-    EXPECT_EQ(card.Email, u"jana@psi.cz"_qs);
+    EXPECT_EQ(card.title, u"Jana Malá"_s);
+    EXPECT_EQ(card.Jmeno, u"Jana Malá"_s);
+    EXPECT_EQ(card.Ulice, u"Dlouhá 5"_s);
+    EXPECT_EQ(card.PSC, u"110 00"_s);
+    EXPECT_EQ(card.Mesto, u"Praha"_s);
+    EXPECT_EQ(card.Telefon, u"603 111 222"_s);
+    EXPECT_EQ(card.Email, u"jana@psi.cz"_s);
     EXPECT_THROW(FillOwnerLines(card, 8), StoreError);
 }
 
@@ -43,28 +46,28 @@ TEST_F(OwnerCardTest, ListsTheDogsWithFeesInPlainNumbers) {
     FillOwnerDogs(card, 7);
     ASSERT_EQ(card.dogs.size(), 2U);
     const OwnerDogLine& male = card.dogs[0];
-    EXPECT_EQ(male.key, u"P4"_qs);
-    EXPECT_EQ(male.tag, u"4"_qs);
-    EXPECT_EQ(male.name, (InkedText{u"Alík"_qs, QColor(0, 0, 255)}));
-    EXPECT_EQ(male.show, u"Hlavní výstava"_qs);
-    EXPECT_EQ(male.closing, u"I"_qs);
-    EXPECT_EQ(male.firstDog, u"Ano"_qs);
+    EXPECT_EQ(male.key, u"P4"_s);
+    EXPECT_EQ(male.tag, u"4"_s);
+    EXPECT_EQ(male.name, (InkedText{u"Alík"_s, QColor(0, 0, 255)}));
+    EXPECT_EQ(male.show, u"Hlavní výstava"_s);
+    EXPECT_EQ(male.closing, u"I"_s);
+    EXPECT_EQ(male.firstDog, u"Ano"_s);
     EXPECT_EQ(male.competitions, QString());
-    EXPECT_EQ(male.price, u"350 Kč"_qs);
-    EXPECT_EQ(male.paid, u"400 Kč"_qs);
-    EXPECT_EQ(male.balance, (InkedText{u"50 Kč"_qs, QColor(0, 255, 0)}));
-    EXPECT_EQ(male.note, u"kouše"_qs);
+    EXPECT_EQ(male.price, u"350 Kč"_s);
+    EXPECT_EQ(male.paid, u"400 Kč"_s);
+    EXPECT_EQ(male.balance, (InkedText{u"50 Kč"_s, QColor(0, 255, 0)}));
+    EXPECT_EQ(male.note, u"kouše"_s);
     const OwnerDogLine& bitch = card.dogs[1];
-    EXPECT_EQ(bitch.name, (InkedText{u"Bára"_qs, QColor(255, 0, 0)}));
-    EXPECT_EQ(bitch.closing, u"II"_qs);
+    EXPECT_EQ(bitch.name, (InkedText{u"Bára"_s, QColor(255, 0, 0)}));
+    EXPECT_EQ(bitch.closing, u"II"_s);
     EXPECT_EQ(bitch.firstDog, QString());
-    EXPECT_EQ(bitch.competitions, u"Dvojice, Šampion"_qs);
-    EXPECT_EQ(bitch.price, u"1549,5 Kč"_qs);
-    EXPECT_EQ(bitch.balance, (InkedText{u"-549,5 Kč"_qs, QColor(255, 0, 0)}));
-    EXPECT_EQ(card.price, u"1899,5 Kč"_qs);
-    EXPECT_EQ(card.paid, u"1400 Kč"_qs);
-    EXPECT_EQ(card.balance, (InkedText{u"-499,5 Kč"_qs, QColor(255, 0, 0)}));
-    EXPECT_EQ(card.dogCount, u"2"_qs);
+    EXPECT_EQ(bitch.competitions, u"Dvojice, Šampion"_s);
+    EXPECT_EQ(bitch.price, u"1549,5 Kč"_s);
+    EXPECT_EQ(bitch.balance, (InkedText{u"-549,5 Kč"_s, QColor(255, 0, 0)}));
+    EXPECT_EQ(card.price, u"1899,5 Kč"_s);
+    EXPECT_EQ(card.paid, u"1400 Kč"_s);
+    EXPECT_EQ(card.balance, (InkedText{u"-499,5 Kč"_s, QColor(255, 0, 0)}));
+    EXPECT_EQ(card.dogCount, u"2"_s);
     EXPECT_EQ(Module().CurrentDogID, 3);
 }
 
@@ -77,9 +80,9 @@ TEST_F(OwnerCardTest, SubtractsTheFeesOfAllShows) {
     Enter(3, 1);
     Enter(3, 2);
     FillOwnerDogs(card, 7);
-    EXPECT_EQ(card.dogs[0].show, u"První"_qs);
-    EXPECT_EQ(card.dogs[0].price, u"500 Kč"_qs);
-    EXPECT_EQ(card.dogs[0].balance.text, u"-500 Kč"_qs);
+    EXPECT_EQ(card.dogs[0].show, u"První"_s);
+    EXPECT_EQ(card.dogs[0].price, u"500 Kč"_s);
+    EXPECT_EQ(card.dogs[0].balance.text, u"-500 Kč"_s);
 }
 
 TEST_F(OwnerCardTest, ADogInNoShowHasNoPriceButOwesItsCompetitions) {
@@ -90,9 +93,9 @@ TEST_F(OwnerCardTest, ADogInNoShowHasNoPriceButOwesItsCompetitions) {
     FillOwnerDogs(card, 7);
     EXPECT_EQ(card.dogs[0].show, QString());
     EXPECT_EQ(card.dogs[0].price, QString());
-    EXPECT_EQ(card.dogs[0].competitions, u"Nic, Šampion"_qs);
-    EXPECT_EQ(card.dogs[0].balance.text, u"-150 Kč"_qs);
-    EXPECT_EQ(card.price, u"150 Kč"_qs);
+    EXPECT_EQ(card.dogs[0].competitions, u"Nic, Šampion"_s);
+    EXPECT_EQ(card.dogs[0].balance.text, u"-150 Kč"_s);
+    EXPECT_EQ(card.price, u"150 Kč"_s);
 }
 
 TEST_F(OwnerCardTest, TheSpecialBreedPaysFromTheColumnOfItsClassHere) {
@@ -100,16 +103,16 @@ TEST_F(OwnerCardTest, TheSpecialBreedPaysFromTheColumnOfItsClassHere) {
     AddDog(5, "Rolf", 949, 3);
     Enter(5, 1);
     FillOwnerDogs(card, 7);
-    EXPECT_EQ(card.dogs[0].price, u"1329 Kč"_qs);
+    EXPECT_EQ(card.dogs[0].price, u"1329 Kč"_s);
 }
 
 TEST_F(OwnerCardTest, AnOwnerWithoutDogsHasTotalsOfZeroInTheDefaultColour) {
     Module().CurrentDogID = 55;
     FillOwnerDogs(card, 7);
     EXPECT_TRUE(card.dogs.empty());
-    EXPECT_EQ(card.price, u"0 Kč"_qs);
-    EXPECT_EQ(card.balance, (InkedText{u"0 Kč"_qs, std::nullopt}));
-    EXPECT_EQ(card.dogCount, u"0"_qs);
+    EXPECT_EQ(card.price, u"0 Kč"_s);
+    EXPECT_EQ(card.balance, (InkedText{u"0 Kč"_s, std::nullopt}));
+    EXPECT_EQ(card.dogCount, u"0"_s);
     EXPECT_EQ(Module().CurrentDogID, 55);
 }
 

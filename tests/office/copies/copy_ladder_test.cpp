@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Positions = std::vector<std::size_t>;
@@ -22,7 +25,7 @@ std::vector<AgedCopy> Copies(const std::vector<int>& rows, int daysApart) {
 
 TEST(CopyLadder, NamesTellTheMoment) {
     const DateValue moment = DateValue::FromCalendar(2027, 5, 4).WithSecondOfDay(3661);
-    EXPECT_EQ(CopyName(moment), QStringLiteral("data 2027-05-04 01.01.01.mdb"));
+    EXPECT_EQ(CopyName(moment), u"data 2027-05-04 01.01.01.mdb"_s);
     EXPECT_EQ(MomentOfCopy(CopyName(moment)), moment);
     for (const char* name : {"data.mdb", "data 2027-05-04.mdb", "data 2027-02-30 01.01.01.mdb",
                              "data 2027-05-04 01.01.01.bak"})

@@ -11,6 +11,9 @@
 #include <QTest>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ShowCopiesTest : public ::testing::Test {
@@ -40,7 +43,7 @@ class ShowCopiesTest : public ::testing::Test {
 TEST_F(ShowCopiesTest, ACopyHoldsTheLatestEditsAndStandsAlone) {
     AddOwner("Eva");
     const QString copy = Copy();
-    EXPECT_EQ(Files(), QStringList{QStringLiteral("data 2027-05-15 08.00.00.mdb")});
+    EXPECT_EQ(Files(), QStringList{u"data 2027-05-15 08.00.00.mdb"_s});
     EXPECT_EQ(FiguresOfDatabase(copy).owners, 1);
     EXPECT_NO_THROW(RequireWholeDatabase(copy));
 }
@@ -57,7 +60,7 @@ TEST_F(ShowCopiesTest, AnUnchangedDatabaseIsNotCopiedTwice) {
 TEST_F(ShowCopiesTest, TheRestOfACopyThatWasKilledIsTakenAway) {
     AddOwner("Eva");
     QDir().mkpath(CopiesFolder(Folder()));
-    QFile rest(CopiesFolder(Folder()) + QStringLiteral("/rozpracovaná kopie.tmp"));
+    QFile rest(CopiesFolder(Folder()) + u"/rozpracovaná kopie.tmp"_s);
     ASSERT_TRUE(rest.open(QIODevice::WriteOnly));
     rest.write("half");
     rest.close();
@@ -72,10 +75,10 @@ TEST_F(ShowCopiesTest, ComparisonCountsWhatCameWentAndChanged) {
     AddOwner("Ota");
     DeleteOwner(1);
     Majitele jan = *OwnerByID(2);
-    jan.Mesto = QStringLiteral("Brno");
+    jan.Mesto = u"Brno"_s;
     UpdateOwner(jan);
     EXPECT_EQ(CompareDatabases(copy, DatabasePath(Folder()))[1],
-              QStringLiteral("Vystavovatelé: přibylo 1, ubylo 1, změnilo se 1."));
+              u"Vystavovatelé: přibylo 1, ubylo 1, změnilo se 1."_s);
 }
 
 TEST_F(ShowCopiesTest, PuttingBackCopiesThePresentStateFirst) {
@@ -86,7 +89,7 @@ TEST_F(ShowCopiesTest, PuttingBackCopiesThePresentStateFirst) {
     PutCopyBack(Folder(), copy, now.PlusDays(2));
     EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 1);
     EXPECT_EQ(FiguresOfDatabase(ListCopies(Folder(), true).front().path).owners, 2);
-    EXPECT_EQ(QDir(Folder()).entryList(QDir::Files), QStringList{QStringLiteral("data.mdb")});
+    EXPECT_EQ(QDir(Folder()).entryList(QDir::Files), QStringList{u"data.mdb"_s});
 }
 
 TEST_F(ShowCopiesTest, TheOldestCopyIsPutBackThoughAgeLetsItGo) {
@@ -109,7 +112,7 @@ TEST_F(ShowCopiesTest, ADamagedDatabaseGoesAsideWhenACopyIsPutBack) {
     Damage(DatabasePath(Folder()));
     PutCopyBack(Folder(), copy, now);
     EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 1);
-    EXPECT_EQ(Files().filter(QStringLiteral("poškozená")).size(), 1);
+    EXPECT_EQ(Files().filter(u"poškozená"_s).size(), 1);
 }
 
 TEST_F(ShowCopiesTest, ADamagedCopyIsRefusedAndNothingChanges) {
@@ -131,7 +134,7 @@ TEST_F(ShowCopiesTest, DamageNamesTheNewestGoodCopy) {
     Damage(DatabasePath(Folder()));
     const CopyOutcome outcome = TryCopy(Folder(), now.PlusDays(3));
     EXPECT_TRUE(outcome.isDamaged) << outcome.failure.toStdString();
-    EXPECT_EQ(outcome.newestGood, QStringLiteral("data 2027-05-15 08.00.00.mdb"));
+    EXPECT_EQ(outcome.newestGood, u"data 2027-05-15 08.00.00.mdb"_s);
     EXPECT_EQ(outcome.daysOld, 3);
     EXPECT_EQ(Files().size(), 1);
 }

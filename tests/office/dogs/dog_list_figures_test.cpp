@@ -10,6 +10,9 @@
 #include <random>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::string AmountOf(Currency amount) {
@@ -38,9 +41,9 @@ std::string DescribeByWalk(const DogListRow& dog) {
     owed += prices;
     const Currency paid = PaidForDog(dog.IDPsa);
     return shows.join(u' ').toStdString() + '|' + lastFee + '|' +
-           competitions.join(QStringLiteral(", ")).toStdString() + '|' + AmountOf(prices) + '|' +
-           AwardNamesOfDog(dog.IDPsa).join(QStringLiteral(", ")).toStdString() + '|' +
-           AmountOf(owed) + '|' + AmountOf(paid) + '|' + AmountOf(paid - owed);
+           competitions.join(u", "_s).toStdString() + '|' + AmountOf(prices) + '|' +
+           AwardNamesOfDog(dog.IDPsa).join(u", "_s).toStdString() + '|' + AmountOf(owed) + '|' +
+           AmountOf(paid) + '|' + AmountOf(paid - owed);
 }
 
 std::string Describe(const DogListFigures& figures) {

@@ -21,6 +21,9 @@
 #include <set>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a dog owes by the rows that belong to it, reckoned without the code under test.
@@ -60,11 +63,11 @@ class ReadersOfMadeUpShows : public ::testing::TestWithParam<std::uint64_t> {
   protected:
     ReadersOfMadeUpShows() {
         Module() = ModuleValues();
-        Module().MainCurrency = QStringLiteral("Kč");
+        Module().MainCurrency = u"Kč"_s;
         show::GenerateShow({"small", 160, 60, 3, 12, 2, 150}, GetParam(), show::Numbers::None);
         // What the made-up show lacks: a competition entered twice, and one without a price.
         Souteze free;
-        free.Nazev = QStringLiteral("Zdarma");
+        free.Nazev = u"Zdarma"_s;
         const int paid = Competitions().front().ID;
         AddDogToCompetitions(DogsByName().front().ID, {paid, paid, InsertCompetition(free)});
     }

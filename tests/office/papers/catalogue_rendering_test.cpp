@@ -12,6 +12,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Two rings with three breeds, males and bitches of two classes in each breed.
@@ -42,7 +44,7 @@ class CatalogueRendering : public testing::Test {
     QString Pdf(FontSet fonts) {
         DocxWordProcessors processors(*ThePlatform().opener, *ThePlatform().clock,
                                       platform_.ProgramFolder());
-        const auto word = processors.Create(QStringLiteral("Katalog"));
+        const auto word = processors.Create(u"Katalog"_s);
         TypeCatalogue(*word, true);
         return PdfOf(word->Show().path, platform_.ProgramFolder(), fonts);
     }
@@ -54,10 +56,9 @@ class CatalogueRendering : public testing::Test {
 TEST_F(CatalogueRendering, ReadsInTwoColumnsOnALandscapePage) {
     ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
     const QString pdf = Pdf(FontSet::Liberation);
-    EXPECT_TRUE(
-        PdfInfo(pdf).contains(QRegularExpression(QStringLiteral("Page size: +841\\.\\d+ x 595"))));
+    EXPECT_TRUE(PdfInfo(pdf).contains(QRegularExpression(u"Page size: +841\\.\\d+ x 595"_s)));
     const QString first = PdfPages(pdf).first();
-    const auto neighbours = QRegularExpression(QStringLiteral("Dog0 z Podlesí {4,}[^ ]"));
+    const auto neighbours = QRegularExpression(u"Dog0 z Podlesí {4,}[^ ]"_s);
     EXPECT_FALSE(first.split(u'\n').filter(neighbours).isEmpty()) << "no two columns:\n"
                                                                   << first.toStdString();
     for (const char16_t* text :
@@ -70,8 +71,8 @@ TEST_F(CatalogueRendering, ReadsInTwoColumnsOnALandscapePage) {
 TEST_F(CatalogueRendering, NoEntryIsTornAndNoHeadingStandsAloneWithAnyFonts) {
     ASSERT_TRUE(HasOfficeProgram()) << "test.sh installs the office program that lays this out";
     constexpr int kHalfPage = 397; // the first column ends at 375 points, the second begins at 410
-    const auto begins = QRegularExpression(QStringLiteral("^(Kruh|Boxer|Čuvač|Pug| *Pes -| *Fena -|"
-                                                          "\\d+ Dog)"));
+    const auto begins = QRegularExpression(u"^(Kruh|Boxer|Čuvač|Pug| *Pes -| *Fena -|"
+                                           "\\d+ Dog)"_s);
     QStringList beginnings;
     for (const FontSet fonts : kFontSets) {
         QStringList firstLines;
@@ -81,8 +82,7 @@ TEST_F(CatalogueRendering, NoEntryIsTornAndNoHeadingStandsAloneWithAnyFonts) {
                 continue;
             const QString first = lines.first().trimmed();
             EXPECT_TRUE(first.contains(begins)) << first.toStdString();
-            EXPECT_TRUE(lines.last().contains(QStringLiteral("ch. :")))
-                << lines.last().toStdString();
+            EXPECT_TRUE(lines.last().contains(u"ch. :"_s)) << lines.last().toStdString();
             firstLines << first;
         }
         EXPECT_GT(firstLines.size(), 4) << NameOf(fonts).toStdString();

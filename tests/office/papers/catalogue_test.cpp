@@ -10,6 +10,8 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Catalogue : public testing::Test {
@@ -35,7 +37,7 @@ class Catalogue : public testing::Test {
     /// The operations that type the catalogue.
     QStringList Operations(bool withAwards = false) {
         platform.wordOperations.clear();
-        TypeCatalogue(*ThePlatform().wordProcessors->Create(u"Katalog"_qs), withAwards);
+        TypeCatalogue(*ThePlatform().wordProcessors->Create(u"Katalog"_s), withAwards);
         return platform.wordOperations;
     }
     /// The typed text: "¶" at the end of each paragraph, one a line.
@@ -43,7 +45,7 @@ class Catalogue : public testing::Test {
         QString text;
         for (const QString& operation : Operations(withAwards)) {
             if (operation == u"TypeParagraph")
-                text += u"¶\n"_qs;
+                text += u"¶\n"_s;
             else if (operation.startsWith(u"TypeText \""))
                 text += operation.mid(10).chopped(1);
         }
@@ -54,16 +56,15 @@ class Catalogue : public testing::Test {
     TempDatabase show;
 };
 
-const QString kEnd =
-    QStringLiteral("HomeKeyStory|WholeStory|AddTextColumn 332.22 35.43|AddTabStop 28.35|"
-                   "AddTabStop 170.08|SetZoomWholePage|SetOrientation Landscape|"
-                   "SetLeftMargin 42.52|SetRightMargin 42.52|HomeKeyStory");
+const QString kEnd = u"HomeKeyStory|WholeStory|AddTextColumn 332.22 35.43|AddTabStop 28.35|"
+                     "AddTabStop 170.08|SetZoomWholePage|SetOrientation Landscape|"
+                     "SetLeftMargin 42.52|SetRightMargin 42.52|HomeKeyStory"_s;
 
 } // namespace
 
 TEST_F(Catalogue, OfAnEmptyShowIsAPageInTwoColumns) {
     show.Execute("DELETE FROM Kruhy");
-    EXPECT_EQ(Operations().join(u'|'), u"SetOrientation Landscape|"_qs + kEnd);
+    EXPECT_EQ(Operations().join(u'|'), u"SetOrientation Landscape|"_s + kEnd);
 }
 
 TEST_F(Catalogue, TypesADogInItsFormats) {
@@ -77,14 +78,14 @@ TEST_F(Catalogue, TypesADogInItsFormats) {
         "SetFontName \"Arial\"|SetUnderline Off|SetBold On|SetFontSize 14|TypeText \"Boxer \"|"
         "TypeParagraph|TypeParagraph|"
         "SetFontName \"Arial\"|SetUnderline Off|SetBold On|SetFontSize 10|"
-        "TypeText \"   Pes - \"|TypeText \"třída "_qs +
+        "TypeText \"   Pes - \"|TypeText \"třída "_s +
         Module().ClassNames[1] +
         u"\"|TypeParagraph|TypeParagraph|TypeText \"12 \"|SetBold Off|SetFontSize 9|"
         "TypeText \"Rex z Dvora\"|TypeParagraph|"
         "TypeText \"  nar. : 14.5.2003\\t  CMKU/B/1\"|TypeParagraph|"
         "TypeText \"  o. :\\tÁron\\tm. : Bára\"|TypeParagraph|"
         "TypeText \"  ch. : \\tPetr Malý\\tmaj. : \"|TypeText \"Jan Novák\"|"
-        "TypeParagraph|TypeParagraph|TypeParagraph|"_qs +
+        "TypeParagraph|TypeParagraph|TypeParagraph|"_s +
         kEnd;
     EXPECT_EQ(Operations().join(u'|'), expected);
 }
@@ -94,7 +95,7 @@ TEST_F(Catalogue, EmptyFieldsPrintAsEmpty) {
     const QString text = Text();
     EXPECT_TRUE(
         text.contains(u"\n Rex ¶\n  nar. : \\t  ¶\n  o. :\\t\\tm. : ¶\n  ch. : \\t\\tmaj. : "
-                      "Jan Novák¶\n"_qs))
+                      "Jan Novák¶\n"_s))
         << text.toStdString();
 }
 
@@ -106,20 +107,20 @@ TEST_F(Catalogue, RingsAndTheirBreedsInUseRunByName) {
         "(14, 'Pudl', '', -1, 0), (15, 'Chodský pes', '', -1, 2), (16, NULL, 'Hovawart', -1, 2)");
     EXPECT_EQ(Text(), u" ¶\n¶\n"
                       "Áčko ¶\n¶\nHovawart ¶\n¶\n¶\nChodský pes ¶\n¶\n¶\n"
-                      "Kruh 1 ¶\n¶\nAiredale ¶\n¶\n¶\nBoxer ¶\n¶\n¶\nČuvač ¶\n¶\n¶\n"_qs);
+                      "Kruh 1 ¶\n¶\nAiredale ¶\n¶\n¶\nBoxer ¶\n¶\n¶\nČuvač ¶\n¶\n¶\n"_s);
 }
 
 TEST_F(Catalogue, ABreedWithoutACzechNamePrintsTheOriginalOne) {
     show.Execute("UPDATE Plemena SET Nazev = ''");
-    EXPECT_EQ(Text(), u"Kruh 1 ¶\n¶\nDeutscher Boxer ¶\n¶\n¶\n"_qs);
+    EXPECT_EQ(Text(), u"Kruh 1 ¶\n¶\nDeutscher Boxer ¶\n¶\n¶\n"_s);
 }
 
 TEST_F(Catalogue, DogsOfBreedsInNoRingAndOfUnusedBreedsStayOut) {
     AddDog(1, "Rex", true, 1);
     show.Execute("UPDATE Plemena SET Pouzivat = 0");
-    EXPECT_EQ(Text(), u"Kruh 1 ¶\n¶\n"_qs);
+    EXPECT_EQ(Text(), u"Kruh 1 ¶\n¶\n"_s);
     show.Execute("UPDATE Plemena SET Pouzivat = -1, ID_Kruhu = 0");
-    EXPECT_EQ(Text(), u"Kruh 1 ¶\n¶\n"_qs);
+    EXPECT_EQ(Text(), u"Kruh 1 ¶\n¶\n"_s);
 }
 
 TEST_F(Catalogue, DogsRunBySexClassAndNameWithAHeadingWhereSexOrClassChanges) {
@@ -130,30 +131,30 @@ TEST_F(Catalogue, DogsRunBySexClassAndNameWithAHeadingWhereSexOrClassChanges) {
     AddDog(5, "Zita", false, 2);
     QStringList lines;
     for (const QString& line : Text().split(u'\n')) {
-        if (line.startsWith(u"   ") || line.contains(QRegularExpression(u"^\\d* [A-Z]"_qs)))
+        if (line.startsWith(u"   ") || line.contains(QRegularExpression(u"^\\d* [A-Z]"_s)))
             lines << line;
     }
     const auto heading = [](const char16_t* sex, std::size_t trida) {
-        return u"   "_qs + QString::fromUtf16(sex) + u" - třída "_qs +
+        return u"   "_s + QString::fromUtf16(sex) + u" - třída "_s +
                Module().ClassNames[trida - 1] + u'¶';
     };
-    EXPECT_EQ(lines, QStringList({heading(u"Pes", 1), u"10 Alan ¶"_qs, u"9 Ben ¶"_qs,
-                                  heading(u"Pes", 2), u" Cyr ¶"_qs, heading(u"Fena", 1),
-                                  u" Dora ¶"_qs, heading(u"Fena", 2), u" Zita ¶"_qs}));
+    EXPECT_EQ(lines, QStringList({heading(u"Pes", 1), u"10 Alan ¶"_s, u"9 Ben ¶"_s,
+                                  heading(u"Pes", 2), u" Cyr ¶"_s, heading(u"Fena", 1),
+                                  u" Dora ¶"_s, heading(u"Fena", 2), u" Zita ¶"_s}));
 }
 
 TEST_F(Catalogue, TheFirstDogOfEveryBreedHasItsHeading) {
     show.Execute("INSERT INTO Plemena (ID, Nazev, Pouzivat, ID_Kruhu) VALUES (11, 'Čuvač', -1, 1)");
     AddDog(1, "Rex", true, 1);
     AddDog(2, "Asta", true, 1, "PlemenoID = 11");
-    EXPECT_EQ(Text().count(u"   Pes - třída "_qs), 2);
+    EXPECT_EQ(Text().count(u"   Pes - třída "_s), 2);
 }
 
 TEST_F(Catalogue, TheIntermediateClassIsNamedByItself) {
     AddDog(1, "Rex", true, 4);
     const QString text = Text();
-    EXPECT_TRUE(text.contains(u"   Pes - mezitřída ¶\n"_qs)) << text.toStdString();
-    EXPECT_FALSE(text.contains(u"- třída"_qs));
+    EXPECT_TRUE(text.contains(u"   Pes - mezitřída ¶\n"_s)) << text.toStdString();
+    EXPECT_FALSE(text.contains(u"- třída"_s));
 }
 
 TEST_F(Catalogue, AwardsAreJoinedByCommasAndTheirCaptionAlwaysStands) {
@@ -162,15 +163,15 @@ TEST_F(Catalogue, AwardsAreJoinedByCommasAndTheirCaptionAlwaysStands) {
     show.Execute("INSERT INTO Oceneni (ID, Nazev) VALUES (1, 'CAC'), (2, 'Vítěz třídy');"
                  "INSERT INTO PsiOceneni (IDPsa, IDOceneni) VALUES (1, 2), (1, 1), (1, 99)");
     const QString text = Text(true);
-    EXPECT_TRUE(text.contains(u"\\t  ¶\nOcenění :\\tVítěz třídy, CAC¶\n  o. :"_qs))
+    EXPECT_TRUE(text.contains(u"\\t  ¶\nOcenění :\\tVítěz třídy, CAC¶\n  o. :"_s))
         << text.toStdString();
-    EXPECT_TRUE(text.contains(u"\\t  ¶\nOcenění :\\t¶\n  o. :"_qs)) << text.toStdString();
-    EXPECT_FALSE(Text(false).contains(u"Ocenění"_qs));
+    EXPECT_TRUE(text.contains(u"\\t  ¶\nOcenění :\\t¶\n  o. :"_s)) << text.toStdString();
+    EXPECT_FALSE(Text(false).contains(u"Ocenění"_s));
 }
 
 TEST_F(Catalogue, ADogWhoseOwnerIsGonePrintsTheCaptionAlone) {
     AddDog(1, "Rex", true, 1, "MajitelID = 77");
-    EXPECT_TRUE(Text().contains(u"\\tmaj. : ¶\n¶\n¶\n"_qs));
+    EXPECT_TRUE(Text().contains(u"\\tmaj. : ¶\n¶\n¶\n"_s));
 }
 
 TEST_F(Catalogue, AClassOutsideTheTableEndsItWithTheDogsName) {

@@ -9,6 +9,9 @@
 #include <random>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char* kSimple =
@@ -74,7 +77,7 @@ TEST(ReportTemplate, ClosingBeforeOpeningIsAFailure) {
 
 TEST(ReportTemplate, MissingFileIsMadeEmpty) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("Diplomy.html"));
+    const QString path = folder.filePath(u"Diplomy.html"_s);
     EXPECT_EQ(ReportTemplate::Read(path, TemplateKind::Rows).Check(),
               ReportTemplate::Fault::MarkerMissing);
     EXPECT_TRUE(QFile::exists(path));
@@ -84,8 +87,7 @@ TEST(ReportTemplate, MissingFileIsMadeEmpty) {
 TEST(ReportTemplate, MissingFolderIsAFailureThatNamesTheFile) {
     const QTemporaryDir folder;
     try {
-        ReportTemplate::Read(folder.filePath(QStringLiteral("Šablony/Diplomy.html")),
-                             TemplateKind::Rows);
+        ReportTemplate::Read(folder.filePath(u"Šablony/Diplomy.html"_s), TemplateKind::Rows);
         FAIL();
     } catch (const PlatformError& error) {
         EXPECT_NE(std::string(error.what()).find("Diplomy.html"), std::string::npos);

@@ -10,6 +10,9 @@
 #include <ostream>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Delivered {
@@ -38,15 +41,14 @@ const Delivered kDelivered[] = {
 };
 
 QByteArray Bytes(const Delivered& delivered) {
-    QFile file(test::SourceFile(QStringLiteral("Šablony/") + QString::fromUtf16(delivered.file)));
+    QFile file(test::SourceFile(u"Šablony/"_s + QString::fromUtf16(delivered.file)));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// The words with underscores around them, each once.
 QStringList Placeholders(const QByteArray& section) {
     QStringList words;
-    const QRegularExpression word(
-        QStringLiteral("(?<![_A-Za-z0-9])_([A-Za-z0-9]+)_(?![_A-Za-z0-9])"));
+    const QRegularExpression word(u"(?<![_A-Za-z0-9])_([A-Za-z0-9]+)_(?![_A-Za-z0-9])"_s);
     for (auto match = word.globalMatch(FromCp1250(section)); match.hasNext();)
         words << match.next().captured(1);
     words.sort();
@@ -78,7 +80,7 @@ TEST_P(DeliveredTemplate, HoldsEveryPlaceholderOfItsReportAndNoOther) {
 TEST_P(DeliveredTemplate, IsInItsCodePageAndSaysSo) {
     EXPECT_EQ(ToCp1250(FromCp1250(bytes)), bytes);
     EXPECT_NE(QString::fromUtf8(bytes).toUtf8(), bytes) << "the file is UTF-8";
-    EXPECT_FALSE(FromCp1250(bytes).contains(QRegularExpression(QStringLiteral("[\\x80-\\x9f]"))));
+    EXPECT_FALSE(FromCp1250(bytes).contains(QRegularExpression(u"[\\x80-\\x9f]"_s)));
     EXPECT_TRUE(pattern.Top().startsWith("<!DOCTYPE HTML PUBLIC '-//W3C//DTD HTML 4.01"));
     EXPECT_TRUE(pattern.Top().contains(
         "<meta http-equiv='content-type' content='text/html; charset=windows-1250'>"));

@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DogTextsTest : public ::testing::Test {
@@ -18,8 +21,8 @@ class DogTextsTest : public ::testing::Test {
 };
 
 TEST_F(DogTextsTest, AFullNameKeepsItsBlankWhereAPartIsMissing) {
-    EXPECT_EQ(FullName(u"Rex"_qs, u"z Lhoty"_qs), u"Rex z Lhoty");
-    EXPECT_EQ(FullName(u"Rex"_qs, {}), u"Rex ");
+    EXPECT_EQ(FullName(u"Rex"_s, u"z Lhoty"_s), u"Rex z Lhoty");
+    EXPECT_EQ(FullName(u"Rex"_s, {}), u"Rex ");
 }
 
 TEST_F(DogTextsTest, EachBreedHasItsTableOfClasses) {
@@ -31,7 +34,7 @@ TEST_F(DogTextsTest, EachBreedHasItsTableOfClasses) {
 TEST_F(DogTextsTest, AClassOutsideTheTableNamesItsDogWithItsPercentSigns) {
     for (const int trida : {0, 21}) {
         try {
-            ClassName(trida, Module().ClassNames, u"Sto %1 a %2"_qs);
+            ClassName(trida, Module().ClassNames, u"Sto %1 a %2"_s);
             FAIL() << trida;
         } catch (const RangeError& failure) {
             EXPECT_EQ(failure.what(), "Pes „Sto %1 a %2“ má třídu " + std::to_string(trida) +
@@ -55,8 +58,8 @@ TEST_F(DogTextsTest, WhatIsNotKnownIsEmpty) {
 }
 
 TEST_F(DogTextsTest, ABreedWithoutACzechNameHasItsOriginalOne) {
-    EXPECT_EQ(BreedName(u"Pudl"_qs, u"Caniche"_qs), u"Pudl");
-    EXPECT_EQ(BreedName({}, u"Caniche"_qs), u"Caniche");
+    EXPECT_EQ(BreedName(u"Pudl"_s, u"Caniche"_s), u"Pudl");
+    EXPECT_EQ(BreedName({}, u"Caniche"_s), u"Caniche");
 }
 
 TEST_F(DogTextsTest, ABalanceIsRedBelowZeroAndGreenAbove) {

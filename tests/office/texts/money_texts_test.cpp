@@ -6,13 +6,16 @@
 #include <gtest/gtest.h>
 
 namespace lorvo::test {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MoneyTextsTest : public ::testing::Test {
   protected:
     MoneyTextsTest() {
         Module() = ModuleValues();
-        Module().MainCurrency = QStringLiteral("Kč");
+        Module().MainCurrency = u"Kč"_s;
     }
     ~MoneyTextsTest() override { Module() = ModuleValues(); }
 

@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class NodeHistoryTest : public ::testing::Test {
@@ -31,41 +34,41 @@ class NodeHistoryTest : public ::testing::Test {
 
 TEST_F(NodeHistoryTest, BackIsDisabledUntilASecondNodeHasBeenShown) {
     EXPECT_FALSE(history_.BackEnabled());
-    history_.Record(u"K1"_qs);
+    history_.Record(u"K1"_s);
     EXPECT_FALSE(history_.BackEnabled());
-    history_.Record(u"R2"_qs);
+    history_.Record(u"R2"_s);
     EXPECT_TRUE(history_.BackEnabled());
     EXPECT_FALSE(history_.ForwardEnabled());
 }
 
 TEST_F(NodeHistoryTest, StepsThereAndBack) {
-    RecordAll({u"K1"_qs, u"R2"_qs, u"P3"_qs});
-    EXPECT_EQ(Back(), u"R2"_qs);
+    RecordAll({u"K1"_s, u"R2"_s, u"P3"_s});
+    EXPECT_EQ(Back(), u"R2"_s);
     EXPECT_TRUE(history_.BackEnabled());
     EXPECT_TRUE(history_.ForwardEnabled());
-    EXPECT_EQ(Back(), u"K1"_qs);
+    EXPECT_EQ(Back(), u"K1"_s);
     EXPECT_FALSE(history_.BackEnabled());
-    EXPECT_EQ(Forward(), u"R2"_qs);
+    EXPECT_EQ(Forward(), u"R2"_s);
     EXPECT_TRUE(history_.ForwardEnabled());
-    EXPECT_EQ(Forward(), u"P3"_qs);
+    EXPECT_EQ(Forward(), u"P3"_s);
     EXPECT_FALSE(history_.ForwardEnabled());
     EXPECT_TRUE(history_.BackEnabled());
 }
 
 TEST_F(NodeHistoryTest, ANodeShownByAStepIsNotRecorded) {
-    RecordAll({u"K1"_qs, u"R2"_qs});
+    RecordAll({u"K1"_s, u"R2"_s});
     history_.GoBack([&](const QString& key) { history_.Record(key); });
-    EXPECT_EQ(Forward(), u"R2"_qs);
+    EXPECT_EQ(Forward(), u"R2"_s);
     EXPECT_FALSE(history_.ForwardEnabled());
 }
 
 TEST_F(NodeHistoryTest, ThePositionStaysWhenANodeIsRecordedAfterAStepBack) {
-    RecordAll({u"K1"_qs, u"R2"_qs, u"P3"_qs});
-    EXPECT_EQ(Back(), u"R2"_qs);
-    history_.Record(u"P4"_qs);
+    RecordAll({u"K1"_s, u"R2"_s, u"P3"_s});
+    EXPECT_EQ(Back(), u"R2"_s);
+    history_.Record(u"P4"_s);
     EXPECT_TRUE(history_.ForwardEnabled());
-    EXPECT_EQ(Back(), u"R2"_qs) << "the next step goes from the old index, not from the newest";
-    EXPECT_EQ(Back(), u"K1"_qs);
+    EXPECT_EQ(Back(), u"R2"_s) << "the next step goes from the old index, not from the newest";
+    EXPECT_EQ(Back(), u"K1"_s);
 }
 
 TEST_F(NodeHistoryTest, TheOldestOfAThousandAndOneFallsOff) {
@@ -78,14 +81,14 @@ TEST_F(NodeHistoryTest, TheOldestOfAThousandAndOneFallsOff) {
         ++steps;
     }
     EXPECT_EQ(steps, 1000);
-    EXPECT_EQ(oldest, u"P1"_qs);
+    EXPECT_EQ(oldest, u"P1"_s);
 }
 
 TEST_F(NodeHistoryTest, AStepToANodeThatIsGoneRaisesAndRecordingGoesOn) {
-    RecordAll({u"K1"_qs, u"R2"_qs});
+    RecordAll({u"K1"_s, u"R2"_s});
     EXPECT_THROW(history_.GoBack([](const QString&) { throw Error("gone"); }), Error);
-    history_.Record(u"P3"_qs);
-    EXPECT_EQ(Back(), u"K1"_qs);
+    history_.Record(u"P3"_s);
+    EXPECT_EQ(Back(), u"K1"_s);
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 TEST(NodeKey, ReadsAndWritesEachKind) {
     const std::pair<const char16_t*, NodeKey> cases[] = {
         {u"K0", NodeKey::UnassignedRoot()}, {u"K12", NodeKey::Ring(12)},
@@ -19,8 +21,8 @@ TEST(NodeKey, ReadsAndWritesEachKind) {
 }
 
 TEST(NodeKey, TellsRingsFromTheUnassignedRoot) {
-    EXPECT_EQ(NodeKey::FromText(u"K0"_qs)->kind, NodeKind::UnassignedRoot);
-    EXPECT_EQ(NodeKey::FromText(u"K1"_qs)->kind, NodeKind::Ring);
+    EXPECT_EQ(NodeKey::FromText(u"K0"_s)->kind, NodeKind::UnassignedRoot);
+    EXPECT_EQ(NodeKey::FromText(u"K1"_s)->kind, NodeKind::Ring);
     EXPECT_EQ(NodeKey::Ring(0), NodeKey::UnassignedRoot());
 }
 

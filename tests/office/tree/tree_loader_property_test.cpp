@@ -13,13 +13,16 @@
 #include <random>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The tree's lines by the plain walk, up to the dog at which it fails.
 class PlainWalk {
   public:
     QStringList Lines() {
-        lines_ = {test::TreeLine(0, u"K0"_qs, u"Nezařazeno v kruhu"_qs)};
+        lines_ = {test::TreeLine(0, u"K0"_s, u"Nezařazeno v kruhu"_s)};
         failed_ = !Breeds("ID_Kruhu = 0 AND Pouzivat = true", false) || !Rings();
         return lines_;
     }
@@ -68,7 +71,7 @@ class PlainWalk {
         }
         lines_ += groups[0];
         for (std::size_t i = 1; i < groups.size(); ++i) {
-            lines_ += QStringLiteral("    TR%1|%2 ").arg(breed).arg(i);
+            lines_ += u"    TR%1|%2 "_s.arg(breed).arg(i);
             lines_ += groups[i];
         }
         return complete;
@@ -77,9 +80,8 @@ class PlainWalk {
     static QString DogLine(const RecordSet& dog, bool inRing) {
         QString text = dog.Field("Jmeno").ToText();
         if (Module().DogDetailInTree && !inRing) {
-            text +=
-                dog.Field("PrvniUzaverka").ToBool() ? u" (I. uzávěrka"_qs : u" (II. uzávěrka"_qs;
-            text += dog.Field("PrvniPes").ToBool() ? u", 1.pes majitele)"_qs : u")"_qs;
+            text += dog.Field("PrvniUzaverka").ToBool() ? u" (I. uzávěrka"_s : u" (II. uzávěrka"_s;
+            text += dog.Field("PrvniPes").ToBool() ? u", 1.pes majitele)"_s : u")"_s;
         }
         if (dog.Field("Cislo").ToInt() > 0)
             text = dog.Field("Cislo").ToText() + u' ' + text;

@@ -9,6 +9,9 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TreeLoaderTest : public ::testing::Test {
@@ -26,9 +29,9 @@ class TreeLoaderTest : public ::testing::Test {
 };
 
 TEST_F(TreeLoaderTest, ShowsTheUnassignedRootOfAnEmptyDatabase) {
-    EXPECT_EQ(Load(), QStringList{u"K0 Nezařazeno v kruhu"_qs});
+    EXPECT_EQ(Load(), QStringList{u"K0 Nezařazeno v kruhu"_s});
     EXPECT_TRUE(nodes.First()->bold);
-    EXPECT_EQ(Tables().PaymentModes[1], u"hotově"_qs);
+    EXPECT_EQ(Tables().PaymentModes[1], u"hotově"_s);
 }
 
 TEST_F(TreeLoaderTest, ShowsAnUnusedBreedOnlyInARing) {
@@ -37,14 +40,14 @@ TEST_F(TreeLoaderTest, ShowsAnUnusedBreedOnlyInARing) {
         "INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES"
         " (1, 'Barzoj', 0, 0), (2, 'Boxer', 0, -1), (3, 'Čivava', 4, 0);"
         "INSERT INTO Psi (ID, Jmeno, PlemenoID) VALUES (1, 'Alík', 1), (3, 'Cvrk', 3)");
-    EXPECT_EQ(Load(), (QStringList{u"K0 Nezařazeno v kruhu"_qs, u"  R2 Boxer"_qs, u"K4 A"_qs,
-                                   u"  R3 Čivava"_qs, u"    P3 Cvrk"_qs}));
+    EXPECT_EQ(Load(), (QStringList{u"K0 Nezařazeno v kruhu"_s, u"  R2 Boxer"_s, u"K4 A"_s,
+                                   u"  R3 Čivava"_s, u"    P3 Cvrk"_s}));
 }
 
 TEST_F(TreeLoaderTest, HidesBreedsOfARingThatIsGone) {
     database.Execute("INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES"
                      " (1, 'Barzoj', 9, -1), (2, 'Boxer', NULL, -1)");
-    EXPECT_EQ(Load(), QStringList{u"K0 Nezařazeno v kruhu"_qs});
+    EXPECT_EQ(Load(), QStringList{u"K0 Nezařazeno v kruhu"_s});
 }
 
 TEST_F(TreeLoaderTest, FallsBackToTheOriginalNameInRingsAlone) {
@@ -52,16 +55,16 @@ TEST_F(TreeLoaderTest, FallsBackToTheOriginalNameInRingsAlone) {
         "INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'A');"
         "INSERT INTO Plemena (ID, Nazev, NazevOrig, ID_Kruhu, Pouzivat) VALUES"
         " (1, '', 'Barzoj', 0, -1), (2, '', 'Boxer', 1, -1), (3, NULL, 'Pudl', 1, -1)");
-    EXPECT_EQ(Load(), (QStringList{u"K0 Nezařazeno v kruhu"_qs, u"  R1 "_qs, u"K1 A"_qs,
-                                   u"  R3 Pudl"_qs, u"  R2 Boxer"_qs}));
+    EXPECT_EQ(Load(), (QStringList{u"K0 Nezařazeno v kruhu"_s, u"  R1 "_s, u"K1 A"_s,
+                                   u"  R3 Pudl"_s, u"  R2 Boxer"_s}));
 }
 
 TEST_F(TreeLoaderTest, PutsTheCatalogueNumberBeforeTheName) {
     database.Execute("INSERT INTO Plemena (ID, Nazev, Pouzivat) VALUES (1, 'Boxer', -1);"
                      "INSERT INTO Psi (ID, Jmeno, PlemenoID, Cislo) VALUES"
                      " (1, 'Alík', 1, 12), (2, 'Bára', 1, 0), (3, 'Cvrk', 1, NULL)");
-    EXPECT_EQ(Load(), (QStringList{u"K0 Nezařazeno v kruhu"_qs, u"  R1 Boxer"_qs,
-                                   u"    P1 12 Alík"_qs, u"    P2 Bára"_qs, u"    P3 Cvrk"_qs}));
+    EXPECT_EQ(Load(), (QStringList{u"K0 Nezařazeno v kruhu"_s, u"  R1 Boxer"_s, u"    P1 12 Alík"_s,
+                                   u"    P2 Bára"_s, u"    P3 Cvrk"_s}));
 }
 
 TEST_F(TreeLoaderTest, OrdersMalesFirstThenByClassThenByName) {
@@ -71,11 +74,11 @@ TEST_F(TreeLoaderTest, OrdersMalesFirstThenByClassThenByName) {
                      " (4, 'Šimon', 1, -1, 2), (5, 'Hugo', 1, -1, 5)");
     Load();
     QStringList keys;
-    for (const auto& dog : nodes.Get(u"R1"_qs).children)
+    for (const auto& dog : nodes.Get(u"R1"_s).children)
         keys.append(dog->Key());
-    EXPECT_EQ(keys, (QStringList{u"P4"_qs, u"P2"_qs, u"P5"_qs, u"P3"_qs, u"P1"_qs}));
-    EXPECT_EQ(nodes.Get(u"P4"_qs).colour, kMaleText);
-    EXPECT_EQ(nodes.Get(u"P1"_qs).colour, kFemaleText);
+    EXPECT_EQ(keys, (QStringList{u"P4"_s, u"P2"_s, u"P5"_s, u"P3"_s, u"P1"_s}));
+    EXPECT_EQ(nodes.Get(u"P4"_s).colour, kMaleText);
+    EXPECT_EQ(nodes.Get(u"P1"_s).colour, kFemaleText);
 }
 
 TEST_F(TreeLoaderTest, ShowsAllClassesOfABreedWithoutDogs) {
@@ -83,16 +86,15 @@ TEST_F(TreeLoaderTest, ShowsAllClassesOfABreedWithoutDogs) {
     database.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'A');"
                      "INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES"
                      " (1, 'Boxer', 0, -1), (949, 'Německý ovčák', 1, -1)");
-    EXPECT_EQ(
-        Load(),
-        (QStringList{u"K0 Nezařazeno v kruhu"_qs, u"  R1 Boxer"_qs,
-                     u"    TR1|1 Třída štěňat od 3 do 6 měsíců"_qs, u"    TR1|2 Třída dorostu"_qs,
-                     u"    TR1|3 Třída mladých"_qs, u"    TR1|4 Mezitřída"_qs,
-                     u"    TR1|5 Třída otevřená"_qs, u"    TR1|6 Třída vítězů"_qs,
-                     u"    TR1|7 Třída pracovní"_qs, u"    TR1|8 Třída veteránů"_qs, u"K1 A"_qs,
-                     u"  R949 Německý ovčák"_qs, u"    TR949|1 Třída dorostu"_qs,
-                     u"    TR949|2 Třída mladých"_qs, u"    TR949|3 Třída dospívajících"_qs,
-                     u"    TR949|4 Třída pracovní"_qs}));
+    EXPECT_EQ(Load(),
+              (QStringList{u"K0 Nezařazeno v kruhu"_s, u"  R1 Boxer"_s,
+                           u"    TR1|1 Třída štěňat od 3 do 6 měsíců"_s,
+                           u"    TR1|2 Třída dorostu"_s, u"    TR1|3 Třída mladých"_s,
+                           u"    TR1|4 Mezitřída"_s, u"    TR1|5 Třída otevřená"_s,
+                           u"    TR1|6 Třída vítězů"_s, u"    TR1|7 Třída pracovní"_s,
+                           u"    TR1|8 Třída veteránů"_s, u"K1 A"_s, u"  R949 Německý ovčák"_s,
+                           u"    TR949|1 Třída dorostu"_s, u"    TR949|2 Třída mladých"_s,
+                           u"    TR949|3 Třída dospívajících"_s, u"    TR949|4 Třída pracovní"_s}));
     EXPECT_TRUE(Module().SpecialBreed);
 }
 
@@ -101,7 +103,7 @@ TEST_F(TreeLoaderTest, PutsDogsUnderTheirClasses) {
     database.Execute("INSERT INTO Plemena (ID, Nazev, Pouzivat) VALUES (1, 'Boxer', -1);"
                      "INSERT INTO Psi (ID, Jmeno, PlemenoID, Trida) VALUES (1, 'Alík', 1, 8)");
     Load();
-    EXPECT_EQ(nodes.Get(u"P1"_qs).parent->Key(), u"TR1|8"_qs);
+    EXPECT_EQ(nodes.Get(u"P1"_s).parent->Key(), u"TR1|8"_s);
     EXPECT_FALSE(Module().SpecialBreed);
 }
 
@@ -113,17 +115,17 @@ TEST_F(TreeLoaderTest, StopsAtADogWhoseClassItsBreedLacks) {
                      "INSERT INTO Psi (ID, Jmeno, PlemenoID, Trida) VALUES"
                      " (1, 'Alík', 949, 4), (2, 'Bára', 949, 5), (3, 'Cvrk', 949, 6)");
     EXPECT_THROW(LoadTree(nodes), Error);
-    EXPECT_NE(nodes.Find(u"P1"_qs), nullptr);
-    EXPECT_EQ(nodes.Find(u"P2"_qs), nullptr);
-    EXPECT_EQ(nodes.Last()->Key(), u"P1"_qs);
-    EXPECT_EQ(nodes.Find(u"K2"_qs), nullptr);
+    EXPECT_NE(nodes.Find(u"P1"_s), nullptr);
+    EXPECT_EQ(nodes.Find(u"P2"_s), nullptr);
+    EXPECT_EQ(nodes.Last()->Key(), u"P1"_s);
+    EXPECT_EQ(nodes.Find(u"K2"_s), nullptr);
 }
 
 TEST_F(TreeLoaderTest, TakesAnyClassNumberWithoutClassNodes) {
     database.Execute("INSERT INTO Plemena (ID, Nazev, Pouzivat) VALUES (1, 'Boxer', -1);"
                      "INSERT INTO Psi (ID, Jmeno, PlemenoID, Trida) VALUES (1, 'Alík', 1, NULL)");
     EXPECT_NO_THROW(Load());
-    EXPECT_NE(nodes.Find(u"P1"_qs), nullptr);
+    EXPECT_NE(nodes.Find(u"P1"_s), nullptr);
 }
 
 TEST_F(TreeLoaderTest, TellsClosingAndFirstDogInDetailModeOutsideRingsAlone) {
@@ -135,9 +137,9 @@ TEST_F(TreeLoaderTest, TellsClosingAndFirstDogInDetailModeOutsideRingsAlone) {
         "INSERT INTO Psi (ID, Jmeno, PlemenoID, PrvniUzaverka, PrvniPes, Cislo) VALUES"
         " (1, 'Alík', 1, -1, -1, 3), (2, 'Bára', 1, 0, 0, 0), (3, 'Cvrk', 2, -1, -1, 0)");
     Load();
-    EXPECT_EQ(nodes.Get(u"P1"_qs).text, u"3 Alík (I. uzávěrka, 1.pes majitele)"_qs);
-    EXPECT_EQ(nodes.Get(u"P2"_qs).text, u"Bára (II. uzávěrka)"_qs);
-    EXPECT_EQ(nodes.Get(u"P3"_qs).text, u"Cvrk"_qs);
+    EXPECT_EQ(nodes.Get(u"P1"_s).text, u"3 Alík (I. uzávěrka, 1.pes majitele)"_s);
+    EXPECT_EQ(nodes.Get(u"P2"_s).text, u"Bára (II. uzávěrka)"_s);
+    EXPECT_EQ(nodes.Get(u"P3"_s).text, u"Cvrk"_s);
 }
 
 TEST_F(TreeLoaderTest, ForgetsColoursAndMovesAtAReload) {
@@ -145,10 +147,10 @@ TEST_F(TreeLoaderTest, ForgetsColoursAndMovesAtAReload) {
         "INSERT INTO Plemena (ID, Nazev, Pouzivat) VALUES (1, 'Boxer', -1);"
         "INSERT INTO Psi (ID, Jmeno, PlemenoID, PohlaviPes) VALUES (1, 'Alík', 1, -1)");
     Load();
-    nodes.SetBackground(&nodes.Get(u"P1"_qs), kHighlight);
-    nodes.Remove(&nodes.Get(u"K0"_qs));
+    nodes.SetBackground(&nodes.Get(u"P1"_s), kHighlight);
+    nodes.Remove(&nodes.Get(u"K0"_s));
     Load();
-    EXPECT_EQ(nodes.Get(u"P1"_qs).background, kWhite);
+    EXPECT_EQ(nodes.Get(u"P1"_s).background, kWhite);
 }
 
 TEST_F(TreeLoaderTest, ExpandsRingsAndBreedsThatWereStoredButNoClass) {
@@ -157,15 +159,15 @@ TEST_F(TreeLoaderTest, ExpandsRingsAndBreedsThatWereStoredButNoClass) {
         "INSERT INTO Kruhy (ID, Nazev) VALUES (3, 'A');"
         "INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES (1, 'Boxer', 3, -1)");
     Load();
-    const auto restored = NodesToExpand(nodes, u"K0|K3|R1|TR1|3|R77||R1x"_qs);
-    EXPECT_EQ(test::Keys(restored), (QStringList{u"K0"_qs, u"K3"_qs, u"R1"_qs}));
+    const auto restored = NodesToExpand(nodes, u"K0|K3|R1|TR1|3|R77||R1x"_s);
+    EXPECT_EQ(test::Keys(restored), (QStringList{u"K0"_s, u"K3"_s, u"R1"_s}));
     EXPECT_TRUE(NodesToExpand(nodes, {}).empty());
 }
 
 TEST_F(TreeLoaderTest, LeavesTheRootWhenTheStoreFails) {
     database.Execute("DROP TABLE Psi");
     EXPECT_THROW(LoadTree(nodes), StoreError);
-    EXPECT_EQ(test::TreeLines(nodes), QStringList{u"K0 Nezařazeno v kruhu"_qs});
+    EXPECT_EQ(test::TreeLines(nodes), QStringList{u"K0 Nezařazeno v kruhu"_s});
 }
 
 } // namespace

@@ -13,15 +13,18 @@
 #include <random>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TreeModelTest : public ::testing::Test {
   protected:
     TreeModelTest() {
-        root = nodes.AddUnassignedRoot(u"Nezařazeno"_qs);
-        breed = nodes.AddBreed(root, 1, u"Boxer"_qs);
-        dog = nodes.AddDog(breed, 11, u"Alík"_qs, true);
-        ring = nodes.AddRing(5, u"Kruh"_qs);
+        root = nodes.AddUnassignedRoot(u"Nezařazeno"_s);
+        breed = nodes.AddBreed(root, 1, u"Boxer"_s);
+        dog = nodes.AddDog(breed, 11, u"Alík"_s, true);
+        ring = nodes.AddRing(5, u"Kruh"_s);
     }
     QVariant Data(const TreeNode* node, int role) const { return model.IndexOf(node).data(role); }
 
@@ -32,9 +35,9 @@ class TreeModelTest : public ::testing::Test {
 };
 
 TEST_F(TreeModelTest, ShowsTextKeyTagColoursAndWeight) {
-    EXPECT_EQ(Data(dog, Qt::DisplayRole).toString(), u"Alík"_qs);
-    EXPECT_EQ(Data(dog, TreeModel::kKeyRole).toString(), u"P11"_qs);
-    EXPECT_EQ(Data(dog, TreeModel::kTagRole).toString(), u"P 11"_qs);
+    EXPECT_EQ(Data(dog, Qt::DisplayRole).toString(), u"Alík"_s);
+    EXPECT_EQ(Data(dog, TreeModel::kKeyRole).toString(), u"P11"_s);
+    EXPECT_EQ(Data(dog, TreeModel::kTagRole).toString(), u"P 11"_s);
     EXPECT_EQ(Data(dog, Qt::ForegroundRole).value<QColor>(), QColor(0, 0, 255));
     EXPECT_EQ(Data(dog, Qt::BackgroundRole).value<QColor>(), QColor(255, 255, 255));
     EXPECT_FALSE(Data(dog, Qt::FontRole).isValid());
@@ -66,21 +69,21 @@ TEST_F(TreeModelTest, LetsBreedsAndDogsBeDraggedAlone) {
     EXPECT_FALSE(draggable(ring));
     EXPECT_FALSE(draggable(root));
     const std::unique_ptr<QMimeData> data(model.mimeData({model.IndexOf(dog)}));
-    EXPECT_EQ(data->text(), u"P11"_qs);
+    EXPECT_EQ(data->text(), u"P11"_s);
 }
 
 TEST_F(TreeModelTest, AnnouncesAnEditedTextAndKeepsTheOldOne) {
     QSignalSpy edited(&model, &TreeModel::LabelEdited);
-    model.setData(model.IndexOf(ring), u"Jiný"_qs, Qt::EditRole);
+    model.setData(model.IndexOf(ring), u"Jiný"_s, Qt::EditRole);
     ASSERT_EQ(edited.count(), 1);
     EXPECT_EQ(edited[0][0].value<TreeNode*>(), ring);
-    EXPECT_EQ(edited[0][1].toString(), u"Jiný"_qs);
-    EXPECT_EQ(ring->text, u"Kruh"_qs);
+    EXPECT_EQ(edited[0][1].toString(), u"Jiný"_s);
+    EXPECT_EQ(ring->text, u"Kruh"_s);
 }
 
 TEST_F(TreeModelTest, TellsViewsOfTextsAndColours) {
     QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-    nodes.SetText(dog, u"1 Alík"_qs);
+    nodes.SetText(dog, u"1 Alík"_s);
     nodes.MarkOnPath(breed);
     nodes.ClearPath();
     ASSERT_EQ(changed.count(), 3);
@@ -93,7 +96,7 @@ TEST_F(TreeModelTest, TellsViewsOfTextsAndColours) {
 
 TEST_F(TreeModelTest, KeepsAPersistentIndexThroughMovesAndRemovals) {
     const QPersistentModelIndex index = model.IndexOf(dog);
-    TreeNode* other = nodes.AddBreed(ring, 2, u"Čivava"_qs);
+    TreeNode* other = nodes.AddBreed(ring, 2, u"Čivava"_s);
     nodes.Move(dog, other);
     EXPECT_EQ(index, model.IndexOf(dog));
     EXPECT_EQ(index.parent(), model.IndexOf(other));
@@ -108,7 +111,7 @@ TEST_F(TreeModelTest, RebuildsInOneReset) {
     QSignalSpy inserts(&model, &QAbstractItemModel::rowsInserted);
     {
         const TreeNodes::Rebuilding rebuilding(nodes);
-        nodes.AddBreed(nodes.AddRing(1, u"A"_qs), 2, u"B"_qs);
+        nodes.AddBreed(nodes.AddRing(1, u"A"_s), 2, u"B"_s);
     }
     EXPECT_EQ(resets.count(), 1);
     EXPECT_EQ(inserts.count(), 0);
@@ -125,13 +128,13 @@ TEST_F(TreeModelTest, StandsAnyRunOfEdits) {
         TreeNode* node = nodes.At(1 + below(nodes.Count()));
         switch (below(5)) {
         case 0:
-            nodes.AddRing(++id, u"kruh"_qs);
+            nodes.AddRing(++id, u"kruh"_s);
             break;
         case 1:
-            nodes.AddDog(node->IsDog() ? node->parent : node, ++id, u"pes"_qs, step % 2 == 0);
+            nodes.AddDog(node->IsDog() ? node->parent : node, ++id, u"pes"_s, step % 2 == 0);
             break;
         case 2:
-            nodes.AddBreed(nodes.First(), ++id, u"plemeno"_qs);
+            nodes.AddBreed(nodes.First(), ++id, u"plemeno"_s);
             break;
         case 3:
             if (node->IsDog())

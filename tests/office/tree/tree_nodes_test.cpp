@@ -7,20 +7,23 @@
 #include <gtest/gtest.h>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// K0 with breed 1 and its dogs 11 and 12; ring 5 with breed 2, its class 3 and there dog 21.
 class TreeNodesTest : public ::testing::Test {
   protected:
     TreeNodesTest() {
-        root = nodes.AddUnassignedRoot(u"Nezařazeno"_qs);
-        breed = nodes.AddBreed(root, 1, u"Boxer"_qs);
-        male = nodes.AddDog(breed, 11, u"Alík"_qs, true);
-        bitch = nodes.AddDog(breed, 12, u"Bára"_qs, false);
-        ring = nodes.AddRing(5, u"Kruh"_qs);
-        ringBreed = nodes.AddBreed(ring, 2, u"Čivava"_qs);
-        classNode = nodes.AddClass(ringBreed, 3, u"Třída mladých"_qs);
-        deepDog = nodes.AddDog(classNode, 21, u"Cvrk"_qs, true);
+        root = nodes.AddUnassignedRoot(u"Nezařazeno"_s);
+        breed = nodes.AddBreed(root, 1, u"Boxer"_s);
+        male = nodes.AddDog(breed, 11, u"Alík"_s, true);
+        bitch = nodes.AddDog(breed, 12, u"Bára"_s, false);
+        ring = nodes.AddRing(5, u"Kruh"_s);
+        ringBreed = nodes.AddBreed(ring, 2, u"Čivava"_s);
+        classNode = nodes.AddClass(ringBreed, 3, u"Třída mladých"_s);
+        deepDog = nodes.AddDog(classNode, 21, u"Cvrk"_s, true);
     }
 
     TreeNodes nodes;
@@ -55,20 +58,20 @@ TEST_F(TreeNodesTest, KeepsItsOrderOfAnEmptyTree) {
 }
 
 TEST_F(TreeNodesTest, FindsByKey) {
-    EXPECT_EQ(nodes.Find(u"K0"_qs), root);
-    EXPECT_EQ(nodes.Find(u"TR2|3"_qs), classNode);
+    EXPECT_EQ(nodes.Find(u"K0"_s), root);
+    EXPECT_EQ(nodes.Find(u"TR2|3"_s), classNode);
     EXPECT_EQ(nodes.Find(NodeKey::Dog(21)), deepDog);
-    EXPECT_EQ(nodes.Find(u"P99"_qs), nullptr);
+    EXPECT_EQ(nodes.Find(u"P99"_s), nullptr);
     EXPECT_EQ(nodes.Find(QString()), nullptr);
-    EXPECT_THROW(nodes.Get(u"P99"_qs), Error);
+    EXPECT_THROW(nodes.Get(u"P99"_s), Error);
 }
 
 TEST_F(TreeNodesTest, TellsTagWeightAndColourOfEachKind) {
     EXPECT_EQ(root->Tag(), QString());
-    EXPECT_EQ(ring->Tag(), u"K5"_qs);
+    EXPECT_EQ(ring->Tag(), u"K5"_s);
     EXPECT_EQ(breed->Tag(), QString());
-    EXPECT_EQ(classNode->Tag(), u"C3"_qs);
-    EXPECT_EQ(male->Tag(), u"P 11"_qs);
+    EXPECT_EQ(classNode->Tag(), u"C3"_s);
+    EXPECT_EQ(male->Tag(), u"P 11"_s);
     EXPECT_TRUE(root->bold && ring->bold && breed->bold);
     EXPECT_FALSE(classNode->bold || male->bold);
     EXPECT_EQ(male->colour, kMaleText);
@@ -77,17 +80,17 @@ TEST_F(TreeNodesTest, TellsTagWeightAndColourOfEachKind) {
 }
 
 TEST_F(TreeNodesTest, RefusesAKeyTwice) {
-    EXPECT_THROW(nodes.AddDog(classNode, 11, u"Alík"_qs, true), Error);
+    EXPECT_THROW(nodes.AddDog(classNode, 11, u"Alík"_s, true), Error);
     EXPECT_EQ(classNode->children.size(), 1U);
     EXPECT_EQ(nodes.Count(), 8);
 }
 
 TEST_F(TreeNodesTest, AddsARingThatGetsItsKeyLater) {
-    TreeNode* added = nodes.AddRingWithoutKey(u"Nový kruh"_qs);
+    TreeNode* added = nodes.AddRingWithoutKey(u"Nový kruh"_s);
     EXPECT_EQ(added->Key(), QString());
-    EXPECT_EQ(nodes.Find(u"K0"_qs), root);
+    EXPECT_EQ(nodes.Find(u"K0"_s), root);
     nodes.GiveKey(added, 6);
-    EXPECT_EQ(nodes.Find(u"K6"_qs), added);
+    EXPECT_EQ(nodes.Find(u"K6"_s), added);
     EXPECT_EQ(added->Tag(), QString());
     EXPECT_FALSE(added->bold);
 }
@@ -96,8 +99,8 @@ TEST_F(TreeNodesTest, RemovesANodeWithAllBelowIt) {
     nodes.MarkOnPath(ringBreed);
     nodes.Remove(ring);
     EXPECT_EQ(nodes.Last(), bitch);
-    EXPECT_EQ(nodes.Find(u"P21"_qs), nullptr);
-    EXPECT_EQ(nodes.Find(u"TR2|3"_qs), nullptr);
+    EXPECT_EQ(nodes.Find(u"P21"_s), nullptr);
+    EXPECT_EQ(nodes.Find(u"TR2|3"_s), nullptr);
     EXPECT_EQ(nodes.Count(), 4);
     nodes.ClearPath();
     nodes.Remove(male);
@@ -114,9 +117,9 @@ TEST_F(TreeNodesTest, MovesANodeToTheEndOfItsNewParent) {
     EXPECT_EQ(nodes.Next(deepDog), male);
     nodes.Move(breed, ring);
     EXPECT_EQ(test::TreeLines(nodes),
-              (QStringList{u"K0 Nezařazeno"_qs, u"K5 Kruh"_qs, u"  R2 Čivava"_qs,
-                           u"    TR2|3 Třída mladých"_qs, u"      P21 Cvrk"_qs, u"    P11 Alík"_qs,
-                           u"  R1 Boxer"_qs, u"    P12 Bára"_qs}));
+              (QStringList{u"K0 Nezařazeno"_s, u"K5 Kruh"_s, u"  R2 Čivava"_s,
+                           u"    TR2|3 Třída mladých"_s, u"      P21 Cvrk"_s, u"    P11 Alík"_s,
+                           u"  R1 Boxer"_s, u"    P12 Bára"_s}));
 }
 
 TEST_F(TreeNodesTest, LeavesANodeInPlaceThatMovesToItsOwnParent) {
@@ -155,22 +158,22 @@ TEST_F(TreeNodesTest, StartsAfreshWhenRebuilt) {
     {
         const TreeNodes::Rebuilding rebuilding(nodes);
         EXPECT_EQ(nodes.First(), nullptr);
-        nodes.AddRing(7, u"Jediný"_qs);
+        nodes.AddRing(7, u"Jediný"_s);
     }
     nodes.ClearPath();
-    EXPECT_EQ(test::TreeLines(nodes), QStringList{u"K7 Jediný"_qs});
-    EXPECT_EQ(nodes.Find(u"P11"_qs), nullptr);
+    EXPECT_EQ(test::TreeLines(nodes), QStringList{u"K7 Jediný"_s});
+    EXPECT_EQ(nodes.Find(u"P11"_s), nullptr);
     EXPECT_EQ(nodes.Count(), 1);
 }
 
 TEST_F(TreeNodesTest, ServesTheNumberingWalk) {
     nodes.Remove(breed);
-    nodes.AddDog(ringBreed, 22, u"Dan"_qs, true);
+    nodes.AddDog(ringBreed, 22, u"Dan"_s, true);
     QStringList numbered;
     WalkForNumbering<TreeNode>(nodes.First(), [&](TreeNode& dog, std::int16_t number) {
         numbered.append(QString::number(number) + u' ' + dog.Key());
     });
-    EXPECT_EQ(numbered, (QStringList{u"1 P21"_qs, u"2 P22"_qs}));
+    EXPECT_EQ(numbered, (QStringList{u"1 P21"_s, u"2 P22"_s}));
 }
 
 } // namespace

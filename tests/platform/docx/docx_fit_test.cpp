@@ -7,6 +7,8 @@
 
 namespace lorvo::docx {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Twips kWidth = 9000;
@@ -14,7 +16,7 @@ constexpr Twips kHeight = 10000;
 
 Paragraph Typed(const QString& text, int halfPoints = 22) {
     RunFormat format;
-    format.fontName = QStringLiteral("Arial");
+    format.fontName = u"Arial"_s;
     format.halfPoints = halfPoints;
     Paragraph paragraph;
     paragraph.Append(text, format);
@@ -36,10 +38,10 @@ Twips HeightOf(const std::vector<Paragraph>& sheet) {
 }
 
 std::vector<Paragraph> SheetWith(const QString& value, int emptyLines) {
-    std::vector<Paragraph> sheet{Typed({}), Typed(QStringLiteral("Nadpis")), Typed(value)};
+    std::vector<Paragraph> sheet{Typed({}), Typed(u"Nadpis"_s), Typed(value)};
     for (int i = 0; i < emptyLines; ++i)
         sheet.push_back(Typed({}));
-    sheet.push_back(Typed(QStringLiteral("podpis")));
+    sheet.push_back(Typed(u"podpis"_s));
     return sheet;
 }
 
@@ -58,7 +60,7 @@ TEST(LineCount, BreaksAtBlanksAndInsideWordsThatAreTooLong) {
 }
 
 TEST(LineCount, TabsGoToTheNextStop) {
-    Paragraph paragraph = Typed(QStringLiteral("a\tnnnnnnnnnn"));
+    Paragraph paragraph = Typed(u"a\tnnnnnnnnnn"_s);
     EXPECT_EQ(Lines(paragraph, FontWidths::Narrowest, 2100), 1) << "default stop at 709";
     paragraph.format.tabStops = {1500};
     EXPECT_EQ(Lines(paragraph, FontWidths::Narrowest, 2100), 2);
@@ -66,7 +68,7 @@ TEST(LineCount, TabsGoToTheNextStop) {
 }
 
 TEST(LineCount, IndentsTakeRoom) {
-    Paragraph paragraph = Typed(QStringLiteral("nnnnnnnnnn nnnnnnnnnn"));
+    Paragraph paragraph = Typed(u"nnnnnnnnnn nnnnnnnnnn"_s);
     EXPECT_EQ(Lines(paragraph, FontWidths::Narrowest, 2600), 1);
     paragraph.format.firstLineIndent = 600;
     EXPECT_EQ(Lines(paragraph, FontWidths::Narrowest, 2600), 2);
@@ -86,19 +88,19 @@ TEST(FitParagraph, NarrowsWhatWouldBreakInAWideFontAlone) {
 }
 
 TEST(FitParagraph, LeavesAShortTextAlone) {
-    Paragraph paragraph = Typed(QStringLiteral("short"));
+    Paragraph paragraph = Typed(u"short"_s);
     FitParagraph(paragraph, {kWidth, {}});
     EXPECT_EQ(paragraph.runs.front().format.widthPercent, 100);
 }
 
 TEST(FitSheet, ChangesNothingThatFits) {
-    auto sheet = SheetWith(QStringLiteral("Rex z Dvora"), 20);
+    auto sheet = SheetWith(u"Rex z Dvora"_s, 20);
     FitSheet(sheet, {kWidth, {}}, kHeight);
     EXPECT_EQ(HeightOf(sheet), 24 * LineHeight(22));
 }
 
 TEST(FitSheet, ALongValueTakesItsRoomFromTheEmptyLinesBelowTheFirstText) {
-    auto sheet = SheetWith(QStringLiteral("Alexandrova ").repeated(50), 32);
+    auto sheet = SheetWith(u"Alexandrova "_s.repeated(50), 32);
     ASSERT_GT(HeightOf(sheet), kHeight);
     FitSheet(sheet, {kWidth, {}}, kHeight);
     EXPECT_LE(HeightOf(sheet) + LineHeight(22), kHeight) << "no line to spare";
@@ -108,7 +110,7 @@ TEST(FitSheet, ALongValueTakesItsRoomFromTheEmptyLinesBelowTheFirstText) {
 }
 
 TEST(FitSheet, WhereEmptyLinesDontGiveEnoughTheLongTextsGetSmallerLetters) {
-    auto sheet = SheetWith(QStringLiteral("Alexandrova ").repeated(250), 4);
+    auto sheet = SheetWith(u"Alexandrova "_s.repeated(250), 4);
     FitSheet(sheet, {kWidth, {}}, kHeight);
     EXPECT_LE(HeightOf(sheet) + LineHeight(22), kHeight);
     EXPECT_LT(sheet[2].runs.front().format.halfPoints, 22);
@@ -116,7 +118,7 @@ TEST(FitSheet, WhereEmptyLinesDontGiveEnoughTheLongTextsGetSmallerLetters) {
 }
 
 TEST(FitSheet, ATextBeyondAllMeasureStaysReadable) {
-    auto sheet = SheetWith(QStringLiteral("Alexandrova ").repeated(3000), 4);
+    auto sheet = SheetWith(u"Alexandrova "_s.repeated(3000), 4);
     FitSheet(sheet, {kWidth, {}}, kHeight);
     EXPECT_EQ(sheet[2].runs.front().format.halfPoints, 11);
     std::vector<Paragraph> none;

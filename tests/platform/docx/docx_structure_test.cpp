@@ -9,12 +9,14 @@
 
 namespace lorvo::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A document in which every operation has left its trace.
 void TypeEverything(WordProcessor& word) {
     word.SetOrientation(PageOrientation::Landscape);
-    word.SetFontName(QStringLiteral("Tahoma"));
+    word.SetFontName(u"Tahoma"_s);
     word.SetFontSize(10.5);
     word.SetBold(FontSwitch::On);
     word.SetItalic(true);
@@ -24,10 +26,10 @@ void TypeEverything(WordProcessor& word) {
     word.SetFirstLineIndent(-10);
     word.AddTabStop(100);
     word.AddTabStop(50);
-    word.TypeText(QStringLiteral("Katalog\tpsů\n"));
+    word.TypeText(u"Katalog\tpsů\n"_s);
     word.SetBold(FontSwitch::Off);
     word.SetKeepWithNext(true);
-    word.TypeText(QStringLiteral("šířka").repeated(50)); // narrowed to fit
+    word.TypeText(u"šířka"_s.repeated(50)); // narrowed to fit
     word.InsertPageBreak();
     word.HomeKeyStory();
     word.WholeStory();
@@ -50,15 +52,14 @@ TEST_F(DocxStructure, ChildrenStandInTheOrderOfTheSchemaOnceAndNeverEmpty) {
 }
 
 TEST_F(DocxStructure, TabStopsRiseAndNoneIsNamedTwice) {
-    const QDomElement styles =
-        PartOf(desk.Document(TypeEverything), QStringLiteral("word/styles.xml"));
-    const QList<QDomElement> lists = Elements(styles, QStringLiteral("w:tabs"));
+    const QDomElement styles = PartOf(desk.Document(TypeEverything), u"word/styles.xml"_s);
+    const QList<QDomElement> lists = Elements(styles, u"w:tabs"_s);
     ASSERT_FALSE(lists.isEmpty());
     for (const QDomElement& list : lists) {
         int last = -1;
-        for (const QDomElement& tab : Elements(list, QStringLiteral("w:tab"))) {
-            EXPECT_GT(tab.attribute(QStringLiteral("w:pos")).toInt(), last);
-            last = tab.attribute(QStringLiteral("w:pos")).toInt();
+        for (const QDomElement& tab : Elements(list, u"w:tab"_s)) {
+            EXPECT_GT(tab.attribute(u"w:pos"_s).toInt(), last);
+            last = tab.attribute(u"w:pos"_s).toInt();
         }
         EXPECT_GE(last, 0);
     }
@@ -66,27 +67,26 @@ TEST_F(DocxStructure, TabStopsRiseAndNoneIsNamedTwice) {
 
 TEST_F(DocxStructure, EveryStyleThatTheTextNamesIsDefinedAndEveryFontDeclared) {
     const QString path = desk.Document(TypeEverything);
-    const QDomElement body = PartOf(path, QStringLiteral("word/document.xml"));
-    for (const QDomElement& paragraph : Elements(body, QStringLiteral("w:p")))
+    const QDomElement body = PartOf(path, u"word/document.xml"_s);
+    for (const QDomElement& paragraph : Elements(body, u"w:p"_s))
         EXPECT_FALSE(StyleNamed(path, StyleOf(paragraph)).isNull());
-    for (const QDomElement& style : Elements(body, QStringLiteral("w:rStyle")))
-        EXPECT_FALSE(StyleNamed(path, style.attribute(QStringLiteral("w:val"))).isNull());
+    for (const QDomElement& style : Elements(body, u"w:rStyle"_s))
+        EXPECT_FALSE(StyleNamed(path, style.attribute(u"w:val"_s)).isNull());
     QStringList fonts;
-    for (const QDomElement& font :
-         Elements(PartOf(path, QStringLiteral("word/fontTable.xml")), QStringLiteral("w:font")))
-        fonts.append(font.attribute(QStringLiteral("w:name")));
-    EXPECT_EQ(fonts, QStringList({QStringLiteral("Tahoma"), QStringLiteral("Times New Roman")}));
+    for (const QDomElement& font : Elements(PartOf(path, u"word/fontTable.xml"_s), u"w:font"_s))
+        fonts.append(font.attribute(u"w:name"_s));
+    EXPECT_EQ(fonts, QStringList({u"Tahoma"_s, u"Times New Roman"_s}));
 }
 
 TEST_F(DocxStructure, SettingsAskForThePresentFormatInCzech) {
     const QString path = desk.Document(TypeEverything);
-    const QDomElement settings = PartOf(path, QStringLiteral("word/settings.xml"));
-    const QString val = QStringLiteral("val");
-    EXPECT_EQ(Setting(settings, QStringLiteral("w:compatSetting"), val), u"15");
-    EXPECT_EQ(Setting(settings, QStringLiteral("w:view"), val), u"print");
-    EXPECT_EQ(Setting(settings, QStringLiteral("w:zoom"), val), u"fullPage");
-    const QDomElement styles = PartOf(path, QStringLiteral("word/styles.xml"));
-    EXPECT_EQ(Setting(styles, QStringLiteral("w:lang"), val), u"cs-CZ");
+    const QDomElement settings = PartOf(path, u"word/settings.xml"_s);
+    const QString val = u"val"_s;
+    EXPECT_EQ(Setting(settings, u"w:compatSetting"_s, val), u"15");
+    EXPECT_EQ(Setting(settings, u"w:view"_s, val), u"print");
+    EXPECT_EQ(Setting(settings, u"w:zoom"_s, val), u"fullPage");
+    const QDomElement styles = PartOf(path, u"word/styles.xml"_s);
+    EXPECT_EQ(Setting(styles, u"w:lang"_s, val), u"cs-CZ");
 }
 
 TEST_F(DocxStructure, TheSectionCarriesThePageAndItsColumns) {
@@ -97,7 +97,7 @@ TEST_F(DocxStructure, TheSectionCarriesThePageAndItsColumns) {
         word.SetLeftMargin(CentimetersToPoints(1.5));
         word.SetRightMargin(CentimetersToPoints(1.5));
     }),
-                                    QStringLiteral("word/document.xml"));
+                                    u"word/document.xml"_s);
     const auto value = [&](const char* element, const char* name) {
         return Setting(body, QString::fromLatin1(element), QString::fromLatin1(name)).toStdString();
     };
@@ -107,11 +107,11 @@ TEST_F(DocxStructure, TheSectionCarriesThePageAndItsColumns) {
     EXPECT_EQ(value("w:pgMar", "left"), "850");
     EXPECT_EQ(value("w:pgMar", "top"), "1417");
     EXPECT_EQ(value("w:cols", "num"), "2");
-    const QList<QDomElement> columns = Elements(body, QStringLiteral("w:col"));
+    const QList<QDomElement> columns = Elements(body, u"w:col"_s);
     ASSERT_EQ(columns.size(), 2);
-    EXPECT_EQ(columns[0].attribute(QStringLiteral("w:w")), u"6651");
-    EXPECT_EQ(columns[0].attribute(QStringLiteral("w:space")), u"709");
-    EXPECT_EQ(columns[1].attribute(QStringLiteral("w:w")), u"6644");
+    EXPECT_EQ(columns[0].attribute(u"w:w"_s), u"6651");
+    EXPECT_EQ(columns[0].attribute(u"w:space"_s), u"709");
+    EXPECT_EQ(columns[1].attribute(u"w:w"_s), u"6644");
 }
 
 TEST_F(DocxStructure, APageSetByHandIsWrittenInTwentiethsOfAPoint) {
@@ -123,43 +123,39 @@ TEST_F(DocxStructure, APageSetByHandIsWrittenInTwentiethsOfAPoint) {
         word.SetHeaderDistance(20);
         word.SetFooterDistance(21);
     }),
-                                    QStringLiteral("word/document.xml"));
-    const QDomElement page = Elements(body, QStringLiteral("w:pgSz")).first();
-    EXPECT_EQ(page.attribute(QStringLiteral("w:w")), u"8391");
-    EXPECT_FALSE(page.hasAttribute(QStringLiteral("w:orient")));
-    const QDomElement margins = Elements(body, QStringLiteral("w:pgMar")).first();
+                                    u"word/document.xml"_s);
+    const QDomElement page = Elements(body, u"w:pgSz"_s).first();
+    EXPECT_EQ(page.attribute(u"w:w"_s), u"8391");
+    EXPECT_FALSE(page.hasAttribute(u"w:orient"_s));
+    const QDomElement margins = Elements(body, u"w:pgMar"_s).first();
     QStringList values;
     for (const char* name : {"top", "bottom", "gutter", "header", "footer"})
-        values.append(margins.attribute(QStringLiteral("w:") + QString::fromLatin1(name)));
+        values.append(margins.attribute(u"w:"_s + QString::fromLatin1(name)));
     EXPECT_EQ(values.join(u' '), u"720 740 144 400 420");
-    EXPECT_TRUE(Elements(body, QStringLiteral("w:cols")).isEmpty());
+    EXPECT_TRUE(Elements(body, u"w:cols"_s).isEmpty());
 }
 
 TEST_F(DocxStructure, FontsAreDeclaredWithTheirKinSoThatALikeOneStandsIn) {
-    const QDomElement fonts =
-        PartOf(desk.Document(TypeEverything), QStringLiteral("word/fontTable.xml"));
+    const QDomElement fonts = PartOf(desk.Document(TypeEverything), u"word/fontTable.xml"_s);
     const QDomElement tahoma = fonts.firstChildElement();
-    const QString val = QStringLiteral("val");
-    EXPECT_EQ(tahoma.attribute(QStringLiteral("w:name")), u"Tahoma");
-    EXPECT_EQ(Setting(tahoma, QStringLiteral("w:altName"), val), u"DejaVu Sans Condensed");
-    EXPECT_EQ(Setting(tahoma, QStringLiteral("w:family"), val), u"swiss");
-    EXPECT_EQ(Setting(tahoma, QStringLiteral("w:pitch"), val), u"variable");
+    const QString val = u"val"_s;
+    EXPECT_EQ(tahoma.attribute(u"w:name"_s), u"Tahoma");
+    EXPECT_EQ(Setting(tahoma, u"w:altName"_s, val), u"DejaVu Sans Condensed");
+    EXPECT_EQ(Setting(tahoma, u"w:family"_s, val), u"swiss");
+    EXPECT_EQ(Setting(tahoma, u"w:pitch"_s, val), u"variable");
 }
 
 TEST_F(DocxStructure, EveryLineHasAnExactHeightAboveItsLettersSize) {
-    const QDomElement styles =
-        PartOf(desk.Document(TypeEverything), QStringLiteral("word/styles.xml"));
+    const QDomElement styles = PartOf(desk.Document(TypeEverything), u"word/styles.xml"_s);
     int found = 0;
-    for (const QDomElement& style : Elements(styles, QStringLiteral("w:style"))) {
-        if (style.attribute(QStringLiteral("w:type")) != u"paragraph")
+    for (const QDomElement& style : Elements(styles, u"w:style"_s)) {
+        if (style.attribute(u"w:type"_s) != u"paragraph")
             continue;
         ++found;
-        EXPECT_EQ(Setting(style, QStringLiteral("w:spacing"), QStringLiteral("lineRule")),
-                  u"exact");
-        EXPECT_GE(Setting(style, QStringLiteral("w:spacing"), QStringLiteral("line")).toInt(),
-                  Setting(style, QStringLiteral("w:sz"), QStringLiteral("val")).toInt() * 10 *
-                      1.15);
-        EXPECT_FALSE(Elements(style, QStringLiteral("w:keepLines")).isEmpty());
+        EXPECT_EQ(Setting(style, u"w:spacing"_s, u"lineRule"_s), u"exact");
+        EXPECT_GE(Setting(style, u"w:spacing"_s, u"line"_s).toInt(),
+                  Setting(style, u"w:sz"_s, u"val"_s).toInt() * 10 * 1.15);
+        EXPECT_FALSE(Elements(style, u"w:keepLines"_s).isEmpty());
     }
     EXPECT_GT(found, 1);
 }
@@ -178,27 +174,25 @@ TEST_F(DocxStructure, TheSameDocumentIsTheSameBytes) {
 }
 
 TEST_F(DocxStructure, TheTitleStandsInTheProperties) {
-    const QDomElement properties =
-        PartOf(desk.Document(TypeEverything), QStringLiteral("docProps/core.xml"));
-    EXPECT_EQ(properties.firstChildElement(QStringLiteral("dc:title")).text(), u"Katalog");
+    const QDomElement properties = PartOf(desk.Document(TypeEverything), u"docProps/core.xml"_s);
+    EXPECT_EQ(properties.firstChildElement(u"dc:title"_s).text(), u"Katalog");
 }
 
 TEST_F(DocxStructure, DocumentsAreNamedByPaperAndTimeAndNeverLieOverAnOlderOne) {
     EXPECT_FALSE(QFile::exists(desk.Papers()));
     for (int i = 0; i < 3; ++i)
         desk.Document(TypeEverything);
-    desk.processors.Create(QStringLiteral("Katalog"))->TypeText(QStringLiteral("given up"));
-    EXPECT_EQ(QDir(desk.Papers()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-              QStringList({QStringLiteral("Katalog 2027-05-14 08.31 (2).docx"),
-                           QStringLiteral("Katalog 2027-05-14 08.31 (3).docx"),
-                           QStringLiteral("Katalog 2027-05-14 08.31.docx")}));
-    EXPECT_EQ(desk.opener.files.first(),
-              desk.Papers() + QStringLiteral("/Katalog 2027-05-14 08.31.docx"));
+    desk.processors.Create(u"Katalog"_s)->TypeText(u"given up"_s);
+    EXPECT_EQ(
+        QDir(desk.Papers()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+        QStringList({u"Katalog 2027-05-14 08.31 (2).docx"_s, u"Katalog 2027-05-14 08.31 (3).docx"_s,
+                     u"Katalog 2027-05-14 08.31.docx"_s}));
+    EXPECT_EQ(desk.opener.files.first(), desk.Papers() + u"/Katalog 2027-05-14 08.31.docx"_s);
 }
 
 TEST_F(DocxStructure, ADocumentThatNothingOpensTellsWhereItLies) {
     desk.opener.opens = false;
-    const ShownDocument shown = desk.processors.Create(QStringLiteral("Katalog"))->Show();
+    const ShownDocument shown = desk.processors.Create(u"Katalog"_s)->Show();
     EXPECT_FALSE(shown.opened);
     EXPECT_TRUE(QFile::exists(shown.path)) << shown.path.toStdString();
 }
@@ -206,8 +200,8 @@ TEST_F(DocxStructure, ADocumentThatNothingOpensTellsWhereItLies) {
 TEST_F(DocxStructure, AFolderThatCannotBeMadeIsNamedAndNothingIsOpened) {
     QFile inTheWay(desk.Papers());
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
-    const auto word = desk.processors.Create(QStringLiteral("Katalog"));
-    word->TypeText(QStringLiteral("a"));
+    const auto word = desk.processors.Create(u"Katalog"_s);
+    word->TypeText(u"a"_s);
     try {
         (void)word->Show();
         FAIL() << "nothing was raised";

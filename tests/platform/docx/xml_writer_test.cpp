@@ -8,6 +8,8 @@
 
 namespace lorvo::docx {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a writer makes below the declaration.
@@ -33,7 +35,7 @@ TEST(XmlWriter, PairsElementsAndEscapesTextAndAttributes) {
 }
 
 TEST(XmlWriter, WritesEveryPlaneAsUtf8) {
-    const QString text = QStringLiteral("aé\u010D\u20AC\U0001F415\U0010FFFD");
+    const QString text = u"aé\u010D\u20AC\U0001F415\U0010FFFD"_s;
     EXPECT_EQ(Written([&](XmlWriter& xml) { xml.Start("a").Text(text).End(); }),
               "<a>" + text.toUtf8() + "</a>");
 }
@@ -60,7 +62,7 @@ TEST(XmlWriter, KeepsWhatIsLongerThanItsBuffer) {
 
 #ifdef Q_OS_LINUX // whose systems have a device that is always full
 TEST(XmlWriter, NamesTheFileThatTakesNoMore) {
-    QFile full(QStringLiteral("/dev/full"));
+    QFile full(u"/dev/full"_s);
     ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     XmlWriter xml(full);
     try {
