@@ -1,5 +1,6 @@
 #include "dogs/frmVystavovatele.h"
 
+#include "app/amount_texts.h"
 #include "app/common_routines.h"
 #include "app/main_window_services.h"
 #include "app/module_values.h"
@@ -48,7 +49,7 @@ std::optional<QColor> ColourOf(Currency balance) {
     return BalanceColour(balance, kOverpaidInExhibitors);
 }
 
-ReportRow RowOf(const Majitele& owner, const AccountTotals& account) {
+ReportRow RowOf(const Majitele& owner, const AccountTotals& account, AmountTexts& amounts) {
     const QString id = QString::number(owner.ID);
     return {u"M"_s + id,
             id,
@@ -60,9 +61,9 @@ ReportRow RowOf(const Majitele& owner, const AccountTotals& account) {
              {owner.Telefon},
              {owner.Email},
              {QString::number(account.dogs)},
-             {AmountText(account.owed)},
-             {AmountText(account.paid)},
-             {AmountText(account.Balance()), ColourOf(account.Balance())}}};
+             {amounts.Of(account.owed)},
+             {amounts.Of(account.paid)},
+             {amounts.Of(account.Balance()), ColourOf(account.Balance())}}};
 }
 
 /// Moves the bar in whole percents: a row's worth of it would only be repainting.
@@ -144,10 +145,11 @@ void frmVystavovatele::FillList() {
     std::vector<ReportRow> rows;
     rows.reserve(owners.size());
     AccountTotals totals;
+    AmountTexts amounts(AmountText);
     for (const Majitele& owner : owners) {
         const AccountTotals account = accounts.Of(owner.ID);
         totals.Add(account);
-        rows.push_back(RowOf(owner, account));
+        rows.push_back(RowOf(owner, account, amounts));
         ShowProgress(*pbMain, static_cast<int>(rows.size()));
     }
     sb->SetPanel(2, TotalsLine(totals.owed, totals.paid));

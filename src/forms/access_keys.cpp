@@ -149,10 +149,21 @@ void AccessKeys::Give(const QList<QWidget*>& controls, const std::vector<QChar>&
 bool AccessKeys::eventFilter(QObject*, QEvent* event) {
     return GuardedAnswer(false, [&]() -> bool {
         // Before a key is looked up, since not each change inside a scrolling area is told here.
-        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show ||
-            event->type() == QEvent::ShortcutOverride)
+        if (event->type() == QEvent::Show || event->type() == QEvent::ShortcutOverride)
             Refresh();
+        else if (event->type() == QEvent::LayoutRequest)
+            RefreshLater();
         return false;
+    });
+}
+
+// Of many changes in a row, such as those of a panel that is filled anew, one refresh comes.
+void AccessKeys::RefreshLater() {
+    if (std::exchange(refreshWaits_, true))
+        return;
+    Later(this, [this] {
+        refreshWaits_ = false;
+        Refresh();
     });
 }
 

@@ -22,7 +22,7 @@ class AccessKeys : public QObject {
     /// Lives as long as the window.
     explicit AccessKeys(QWidget& window);
 
-    /// Looks at the window again; done by itself whenever its layout changes.
+    /// Looks at the window again; done by itself after its layout changes and before a key counts.
     void Refresh();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -35,9 +35,11 @@ class AccessKeys : public QObject {
         bool operator==(const Seen&) const = default;
     };
 
+    void RefreshLater();
     void Give(const QList<QWidget*>& controls, const std::vector<QChar>& keys);
 
     QWidget& window_;
+    bool refreshWaits_ = false;
     std::vector<Seen> seen_;
     std::vector<QPointer<QShortcut>> shortcuts_; ///< each goes with its control
 };

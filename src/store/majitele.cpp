@@ -1,5 +1,6 @@
 #include "store/majitele.h"
 
+#include "store/placed_rows.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -25,11 +26,12 @@ Majitele ReadMajitele(const Query& row) {
     return owner;
 }
 
+constexpr const char* kOwners =
+    "SELECT ID, Jmeno, Prijmeni, Ulice, Mesto, PSC, Telefon, Email, Stat FROM Majitele ";
+constexpr int kJmeno = 1;
+
 std::vector<Majitele> ReadOwners(const std::string& rest) {
-    return ReadMany("SELECT ID, Jmeno, Prijmeni, Ulice, Mesto, PSC, Telefon, Email, Stat "
-                    "FROM Majitele " +
-                        rest,
-                    ReadMajitele);
+    return ReadMany(kOwners + rest, ReadMajitele);
 }
 
 Assignments Fields(const Majitele& owner) {
@@ -56,7 +58,13 @@ Majitele ExistingOwner(int majitelID) {
 }
 
 std::vector<Majitele> OwnersByName() {
-    return ReadOwners("ORDER BY Jmeno ASC");
+    std::vector<Majitele> owners;
+    std::vector<NamePlace> places;
+    for (Query rows(TheDataModule().Conn1, kOwners); rows.Next();) {
+        owners.push_back(ReadMajitele(rows));
+        places.emplace_back(rows, kJmeno, owners.back().Jmeno);
+    }
+    return InOrder(std::move(owners), places);
 }
 
 std::vector<Majitele> OwnersByNameAndSurname() {

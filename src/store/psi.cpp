@@ -1,14 +1,15 @@
 #include "store/psi.h"
 
 #include "platform/values/left_text.h"
+#include "store/placed_rows.h"
 #include "store/psi_reader.h"
 #include "store/rows.h"
+
+#include <QSet>
 
 namespace lorvo {
 
 namespace {
-
-constexpr const char* kOrderInBreed = "PohlaviPes ASC, Trida ASC, Jmeno ASC";
 
 RecordSet& Table() {
     return TheDataModule().rsPsi;
@@ -44,8 +45,20 @@ Assignments EditedFields(const Psi& dog) {
     };
 }
 
+/// Each text of the field once, in Czech order.
 std::vector<QString> DistinctTexts(const std::string& field) {
-    return ReadTexts("SELECT DISTINCT " + field + " FROM Psi ORDER BY " + field);
+    std::vector<QString> texts;
+    std::vector<NamePlace> places;
+    QSet<QString> seen;
+    for (Query rows(TheDataModule().Conn1, "SELECT " + field + " FROM Psi"); rows.Next();) {
+        const QString text = rows.Text(0);
+        if (seen.contains(text))
+            continue;
+        seen.insert(text);
+        texts.push_back(text);
+        places.emplace_back(rows, 0, text);
+    }
+    return InOrder(std::move(texts), places);
 }
 
 int CountWhere(const std::string& condition) {
@@ -67,10 +80,6 @@ Psi ExistingDog(int psiID) {
 
 std::vector<Psi> DogsOfOwner(int majitelID, DogOrder order) {
     return ReadDogs("WHERE MajitelID = " + Number(majitelID) + OrderClause(order));
-}
-
-std::vector<Psi> DogsByBreed() {
-    return ReadDogs(std::string("ORDER BY PlemenoID, ") + kOrderInBreed);
 }
 
 std::optional<int> OwnerOfDog(int psiID) {

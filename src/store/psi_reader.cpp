@@ -1,5 +1,6 @@
 #include "store/psi_reader.h"
 
+#include "store/placed_rows.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -9,6 +10,10 @@ namespace {
 constexpr const char* kFields =
     "ID, Jmeno, ChovnaStanice, Cislo, PlemenoID, MajitelID, BarvaID, PohlaviPes, DatumNar, Trida, "
     "Otec, Matka, PK, Poznamka, Chovatel, PrvniUzaverka, PrvniPes";
+
+/// Where kFields has what a dog's place in its breed hangs on.
+constexpr BreedPlace::Columns kPlaceColumns{
+    .plemenoID = 4, .pohlaviPes = 7, .trida = 9, .jmeno = 1};
 
 /// The fields in the order of kFields.
 Psi ReadPsi(const Query& row) {
@@ -38,6 +43,17 @@ Psi ReadPsi(const Query& row) {
 
 std::vector<Psi> ReadDogs(const std::string& rest, const std::string& top) {
     return ReadMany("SELECT " + top + kFields + " FROM Psi " + rest, ReadPsi);
+}
+
+std::vector<Psi> DogsByBreed() {
+    std::vector<Psi> dogs;
+    std::vector<BreedPlace> places;
+    for (Query rows(TheDataModule().Conn1, std::string("SELECT ") + kFields + " FROM Psi");
+         rows.Next();) {
+        dogs.push_back(ReadPsi(rows));
+        places.emplace_back(rows, kPlaceColumns, dogs.back().Jmeno);
+    }
+    return InOrder(std::move(dogs), places);
 }
 
 } // namespace lorvo

@@ -1,5 +1,6 @@
 #include "store/uhrady.h"
 
+#include "store/placed_rows.h"
 #include "store/rows.h"
 
 namespace lorvo {
@@ -30,10 +31,9 @@ constexpr const char* kWithOwners =
     "Uhrady.Mena, Uhrady.Datum, Uhrady.Kc, Uhrady.Uhrada, Psi.ID, Psi.Jmeno, Psi.ChovnaStanice, "
     "Psi.MajitelID, Majitele.Prijmeni + ' ' + Majitele.Jmeno + ', ' + Majitele.Mesto AS MajX, "
     "Majitele.ID FROM Uhrady, Psi, Majitele WHERE Uhrady.ID_Psa = Psi.ID AND "
-    "Psi.MajitelID = Majitele.ID ORDER BY MajitelID";
+    "Psi.MajitelID = Majitele.ID";
 
-/// `before` is the row of the payment before, null for the first.
-PaymentRow ReadPaymentRow(const Query& row, const PaymentRow* before) {
+PaymentRow ReadPaymentRow(const Query& row) {
     PaymentRow payment;
     payment.UID = row.Int(0);
     payment.ID_Psa = row.Int(1);
@@ -49,9 +49,6 @@ PaymentRow ReadPaymentRow(const Query& row, const PaymentRow* before) {
     payment.Jmeno = row.Text(10);
     payment.ChovnaStanice = row.Text(11);
     payment.MajitelID = row.Int(12);
-    // The payments of one owner stand together and share his text.
-    const bool sameOwner = before && before->MajitelID == payment.MajitelID;
-    payment.MajX = sameOwner ? before->MajX : row.Text(13);
     return payment;
 }
 
@@ -81,9 +78,18 @@ std::vector<Uhrady> PaymentsOfDog(int psiID) {
 
 std::vector<PaymentRow> PaymentsWithOwners() {
     std::vector<PaymentRow> payments;
-    for (Query rows(TheDataModule().Conn1, kWithOwners); rows.Next();)
-        payments.push_back(ReadPaymentRow(rows, payments.empty() ? nullptr : &payments.back()));
-    return payments;
+    std::vector<int> owners;
+    std::unordered_map<int, QString> names; // shared by the payments of an owner
+    for (Query rows(TheDataModule().Conn1, kWithOwners); rows.Next();) {
+        PaymentRow payment = ReadPaymentRow(rows);
+        QString& name = names[payment.MajitelID];
+        if (name.isNull())
+            name = rows.Text(13);
+        payment.MajX = name;
+        owners.push_back(payment.MajitelID);
+        payments.push_back(std::move(payment));
+    }
+    return InOrder(std::move(payments), owners);
 }
 
 std::vector<QString> AccountsOfOwner(int majitelID) {

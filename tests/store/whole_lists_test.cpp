@@ -70,6 +70,7 @@ class WholeListsTest : public RoutinesTest {
         const int ID = Add("Psi", {{"Jmeno", NameOrNull()},
                                    {"PlemenoID", Random(1, kBreeds + 1)},
                                    {"MajitelID", Random(1, kOwners + 2)},
+                                   {"Otec", NameOrNull()},
                                    {"Cislo", OneIn(4) ? Value() : Value(Random(0, 30))},
                                    {"PohlaviPes", OneIn(2)},
                                    {"Trida", Random(1, 9)},
@@ -167,6 +168,25 @@ TEST_F(WholeListsTest, DogsOfAllBreedsInOneOrder) {
             EXPECT_EQ((dog++)->ID, ofBreed.ID);
         }
     EXPECT_EQ(dog, byBreed.end());
+}
+
+// What is put in order by the program stands as the engine's own sorter puts it.
+TEST_F(WholeListsTest, ListsInOrder) {
+    const auto expect = [](const auto& rows, auto id, const std::string& statement) {
+        Numbers listed;
+        for (const auto& row : rows)
+            listed.push_back(row.*id);
+        EXPECT_EQ(listed, ReadNumbers(statement)) << statement;
+    };
+    expect(OwnersByName(), &Majitele::ID, "SELECT ID FROM Majitele ORDER BY Jmeno ASC");
+    expect(DogsByBreed(), &Psi::ID,
+           "SELECT ID FROM Psi ORDER BY PlemenoID, PohlaviPes ASC, Trida ASC, Jmeno ASC");
+    expect(PaymentsWithOwners(), &PaymentRow::UID,
+           "SELECT Uhrady.ID FROM Uhrady, Psi, Majitele WHERE Uhrady.ID_Psa = Psi.ID AND "
+           "Psi.MajitelID = Majitele.ID ORDER BY MajitelID");
+    std::vector<QString> names = ReadTexts("SELECT DISTINCT Otec FROM Psi ORDER BY Otec");
+    EXPECT_GT(names.size(), 5u);
+    EXPECT_EQ(DistinctFathers(), names);
 }
 
 TEST_F(WholeListsTest, NumbersOfAllOwners) {
