@@ -2,12 +2,16 @@
 ; program keeps its data beside itself. Quiet with /S, into another folder with /D=C:\Folder.
 ; What the clerk works on is never touched: not the database, not a changed template, not what was
 ; printed. The uninstaller leaves it too and says where it is.
+; Settings are the machine's, and only an administrator may let the clerks write them: started with
+; /PRAVA the installer does that alone and ends with 0, or with 1 when it may not.
 ;   tools/windows/installer.sh makes it.
 Unicode true
 Target amd64-unicode
 !include "MUI2.nsh"
 !include "LogicLib.nsh"
+!include "FileFunc.nsh"
 
+!define SETTINGS "Software\Hollow Peak\Lorvo"
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Lorvo"
 
 Name "Lorvo ${VERSION}"
@@ -35,6 +39,10 @@ VIAddVersionKey /LANG=1029 "LegalCopyright" "© 2026 Hollow Peak"
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Do této složky Lorvo ukládá i data výstavy (soubor data.mdb). Nevolte síťovou složku ani složku, kterou synchronizuje cloudová služba."
 !define MUI_FINISHPAGE_RUN "$INSTDIR\Lorvo.exe"
 !define MUI_FINISHPAGE_RUN_TEXT "Spustit Lorvo"
+!define MUI_FINISHPAGE_SHOWREADME
+!define MUI_FINISHPAGE_SHOWREADME_TEXT "Pamatovat si nastavení a místa oken (požádá o práva správce)"
+!define MUI_FINISHPAGE_SHOWREADME_FUNCTION AskForSettings
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW HideWhatIsGranted
 
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_LICENSE "${STAGE}/Licence/Lorvo.txt"
@@ -44,6 +52,49 @@ VIAddVersionKey /LANG=1029 "LegalCopyright" "© 2026 Hollow Peak"
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "Czech"
+
+; $R0 becomes 1 when the clerks of this machine may keep settings from now on. What stands below the
+; key already is given to them too.
+Function GrantSettings
+  StrCpy $R0 0
+  WriteRegStr HKLM "${SETTINGS}" "" ""
+  System::Call 'advapi32::ConvertStringSecurityDescriptorToSecurityDescriptorW(w "D:(A;CI;KRKWSD;;;BU)", i 1, *p .r1, p 0) i .r0'
+  ${If} $0 != 0
+    System::Call 'advapi32::GetSecurityDescriptorDacl(p r1, *i .r2, *p .r3, *i .r4)'
+    ; 4 is a key of the registry, and the list of who may what.
+    System::Call 'advapi32::SetNamedSecurityInfoW(w "MACHINE\${SETTINGS}", i 4, i 4, p 0, p 0, p r3, p 0) i .r0'
+    ${If} $0 = 0
+      StrCpy $R0 1
+    ${EndIf}
+    System::Call 'kernel32::LocalFree(p r1)'
+  ${EndIf}
+FunctionEnd
+
+Function .onInit
+  ${GetParameters} $R1
+  ClearErrors
+  ${GetOptions} $R1 "/PRAVA" $R2
+  ${IfNot} ${Errors}
+    Call GrantSettings
+    IntOp $R0 1 - $R0
+    SetErrorLevel $R0
+    Quit
+  ${EndIf}
+FunctionEnd
+
+; On the last page: the box is there for who installed without the rights and hasn't them yet.
+Function HideWhatIsGranted
+  ClearErrors
+  WriteRegStr HKLM "${SETTINGS}" "" ""
+  ${IfNot} ${Errors}
+    SendMessage $mui.FinishPage.ShowReadme ${BM_SETCHECK} ${BST_UNCHECKED} 0
+    ShowWindow $mui.FinishPage.ShowReadme ${SW_HIDE}
+  ${EndIf}
+FunctionEnd
+
+Function AskForSettings
+  ExecShell "runas" "$EXEPATH" "/PRAVA"
+FunctionEnd
 
 ; A program that runs holds its file: nothing may be replaced under it.
 !macro RefuseWhileRunning
@@ -113,6 +164,7 @@ Section "Lorvo"
   !insertmacro Template "Seznam psů.html"
   !insertmacro Template "Seznam vystavovatelů.html"
 
+  Call GrantSettings
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\Odinstalovat.exe"
   CreateShortCut "$SMPROGRAMS\Lorvo.lnk" "$INSTDIR\Lorvo.exe"

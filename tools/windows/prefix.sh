@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Cross-compiles for 64-bit Windows what Lorvo links: ICU, Qt, SQLite, SQLiteCpp, libzip and
-# GoogleTest, from the source packages of the Debian system it runs on. Once, 25 to 50 minutes.
+# Cross-compiles for 64-bit Windows what Lorvo links: ICU, Qt, SQLite, SQLiteCpp, libzip, libxlsxwriter
+# and GoogleTest, from the source packages of the Debian system it runs on. Once, 25 to 50 minutes.
 #   prefix.sh FOLDER [STEP...]   FOLDER outside the repository; or set LORVO_WINDOWS
 # Without a step all run in order. A finished step is marked in FOLDER/done and not run again;
 # remove its mark to repeat it. Each step writes FOLDER/log/STEP.log.
@@ -10,8 +10,8 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/folders.sh" "${1:-}"
 shift $(($# > 0))
 
-all_steps=(packages sources icu qt sqlite sqlitecpp libzip googletest runtime)
-sources=(qt6-base icu sqlite3 sqlitecpp libzip googletest)
+all_steps=(packages sources icu qt sqlite sqlitecpp libzip libxlsxwriter googletest runtime)
+sources=(qt6-base icu sqlite3 sqlitecpp libzip libxlsxwriter googletest)
 jobs=${JOBS:-$(nproc)}
 target=x86_64-w64-mingw32
 
@@ -88,12 +88,14 @@ step_icu() {
   make install ICUDATA_SOURCE_ARCHIVE="$trimmed"
 }
 
-# cross_build NAME OPTION...: configure, build and install src/NAME by CMake.
+# cross_build NAME OPTION...: configure, build and install src/NAME by CMake. A build tree remembers
+# where its toolchain file lies: its own copy stays when the repository is moved.
 cross_build() {
   local name=$1
   shift
+  cp "$here"/{toolchain.cmake,wine.sh} "$windows/build/"
   cmake -G Ninja -S "$windows/src/$name" -B "$windows/build/$name" -DCMAKE_BUILD_TYPE=Release \
-    -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" -DCMAKE_INSTALL_PREFIX="$prefix" "$@"
+    -DCMAKE_TOOLCHAIN_FILE="$windows/build/toolchain.cmake" -DCMAKE_INSTALL_PREFIX="$prefix" "$@"
   cmake --build "$windows/build/$name" --parallel "$jobs"
   cmake --install "$windows/build/$name"
 }
@@ -129,6 +131,10 @@ step_sqlitecpp() {
 step_libzip() {
   cross_build libzip -DBUILD_SHARED_LIBS=ON -DBUILD_{TOOLS,REGRESS,EXAMPLES,DOC}=OFF \
     -DENABLE_{GNUTLS,OPENSSL,MBEDTLS,COMMONCRYPTO,WINDOWS_CRYPTO,BZIP2,LZMA,ZSTD}=OFF
+}
+
+step_libxlsxwriter() {
+  cross_build libxlsxwriter -DBUILD_SHARED_LIBS=ON
 }
 
 step_googletest() {

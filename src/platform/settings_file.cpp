@@ -1,3 +1,5 @@
+// Where there is no registry: one file in the program's folder.
+
 #include "platform/real_services.h"
 #include "platform/values/errors.h"
 #include "platform/whole_file.h"
@@ -14,14 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class StoredSettings final : public SettingsTree {
+class FileSettings final : public SettingsTree {
   public:
-    StoredSettings(const QString& place, QSettings::Format format)
-        : settings_(place, format), writable_(settings_.isWritable()) {
-        if (format != QSettings::NativeFormat)
-            earlier_ = Content();
-    }
-    ~StoredSettings() override {
+    explicit FileSettings(const QString& path)
+        : settings_(path, QSettings::IniFormat), writable_(settings_.isWritable()),
+          earlier_(Content()) {}
+    ~FileSettings() override {
         settings_.sync();
         RestoreEmptied();
     }
@@ -62,7 +62,7 @@ class StoredSettings final : public SettingsTree {
     /// kill, or brought along when the folder was copied from another computer.
     void RemoveDeadLock() const {
         const QString path = settings_.fileName() + u".lock"_s;
-        if (settings_.format() == QSettings::NativeFormat || !QFile::exists(path))
+        if (!QFile::exists(path))
             return;
         qint64 process = 0;
         QString host;
@@ -85,13 +85,8 @@ class StoredSettings final : public SettingsTree {
 
 } // namespace
 
-std::unique_ptr<SettingsTree> MakeSettingsTree([[maybe_unused]] const QString& programFolder) {
-#ifdef Q_OS_WIN
-    return std::make_unique<StoredSettings>(u"HKEY_LOCAL_MACHINE"_s, QSettings::NativeFormat);
-#else
-    return std::make_unique<StoredSettings>(programFolder + u"/Lorvo.settings"_s,
-                                            QSettings::IniFormat);
-#endif
+std::unique_ptr<SettingsTree> MakeSettingsTree(const QString& programFolder) {
+    return std::make_unique<FileSettings>(programFolder + u"/Lorvo.settings"_s);
 }
 
 } // namespace lorvo
