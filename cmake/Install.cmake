@@ -35,8 +35,10 @@ file(RELATIVE_PATH LORVO_PROGRAM_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${program_fo
 file(RELATIVE_PATH LORVO_DATA_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${data_folder})
 configure_file(packaging/linux/lorvo.in ${PROJECT_BINARY_DIR}/packaging/lorvo @ONLY)
 install(PROGRAMS ${PROJECT_BINARY_DIR}/packaging/lorvo DESTINATION ${CMAKE_INSTALL_BINDIR})
+file(CREATE_LINK lorvo ${PROJECT_BINARY_DIR}/packaging/lorvo-spravce SYMBOLIC)
+install(FILES ${PROJECT_BINARY_DIR}/packaging/lorvo-spravce DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-install(FILES packaging/linux/cz.hollowpeak.lorvo.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/linux/cz.hollowpeak.lorvo.desktop packaging/linux/cz.hollowpeak.lorvo-spravce.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/linux/cz.hollowpeak.lorvo.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES src/forms/icons/lorvo.svg DESTINATION ${icons}/scalable/apps)
@@ -47,13 +49,15 @@ endforeach()
 # Manual and changes are compressed without a time in them: the same source gives the same bytes.
 set(compressed ${PROJECT_BINARY_DIR}/packaging)
 configure_file(packaging/linux/changelog.in ${compressed}/changelog @ONLY)
-foreach(text ${PROJECT_SOURCE_DIR}/packaging/linux/lorvo.1 ${compressed}/changelog)
+foreach(text ${PROJECT_SOURCE_DIR}/packaging/linux/lorvo.1 ${PROJECT_SOURCE_DIR}/packaging/linux/lorvo-spravce.1
+    ${compressed}/changelog)
   get_filename_component(name ${text} NAME)
   add_custom_command(OUTPUT ${compressed}/${name}.gz
     COMMAND gzip --best --no-name --stdout ${text} > ${compressed}/${name}.gz
     DEPENDS ${text} VERBATIM)
 endforeach()
-add_custom_target(compressed_texts ALL DEPENDS ${compressed}/lorvo.1.gz ${compressed}/changelog.gz)
-install(FILES ${compressed}/lorvo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+add_custom_target(compressed_texts ALL DEPENDS
+  ${compressed}/lorvo.1.gz ${compressed}/lorvo-spravce.1.gz ${compressed}/changelog.gz)
+install(FILES ${compressed}/lorvo.1.gz ${compressed}/lorvo-spravce.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${compressed}/changelog.gz packaging/linux/copyright README.md CHANGELOG.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lorvo)

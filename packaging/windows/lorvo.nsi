@@ -97,12 +97,12 @@ Function AskForSettings
 FunctionEnd
 
 ; A program that runs holds its file: nothing may be replaced under it.
-!macro RefuseWhileRunning
-  ${If} ${FileExists} "$INSTDIR\Lorvo.exe"
+!macro RefuseWhileRunning PROGRAM TEXT
+  ${If} ${FileExists} "$INSTDIR\${PROGRAM}"
     ClearErrors
-    FileOpen $0 "$INSTDIR\Lorvo.exe" a
+    FileOpen $0 "$INSTDIR\${PROGRAM}" a
     ${If} ${Errors}
-      MessageBox MB_OK|MB_ICONEXCLAMATION "Lorvo je spuštěné. Zavřete je a zkuste to znovu." /SD IDOK
+      MessageBox MB_OK|MB_ICONEXCLAMATION "${TEXT} Zavřete jej a zkuste to znovu." /SD IDOK
       SetErrorLevel 3
       Abort
     ${EndIf}
@@ -151,7 +151,8 @@ FunctionEnd
 !macroend
 
 Section "Lorvo"
-  !insertmacro RefuseWhileRunning
+  !insertmacro RefuseWhileRunning "Lorvo.exe" "Program Lorvo je spuštěný."
+  !insertmacro RefuseWhileRunning "LorvoSpravce.exe" "Správce dat je spuštěný."
   SetOutPath "$INSTDIR"
   File /r /x data.mdb /x Šablony "${STAGE}/*"
   ${IfNot} ${FileExists} "$INSTDIR\data.mdb"
@@ -168,6 +169,7 @@ Section "Lorvo"
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\Odinstalovat.exe"
   CreateShortCut "$SMPROGRAMS\Lorvo.lnk" "$INSTDIR\Lorvo.exe"
+  CreateShortCut "$SMPROGRAMS\Lorvo – správce dat.lnk" "$INSTDIR\LorvoSpravce.exe"
   CreateShortCut "$DESKTOP\Lorvo.lnk" "$INSTDIR\Lorvo.exe"
   WriteRegStr HKCU "${UNINSTALL}" "DisplayName" "Lorvo – kancelář výstavy psů"
   WriteRegStr HKCU "${UNINSTALL}" "DisplayVersion" "${VERSION}"
@@ -182,11 +184,13 @@ SectionEnd
 
 ; Only what was installed, by name; the folder itself goes when nothing of the clerk's is in it.
 Section "Uninstall"
-  !insertmacro RefuseWhileRunning
+  !insertmacro RefuseWhileRunning "Lorvo.exe" "Program Lorvo je spuštěný."
+  !insertmacro RefuseWhileRunning "LorvoSpravce.exe" "Správce dat je spuštěný."
   !include "${REMOVED}" ; a line for each file and folder that was installed
   RMDir /r "$INSTDIR\Šablony\Dodané"
   Delete "$INSTDIR\Odinstalovat.exe"
   Delete "$SMPROGRAMS\Lorvo.lnk"
+  Delete "$SMPROGRAMS\Lorvo – správce dat.lnk"
   Delete "$DESKTOP\Lorvo.lnk"
   DeleteRegKey HKCU "${UNINSTALL}"
   RMDir "$INSTDIR"

@@ -5,12 +5,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryFile>
-#include <cerrno>
-#include <filesystem>
+#include <QRandomGenerator>
 #ifdef Q_OS_WIN
 #include <io.h>
+#include <windows.h>
 #else
+#include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -21,17 +22,32 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The cause of what has just failed; a failure without one is told as a full disk's, which is what
-/// a short write without a word means.
-int LastCause() {
-    return errno != 0 ? errno : ENOSPC;
-}
-
 bool Sync(int handle) {
 #ifdef Q_OS_WIN
-    return _commit(handle) == 0;
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(handle))) != 0;
 #else
     return fsync(handle) == 0;
+#endif
+}
+
+bool RenamedOver(const QString& from, const QString& to) {
+#ifdef Q_OS_WIN
+    const auto wide = [](const QString& path) {
+        return QDir::toNativeSeparators(path).toStdWString();
+    };
+    return MoveFileExW(wide(from).c_str(), wide(to).c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+#else
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+#endif
+}
+
+/// Of failures that follow, only one that sets it is told.
+void ForgetLastFailure() {
+#ifdef Q_OS_WIN
+    SetLastError(0);
+#else
+    errno = 0;
 #endif
 }
 
@@ -54,63 +70,84 @@ void SyncFolder(const QString& folder) {
 class Draft {
   public:
     /// `path` is the name that the file is meant for, and that a failure names.
-    Draft(const QString& path, const QByteArray& bytes)
-        : folder_(QFileInfo(path).path()), file_(folder_ + u"/Lorvo-XXXXXX.tmp"_s) {
-        errno = 0;
-        if (!file_.open() || file_.write(bytes) != bytes.size() || !file_.flush() ||
-            !Sync(file_.handle()))
-            FailToWriteFile(path, LastCause());
-        file_.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
-                             QFile::ReadOther);
+    Draft(const QString& path, const QByteArray& bytes) : folder_(QFileInfo(path).path()) {
+        ForgetLastFailure();
+        if (!Open() || file_.write(bytes) != bytes.size() || !file_.flush())
+            Fail(path, CauseOfFailure(file_));
+        if (!Sync(file_.handle()))
+            Fail(path, CauseOfLastFailure());
+        file_.close(); // some systems rename no open file
     }
+    ~Draft() {
+        if (!isKept_)
+            file_.remove();
+    }
+    Draft(const Draft&) = delete;
+    Draft& operator=(const Draft&) = delete;
 
     /// False when another file has the name.
     bool NameAnew(const QString& path) {
-        errno = 0;
+        ForgetLastFailure();
         if (QFile::exists(path))
             return false;
         if (!file_.rename(path)) {
             if (QFile::exists(path))
                 return false;
-            FailToWriteFile(path, LastCause());
+            FailToWriteFile(path, CauseOfFailure(file_));
         }
         Keep();
         return true;
     }
     void NameInsteadOf(const QString& path) {
-        std::error_code error;
-        const QString draft = file_.fileName();
-        file_.close();
-        std::filesystem::rename(draft.toStdU16String(), path.toStdU16String(), error);
-        if (error)
-            FailToWriteFile(path, error.default_error_condition().value());
+        if (!RenamedOver(file_.fileName(), path))
+            FailToWriteFile(path, CauseOfLastFailure());
         Keep();
     }
 
   private:
+    bool Open() {
+        do {
+            file_.setFileName(folder_ + u"/Lorvo-%1.tmp"_s.arg(
+                                            QRandomGenerator::global()->generate(), 8, 16, u'0'));
+        } while (QFile::exists(file_.fileName()));
+        return file_.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    }
+    [[noreturn]] void Fail(const QString& path, const QString& cause) {
+        file_.remove(); // the object that failed to be made has no end
+        FailToWriteFile(path, cause);
+    }
     void Keep() {
-        file_.setAutoRemove(false);
+        isKept_ = true;
         SyncFolder(folder_);
     }
 
     QString folder_;
-    QTemporaryFile file_;
+    QFile file_;
+    bool isKept_ = false;
 };
 
 } // namespace
 
 void ReplaceFile(const QString& path, const QByteArray& bytes) {
-    if (const QFileInfo older(path); older.isFile() && !older.isWritable())
-        FailToWriteFile(path, EACCES);
+    const QFileInfo older(path);
+    if (older.isDir())
+        FailToWriteFile(path, u"tento název má složka"_s);
+    if (older.isFile() && !older.isWritable())
+        FailToWriteFile(path, u"chybí právo zápisu do souboru nebo složky"_s);
     Draft(path, bytes).NameInsteadOf(path);
+}
+
+void RenameOver(const QString& from, const QString& to) {
+    if (!RenamedOver(from, to))
+        FailToWriteFile(to, CauseOfLastFailure());
 }
 
 QString WriteNewFile(const QString& folder, const QString& stem, const QString& ending,
                      const QByteArray& bytes) {
     const QString first = folder + u'/' + stem + u'.' + ending;
-    errno = 0;
+    ForgetLastFailure();
     if (!QDir().mkpath(folder))
-        FailToWriteFile(first, LastCause());
+        FailToWriteFile(first, CauseOfLastFailure());
     Draft draft(first, bytes);
     QString path = first;
     for (int number = 2; !draft.NameAnew(path); ++number)

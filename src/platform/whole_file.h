@@ -11,6 +11,9 @@ namespace lorvo {
 /// that fails. PlatformError names the file and the cause.
 void ReplaceFile(const QString& path, const QByteArray& bytes);
 
+/// Gives a file another name in one step, over a file that has it. Raises as ReplaceFile does.
+void RenameOver(const QString& from, const QString& to);
+
 /// Writes a new file beside the older ones: "FOLDER/STEM.ENDING", or "FOLDER/STEM (2).ENDING" and
 /// so on where that is taken. The folder is made when it is missing. Returns the path. Raises as
 /// ReplaceFile does.

@@ -61,7 +61,7 @@ Cause CauseOf(int code) {
 /// statement.
 QString Details(const Cause& cause, int systemCode, const char* message) {
     if (cause.kind == Kind::Disk && systemCode != 0)
-        return u": "_s + CauseOfSystemFailure(systemCode);
+        return u": "_s + CauseOfFailure(systemCode);
     if (cause.kind == Kind::Statement)
         return u" (%1)"_s.arg(QString::fromUtf8(message));
     return {};

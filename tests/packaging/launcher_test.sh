@@ -8,6 +8,7 @@ mkdir -p "$work/usr/bin" "$work/usr/libexec/lorvo" "$work/usr/share/lorvo/Šablo
 sed -e 's|@LORVO_PROGRAM_FROM_BIN@|../libexec/lorvo|' -e 's|@LORVO_DATA_FROM_BIN@|../share/lorvo|' \
   "$1" > "$work/usr/bin/lorvo"
 chmod +x "$work/usr/bin/lorvo"
+ln -s lorvo "$work/usr/bin/lorvo-spravce"
 share=$work/usr/share/lorvo
 export HOME="$work/home"
 unset DISPLAY WAYLAND_DISPLAY
@@ -16,7 +17,8 @@ faults=0
 deliver() { # deliver VERSION: what a package of that version holds
   printf '#!/bin/sh\necho "started %s in $(dirname "$0")"\n' "$1" > "$work/usr/libexec/lorvo/Lorvo"
   chmod +x "$work/usr/libexec/lorvo/Lorvo"
-  cp "$work/usr/libexec/lorvo/Lorvo" "$work/usr/libexec/lorvo/Another"
+  printf '#!/bin/sh\necho "spravce %s in $(dirname "$0"):" "$@"\n' "$1" > "$work/usr/libexec/lorvo/LorvoSpravce"
+  chmod +x "$work/usr/libexec/lorvo/LorvoSpravce"
   echo "breeds of $1" > "$share/data.mdb"
   for name in "Diplomy.html" "Seznam psů.html"; do echo "$name of $1" > "$share/Šablony/$name"; done
   mkdir -p "$share/napoveda"
@@ -58,7 +60,9 @@ expect "new template to look at" "Diplomy.html of 2" "$(cat "$folder/Šablony/Do
 expect "untouched template after an update" "Seznam psů.html of 2" "$(cat "$folder/Šablony/Seznam psů.html")"
 expect "output after an update" "printed" "$(cat "$folder/Šablony/Výstup.html")"
 expect "help after an update" "help of 2" "$(cat "$folder/napoveda/index.html")"
-expect "every program after an update" "started 2 in $folder" "$("$folder/Another")"
+expect "the other program after an update" "spravce 2 in $folder:" "$("$folder/LorvoSpravce")"
+expect "the other program by its own command" "spravce 2 in $folder: seznam psi psi.csv" \
+  "$("$work/usr/bin/lorvo-spravce" seznam psi psi.csv)"
 expect "nothing half written" "" "$(find "$folder" -name '*.nový')"
 
 rm "$folder/Šablony/Seznam psů.html"

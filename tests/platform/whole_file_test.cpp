@@ -21,6 +21,8 @@ namespace {
 class WholeFile : public testing::Test {
   protected:
     QString Path(const QString& name) const { return folder_.filePath(name); }
+    /// As messages show it.
+    QString Shown(const QString& name) const { return QDir::toNativeSeparators(Path(name)); }
     QByteArray Bytes(const QString& name) const {
         QFile file(Path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
@@ -66,14 +68,14 @@ TEST_F(WholeFile, ANewOneStandsBesideTheOlderOnes) {
 TEST_F(WholeFile, FailuresNameTheFileAndTheCauseInCzech) {
     ASSERT_TRUE(QDir(folder_.path()).mkdir(u"a.html"_s));
     EXPECT_EQ(Failure([&] { ReplaceFile(Path(u"a.html"_s), "x"); }),
-              u"Soubor nelze zapsat „%1“: tento název má složka"_s.arg(Path(u"a.html"_s)));
+              u"Soubor nelze zapsat „%1“: tento název má složka"_s.arg(Shown(u"a.html"_s)));
     EXPECT_EQ(Failure([&] { ReplaceFile(Path(u"chybí/b.html"_s), "x"); }),
               u"Soubor nelze zapsat „%1“: soubor nebo jeho složka neexistuje"_s.arg(
-                  Path(u"chybí/b.html"_s)));
+                  Shown(u"chybí/b.html"_s)));
     ReplaceFile(Path(u"Tisky"_s), "a file in the folder's place");
     const QString failure =
         Failure([&] { (void)WriteNewFile(Path(u"Tisky"_s), u"K"_s, u"docx"_s, "x"); });
-    EXPECT_TRUE(failure.startsWith(u"Soubor nelze zapsat „%1/K.docx“: "_s.arg(Path(u"Tisky"_s))))
+    EXPECT_TRUE(failure.startsWith(u"Soubor nelze zapsat „%1“: "_s.arg(Shown(u"Tisky/K.docx"_s))))
         << failure.toStdString();
 }
 

@@ -3,12 +3,11 @@
 #include "office/copies/copy_ladder.h"
 #include "platform/file_failure.h"
 #include "platform/values/errors.h"
+#include "platform/whole_file.h"
 
 #include <QDir>
 #include <QFile>
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
 
 namespace lorvo {
 
@@ -19,18 +18,6 @@ namespace {
 /// Copies on their way; a kill leaves one behind, which the next copy takes away.
 const QString kUnfinished = u"rozpracovaná kopie.tmp"_s;
 const QStringList kJournalEndings = {u"-wal"_s, u"-shm"_s, u"-journal"_s};
-
-std::filesystem::path NativePath(const QString& path) {
-    return std::filesystem::path(path.toStdU16String());
-}
-
-/// In one step, over a file of that name.
-void RenameOver(const QString& from, const QString& to) {
-    std::error_code failure;
-    std::filesystem::rename(NativePath(from), NativePath(to), failure);
-    if (failure)
-        FailToWriteFile(to, failure.value());
-}
 
 QStringList CopyPaths(const QString& folder) {
     QStringList names;
@@ -87,7 +74,7 @@ void DropOldCopies(const QString& folder, DateValue now) {
 void PutAside(const QString& database, const QString& folder, DateValue now) {
     const QString target = folder + u"/poškozená "_s + CopyName(now);
     if (!QFile::copy(database, target))
-        FailToWriteFile(target, ENOSPC);
+        FailToWriteFile(target, u"na disku není volné místo"_s);
     for (const QString& ending : kJournalEndings)
         QFile::copy(database + ending, target + ending);
 }
@@ -128,7 +115,7 @@ QString CopiesFolder(const QString& programFolder) {
 QString MakeCopy(const QString& programFolder, DateValue now) {
     const QString folder = CopiesFolder(programFolder);
     if (!QDir().mkpath(folder))
-        FailOnFile(u"Nejde založit složka"_s, folder, errno);
+        FailOnFile(u"Nejde založit složka"_s, folder, CauseOfLastFailure());
     const QString unfinished = folder + u'/' + kUnfinished;
     QFile::remove(unfinished);
     CopyDatabase(DatabasePath(programFolder), unfinished);

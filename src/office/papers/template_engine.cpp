@@ -6,7 +6,6 @@
 #include <QFile>
 #include <algorithm>
 #include <array>
-#include <cerrno>
 
 namespace lorvo {
 
@@ -49,7 +48,7 @@ bool IsOneWord(const QByteArray& literal) {
 ReportTemplate ReportTemplate::Read(const QString& path, TemplateKind kind) {
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite))
-        FailOnFile(u"Šablonu nelze otevřít"_s, path, errno);
+        FailOnFile(u"Šablonu nelze otevřít"_s, path, CauseOfFailure(file));
     return ReportTemplate(file.readAll(), kind);
 }
 

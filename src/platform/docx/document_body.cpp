@@ -4,7 +4,6 @@
 #include "platform/file_failure.h"
 
 #include <QDir>
-#include <cerrno>
 
 namespace lorvo::docx {
 
@@ -24,18 +23,18 @@ DocumentBody::DocumentBody() : file_(FileName()), xml_(Opened(file_)) {
 
 QTemporaryFile& DocumentBody::Opened(QTemporaryFile& file) {
     if (!file.open())
-        FailToWriteFile(FileName(), errno);
+        FailToWriteFile(FileName(), CauseOfFailure(file));
     return file;
 }
 
 void DocumentBody::Finish(const std::function<void(const QByteArray&)>& use) {
     xml_.End().End().Finish();
     if (!file_.flush())
-        FailToWriteFile(FileName(), errno);
+        FailToWriteFile(FileName(), CauseOfFailure(file_));
     const qint64 size = file_.size();
     const uchar* bytes = file_.map(0, size);
     if (!bytes)
-        FailToWriteFile(FileName(), errno);
+        FailToWriteFile(FileName(), CauseOfFailure(file_));
     use(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes), size));
 }
 

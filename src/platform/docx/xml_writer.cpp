@@ -3,7 +3,6 @@
 #include "platform/file_failure.h"
 
 #include <QFileDevice>
-#include <cerrno>
 #include <charconv>
 
 namespace lorvo::docx {
@@ -130,9 +129,9 @@ void XmlWriter::FlushWhenFull() {
 void XmlWriter::Flush() {
     const auto size = static_cast<qint64>(buffer_.size());
     if (device_.write(buffer_.data(), size) != size) {
-        const int cause = errno;
         const auto* file = qobject_cast<QFileDevice*>(&device_);
-        FailToWriteFile(file ? file->fileName() : QString(), cause);
+        FailToWriteFile(file ? file->fileName() : QString(),
+                        file ? CauseOfFailure(*file) : CauseOfLastFailure());
     }
     buffer_.clear();
 }
