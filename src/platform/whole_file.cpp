@@ -107,8 +107,8 @@ class Draft {
   private:
     bool Open() {
         do {
-            file_.setFileName(folder_ + u"/Lorvo-%1.tmp"_s.arg(
-                                            QRandomGenerator::global()->generate(), 8, 16, u'0'));
+            const quint32 number = QRandomGenerator::global()->generate();
+            file_.setFileName(folder_ + u"/Lorvo-"_s + QString::number(number, 16) + u".tmp"_s);
         } while (QFile::exists(file_.fileName()));
         return file_.open(QIODevice::WriteOnly | QIODevice::NewOnly);
     }
