@@ -82,4 +82,10 @@ void WaitForPaint(QWidget& painted) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
+void PaintChanges(QWidget& window) {
+    QCoreApplication::sendPostedEvents();
+    QEvent update(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window, &update);
+}
+
 } // namespace lorvo::bench

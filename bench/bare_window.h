@@ -39,4 +39,7 @@ class BareWindow : public QMainWindow {
 /// Lets events run until the widget has been painted once more.
 void WaitForPaint(QWidget& painted);
 
+/// Paints at once what has been marked as changed, as the window system would soon ask for.
+void PaintChanges(QWidget& window);
+
 } // namespace lorvo::bench

@@ -170,6 +170,7 @@ void JumpFromExhibitor(benchmark::State& state, const char* size) {
     UseShowOnDesk(size);
     fm_main main;
     main.Start();
+    WaitForPaint(main);
     Filled<frmVystavovatele> window([&](auto& filled) {
         auto& list = *filled.template findChild<ReportList*>();
         ThePlatform().menus = std::make_unique<FirstDogChosen>();
@@ -179,7 +180,7 @@ void JumpFromExhibitor(benchmark::State& state, const char* size) {
             QElapsedTimer timer;
             timer.start();
             Q_EMIT list.RightClick(position);
-            main.repaint();
+            PaintChanges(main);
             state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) / 1e9);
         }
     });

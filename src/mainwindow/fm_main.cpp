@@ -9,6 +9,7 @@
 #include "forms/form_settings.h"
 #include "forms/report_list.h"
 #include "mainwindow/about_panel.h"
+#include "mainwindow/disk_notice.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/node_panels.h"
 #include "mainwindow/return_watch.h"
@@ -57,6 +58,7 @@ fm_main::fm_main()
     resize(kDesignedSize.boundedTo(screen()->availableSize() - kFrame));
     addToolBar(cmdBar->MakeBar(u"STANDARD"_s, this));
     setStatusBar(sbMain);
+    diskNotice_ = new DiskNotice(*sbMain);
     MakeSplitter();
     MakeAboutPanel();
     treeCommands_ = new TreeCommands(*tvwMain, *this, this);
@@ -109,11 +111,11 @@ void fm_main::Start() {
     Connect(new ReturnWatch(*this), &ReturnWatch::Returned, this, [this] {
         if (!IsModalOpen())
             Activate();
-        SayDiskFailure();
+        diskNotice_->Refresh();
     });
     Later(this, [this] {
         Activate();
-        SayDiskFailure();
+        diskNotice_->Refresh();
     });
 }
 
@@ -131,14 +133,6 @@ void fm_main::Load() {
     SkipFailure([this] { RestoreSelection(); });
     ShowGridLines(ShowGridPreferred());
     EnsureMainCurrency();
-}
-
-// What was skipped because of the disk looks as if the data were gone.
-void fm_main::SayDiskFailure() {
-    const QString failure = TakeSkippedDiskFailure();
-    if (!failure.isEmpty())
-        ThePlatform().messages->Show(u"Data nelze načíst celá.\n\n"_s + failure,
-                                     MessageIcon::Exclamation, MessageButtons::Ok, windowTitle());
 }
 
 void fm_main::RestoreSplitter() {

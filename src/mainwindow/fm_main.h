@@ -15,6 +15,7 @@ class QSplitter;
 namespace lorvo {
 
 class AboutPanel;
+class DiskNotice;
 class MainTree;
 class NodePanels;
 class StatusPanels;
@@ -30,8 +31,8 @@ class fm_main : public QMainWindow,
     ~fm_main() override;
 
     /// Loads and shows the window; the first Activate comes with the next turn of the event loop.
-    /// The database is open. Whatever fails on the way leaves its part undone, in silence,
-    /// but for a failure of the disk, which is said once the window stands.
+    /// The database is open. Whatever fails on the way leaves its part undone, and no box tells of
+    /// it; a failure of the disk is noted in the status bar.
     void Start();
 
     /// The way back from every other window, and from other programs: rebuilds the tree if somebody
@@ -65,7 +66,6 @@ class fm_main : public QMainWindow,
     // Start and end.
     void Load();
     void Unload();
-    void SayDiskFailure();
     void RestoreSplitter();
     void RestoreSelection();
     void ShowGridLines(bool shown);
@@ -86,6 +86,7 @@ class fm_main : public QMainWindow,
 
     MainCommandBar* cmdBar;
     StatusPanels* sbMain;
+    DiskNotice* diskNotice_ = nullptr;
     QSplitter* vbuSplit = nullptr;
     MainTree* tvwMain = nullptr;
     NodePanels* picDetails = nullptr;

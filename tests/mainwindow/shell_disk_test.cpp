@@ -13,19 +13,24 @@ namespace {
 
 using ShellDisk = Shell;
 
-TEST_F(ShellDisk, AFailureOfTheDiskIsSaidOnceWhenTheWindowStands) {
-    const QString text =
-        u"Data nelze načíst celá.\n\nDatabáze %1: na disku není místo. Uvolněte na "
-        u"něm místo."_s.arg(database_.Path());
-    platform_.ExpectMessage(text, MessageAnswer::Ok, MessageIcon::Exclamation, MessageButtons::Ok,
-                            u"Lorvo"_s, [this] { EXPECT_TRUE(window_->isVisible()); });
+TEST_F(ShellDisk, AFailureOfTheDiskIsNotedBesideTheDataAndInNoBox) {
     test::WatchedDisk disk(database_.Folder());
     disk.before = [](int, const test::DiskCall&) {
         return ENOSPC; // the main show can't be added
     };
     Start();
     QCoreApplication::processEvents();
-    EXPECT_EQ(platform_.messages.size(), 1u);
+    const auto& notice = Control<QLabel>(u"lblDisk"_s);
+    EXPECT_TRUE(notice.isVisible());
+    EXPECT_EQ(notice.text(), u"Data nelze načíst celá");
+    EXPECT_EQ(notice.toolTip(),
+              u"Databáze %1: na disku není místo. Uvolněte na něm místo."_s.arg(database_.Path()));
+    EXPECT_TRUE(platform_.messages.empty());
+}
+
+TEST_F(ShellDisk, DataThatTheDiskGivesWholeAreShownWithoutAWord) {
+    Start();
+    EXPECT_FALSE(Control<QLabel>(u"lblDisk"_s).isVisible());
 }
 
 } // namespace
