@@ -69,6 +69,15 @@ TEST(ProgramIconTest, EveryPictureButTheBlankOneIsDrawn) {
     }
 }
 
+TEST(ProgramIconTest, TellsItsSizesAndStaysWithinWhatIsAskedFor) {
+    const QIcon dog = ProgramIcon(u"dog"_s);
+    EXPECT_TRUE(dog.availableSizes().contains(QSize(16, 16)));
+    EXPECT_TRUE(dog.availableSizes().contains(QSize(96, 96)));
+    EXPECT_EQ(dog.actualSize(QSize(16, 16)), QSize(16, 16));
+    EXPECT_EQ(dog.actualSize(QSize(17, 17)), QSize(17, 17));
+    EXPECT_EQ(dog.actualSize(QSize(300, 300)), QSize(96, 96));
+}
+
 TEST(ProgramIconTest, ANameWithoutAPictureIsANullIcon) {
     EXPECT_TRUE(ProgramIcon(u"unicorn"_s).isNull());
 }
