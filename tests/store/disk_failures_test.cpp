@@ -68,6 +68,21 @@ TEST_F(DiskFailuresTest, OneThatIsSkippedIsKeptToBeSaidOnce) {
     EXPECT_EQ(TakeSkippedDiskFailure(), QString());
 }
 
+TEST_F(DiskFailuresTest, ARunThatNobodyFinishesEndsWithoutAWordAndTheNextGoesOn) {
+    WatchedDisk disk(database.Folder());
+    {
+        const EditRun run(module.Conn1);
+        InsertRing(u"Kruh"_s);
+        disk.before = [](int, const DiskCall&) {
+            return EIO;
+        };
+    }
+    disk.before = nullptr;
+    EXPECT_EQ(ValueOf("SELECT COUNT(*) FROM Kruhy"), "0");
+    InsertRing(u"Kruh"_s);
+    EXPECT_EQ(ValueOf("SELECT COUNT(*) FROM Kruhy"), "1");
+}
+
 TEST_F(DiskFailuresTest, ALockOfSecondsIsWaitedForUnderTheWaitCursor) {
     int shown = 0;
     int taken = 0;

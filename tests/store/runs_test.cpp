@@ -67,6 +67,15 @@ TEST_F(RunsTest, InnerRunsShareTheOuterOne) {
     EXPECT_EQ(RingsOutside(), 2);
 }
 
+TEST_F(RunsTest, ARunThatCantBeginLeavesNoRunBehind) {
+    module.Conn1.Close();
+    EXPECT_THROW(EditRun(module.Conn1), StoreError);
+    EXPECT_THROW(ReadRun(module.Conn1), StoreError);
+    module.Conn1.Open(database.Path());
+    AddRing();
+    EXPECT_EQ(RingsOutside(), 1);
+}
+
 TEST_F(RunsTest, AReadRunStandsInOneTransaction) {
     const ReadRun run(module.Conn1);
     EXPECT_EQ(ValueOf("SELECT COUNT(*) FROM Kruhy"), "0");
