@@ -154,4 +154,14 @@ void Desk::Trigger(const QString& command) {
     Get<QAction>(command).trigger();
 }
 
+bool IsDogOnShow(const Desk& desk) {
+    return desk.model.onShow.startsWith(u'P') && !desk.model.ownerOnShow;
+}
+
+void TakeDogOnShow(Desk& desk) {
+    if (desk.model.selected.isEmpty())
+        desk.model.selected = desk.model.onShow;
+    desk.model.currentDog = QStringView(desk.model.onShow).mid(1).toInt();
+}
+
 } // namespace lorvo::test

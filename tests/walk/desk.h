@@ -74,7 +74,14 @@ using DeskStep = QString (*)(Desk& desk);
 // Steps of each kind. What they return tells what was done, for whoever looks for a fault.
 const std::vector<DeskStep>& StepsInTree();
 const std::vector<DeskStep>& StepsOnPanels();
+const std::vector<DeskStep>& StepsInEditors();
+const std::vector<DeskStep>& StepsInLists();
 const std::vector<DeskStep>& StepsInWindows();
+
+/// The panel of a dog is on show.
+bool IsDogOnShow(const Desk& desk);
+/// What is done on the panel of a dog selects its node if the tree has none selected.
+void TakeDogOnShow(Desk& desk);
 
 /// The end of a show: all dogs, rings and entries are cleared away.
 void ClearShow(Desk& desk);

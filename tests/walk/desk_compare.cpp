@@ -94,8 +94,10 @@ void Desk::CompareData() {
     CompareRows(
         "Psi", "ID, Jmeno, PlemenoID, MajitelID, PohlaviPes, Trida, PrvniUzaverka, PrvniPes, Cislo",
         LinesOf(model.dogs, DogLine));
-    CompareRows("Uhrady", "ID, ID_Psa, Kc", LinesOf(model.payments, [](const DeskPayment& payment) {
-                    return QString::number(payment.dog) + u'|' + QString::number(payment.units);
+    CompareRows("Uhrady", "ID, ID_Psa, Kc, Printed",
+                LinesOf(model.payments, [](const DeskPayment& payment) {
+                    return QString::number(payment.dog) + u'|' + QString::number(payment.units) +
+                           u'|' + Bit(payment.printed);
                 }));
     CompareRows("PsiVeVystavach", "PesID, VystavaID", Lines(model.entries));
     CompareRows("Vazby_Souteze", "ID_Psa, ID_Souteze", Lines(model.inCompetitions));

@@ -40,6 +40,7 @@ struct DeskOwner {
 struct DeskPayment {
     int dog = 0;
     int units = 0; ///< whole units of the main currency
+    bool printed = false;
 };
 
 /// What a panel shows: each text by its caption or name. Empty for no panel.

@@ -2,7 +2,6 @@
 #include "walk/desk.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QTest>
 
 namespace lorvo::test {
@@ -13,17 +12,6 @@ namespace {
 
 int IdOf(const QString& key) {
     return QStringView(key).mid(1).toInt();
-}
-
-bool IsDogOnShow(const Desk& desk) {
-    return desk.model.onShow.startsWith(u'P') && !desk.model.ownerOnShow;
-}
-
-/// What is done on the panel of a dog selects its node if the tree has none selected.
-void TakeDogOnShow(Desk& desk) {
-    if (desk.model.selected.isEmpty())
-        desk.model.selected = desk.model.onShow;
-    desk.model.currentDog = IdOf(desk.model.onShow);
 }
 
 QString GoBack(Desk& desk) {
@@ -74,123 +62,6 @@ QString TickAward(Desk& desk) {
     return u"award "_s + key + u" of "_s + desk.model.onShow;
 }
 
-/// Takes a payment or leaves the window; how much was taken, 0 for nothing.
-int Pay(Desk& desk, const std::function<void()>& open) {
-    const bool sure = !desk.OneIn(3);
-    const int units = 1 + desk.Random(1500);
-    WhileOpen(open, [&](QWidget& window) {
-        auto& amount = Control<QLineEdit>(window, "txtCastka");
-        amount.selectAll();
-        QTest::keyClicks(&amount, QString::number(units));
-        QTest::keyClick(&amount, sure ? Qt::Key_Return : Qt::Key_Escape);
-    });
-    return sure ? units : 0;
-}
-
-void Book(Desk& desk, int dog, int units) {
-    if (units > 0)
-        desk.model.payments[++desk.model.lastPayment] = {dog, units};
-}
-
-QString TakePayment(Desk& desk) {
-    if (!IsDogOnShow(desk))
-        return {};
-    const int dog = IdOf(desk.model.onShow);
-    const int units = Pay(desk, [&] { desk.Click(u"lblNovaPlatba"_s); });
-    TakeDogOnShow(desk);
-    Book(desk, dog, units);
-    desk.model.Return();
-    return u"pay %1 for %2"_s.arg(units).arg(dog);
-}
-
-QString TakePaymentByMenu(Desk& desk) {
-    const QString key = desk.OneOf(desk.model.nodes.Keys(u'P'));
-    if (key.isEmpty())
-        return {};
-    const int units = Pay(desk, [&] { desk.Choose(key, 602); });
-    desk.model.selected = key;
-    Book(desk, IdOf(key), units);
-    desk.model.Return();
-    desk.model.ShowNodeInfo(key);
-    return u"pay %1 by menu for "_s.arg(units) + key;
-}
-
-QString DeletePayment(Desk& desk) {
-    if (!IsDogOnShow(desk))
-        return {};
-    const int dog = IdOf(desk.model.onShow);
-    const auto first = std::ranges::find_if(
-        desk.model.payments, [&](const auto& payment) { return payment.second.dog == dog; });
-    const bool any = first != desk.model.payments.end();
-    const bool sure = desk.OneIn(2);
-    WhileOpen([&] { desk.Click(u"lblSeznamPlateb"_s); },
-              [&](QWidget& window) {
-                  auto& list = Control<ReportList>(window, "lvwUhrady");
-                  if (any) {
-                      list.SelectRow(0);
-                      desk.platform.ExpectMessage(u"Skutečně smazat platbu?"_s,
-                                                  sure ? MessageAnswer::Ok : MessageAnswer::Cancel);
-                      QTest::keyClick(&list, Qt::Key_Delete);
-                  }
-                  QTest::keyClick(&list, Qt::Key_Escape);
-              });
-    TakeDogOnShow(desk);
-    if (any && sure)
-        desk.model.payments.erase(first);
-    desk.model.Return();
-    return u"payments of %1"_s.arg(dog);
-}
-
-QString EditDog(Desk& desk) {
-    if (!IsDogOnShow(desk))
-        return {};
-    const QString key = desk.model.onShow;
-    DeskDog& dog = desk.model.dogs.at(IdOf(key));
-    const bool sure = !desk.OneIn(3);
-    const QString digits = u"%1"_s.arg(desk.Random(1000), 3, 10, QLatin1Char('0'));
-    WhileOpen([&] { desk.Click(u"lblEdit"_s); },
-              [&](QWidget& window) {
-                  auto& name = Control<QLineEdit>(window, "txtbox(0)");
-                  QTest::keyClick(&name, Qt::Key_End);
-                  for (int i = 0; i < 3; ++i)
-                      QTest::keyClick(&name, Qt::Key_Backspace);
-                  QTest::keyClicks(&name, digits);
-                  QTest::keyClick(&name, sure ? Qt::Key_Return : Qt::Key_Escape);
-              });
-    desk.model.selected = key;
-    if (sure) {
-        dog.name = dog.name.section(u' ', 0, 0) + u' ' + digits;
-        std::erase_if(desk.model.entries,
-                      [&](const auto& entry) { return entry.first == IdOf(key); });
-        desk.model.ShowNodeInfo(key);
-        const int number = dog.number.value_or(0);
-        desk.model.nodes.SetText(key,
-                                 number > 0 ? dog.name + u' ' + QString::number(number) : dog.name);
-    }
-    desk.model.Return();
-    return (sure ? u"edit "_s : u"nearly edit "_s) + key;
-}
-
-QString EditOwner(Desk& desk) {
-    if (!IsDogOnShow(desk))
-        return {};
-    const int owner = desk.model.dogs.at(IdOf(desk.model.onShow)).owner;
-    const bool sure = desk.OneIn(2);
-    const QString street = u"Ulice %1"_s.arg(desk.Random(1000));
-    WhileOpen([&] { desk.Click(u"picEditMajitele"_s); },
-              [&](QWidget& window) {
-                  auto& box = Control<QLineEdit>(window, "txtItem(1)");
-                  box.selectAll();
-                  QTest::keyClicks(&box, street);
-                  QTest::keyClick(&box, sure ? Qt::Key_Return : Qt::Key_Escape);
-              });
-    TakeDogOnShow(desk);
-    if (sure)
-        desk.model.owners.at(owner).street = street;
-    desk.model.Return();
-    return u"edit owner %1"_s.arg(owner);
-}
-
 QString GoToNeighbour(Desk& desk) {
     const bool back = desk.OneIn(2);
     const QString picture = back ? u"picPrev"_s : u"picNext"_s;
@@ -204,6 +75,30 @@ QString GoToNeighbour(Desk& desk) {
         desk.model.ShowNodeInfo(key);
     }
     return picture + u" to "_s + key;
+}
+
+/// The menu of the owner's dogs: one of them, or their highlighting.
+QString ChooseOwnersDog(Desk& desk) {
+    if (!IsDogOnShow(desk))
+        return {};
+    const auto [before, behind] = desk.model.neighboursOnShow;
+    if (before == 0 && behind == 0)
+        return {};
+    const int owner = desk.model.dogs.at(IdOf(desk.model.onShow)).owner;
+    const std::vector<int> family = desk.model.DogsOfOwner(owner);
+    const int entry =
+        desk.OneIn(4) ? -1
+        : desk.OneIn(4)
+            ? -3
+            : family[static_cast<std::size_t>(desk.Random(static_cast<int>(family.size())))];
+    desk.platform.ExpectMenu(entry);
+    desk.Click(u"picList"_s);
+    TakeDogOnShow(desk);
+    const QString key = u"P%1"_s.arg(entry);
+    if (desk.model.nodes.Has(key))
+        desk.model.selected = key;
+    desk.model.ShowNodeInfo(desk.model.selected);
+    return u"menu of dogs: %1"_s.arg(entry);
 }
 
 QString OpenOwner(Desk& desk) {
@@ -248,23 +143,12 @@ QString LeaveOwner(Desk& desk) {
     return u"leave owner"_s;
 }
 
-QString PaymentsOfOwner(Desk& desk) {
-    if (!desk.model.ownerOnShow)
-        return {};
-    WhileOpen([&] { desk.Click(u"lblSeznamPlateb1"_s); },
-              [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
-    desk.model.RefillOwner();
-    return u"payments of owner"_s;
-}
-
 } // namespace
 
 const std::vector<DeskStep>& StepsOnPanels() {
     static const std::vector<DeskStep> steps{
-        GoBack,          GoForward,       TickEntry,         TickEntry,
-        TickAward,       TakePayment,     TakePaymentByMenu, DeletePayment,
-        EditDog,         EditOwner,       GoToNeighbour,     OpenOwner,
-        ClickDogOfOwner, ClickDogOfOwner, LeaveOwner,        PaymentsOfOwner};
+        GoBack,        GoForward,       TickEntry, TickEntry,       TickAward,
+        GoToNeighbour, ChooseOwnersDog, OpenOwner, ClickDogOfOwner, LeaveOwner};
     return steps;
 }
 

@@ -15,16 +15,16 @@ namespace {
 
 constexpr int kStepsOfAShow = 150;
 constexpr int kToldSteps = 12;
+constexpr int kToldAfter = 10000;
 
 int Setting(const char* name, int otherwise) {
     return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
 QString TakeStep(Desk& desk) {
-    const int kind = desk.Random(10);
-    const std::vector<DeskStep>& steps = kind < 4   ? StepsInTree()
-                                         : kind < 8 ? StepsOnPanels()
-                                                    : StepsInWindows();
+    const auto& kinds = {StepsInTree,    StepsInTree,  StepsOnPanels, StepsOnPanels,
+                         StepsInEditors, StepsInLists, StepsInWindows};
+    const auto& steps = (*(kinds.begin() + desk.Random(static_cast<int>(kinds.size()))))();
     return steps[static_cast<std::size_t>(desk.Random(static_cast<int>(steps.size())))](desk);
 }
 
@@ -62,8 +62,12 @@ TEST(RandomWalk, WindowsShowWhatTheModelKnows) {
     const int steps = Setting("LORVO_WALK_STEPS", 300);
     auto seed = static_cast<unsigned>(Setting("LORVO_SEED", 1));
     int taken = 0;
-    while (taken < steps && !HasFailure())
+    while (taken < steps && !HasFailure()) {
+        const int before = taken;
         taken += WalkThroughShow(seed++, std::min(kStepsOfAShow, steps - taken));
+        if (taken / kToldAfter > before / kToldAfter)
+            std::cout << taken << " steps so far" << std::endl;
+    }
     std::cout << taken << " steps\n";
 }
 

@@ -117,46 +117,10 @@ QString PrintCatalogue(Desk& desk) {
     return u"print the catalogue"_s;
 }
 
-QString JumpFromList(Desk& desk) {
-    QString key;
-    WhileOpen([&] { desk.Trigger(u"TABLES:PSI"_s); },
-              [&](QWidget& window) {
-                  auto& list = Control<ReportList>(window, "lvwList");
-                  EXPECT_EQ(list.RowCount(), std::ssize(desk.model.dogs));
-                  const int row = desk.Random(list.RowCount());
-                  key = list.Row(row).key;
-                  const QModelIndex index = list.model()->index(row, 0);
-                  list.scrollTo(index);
-                  const QPoint place = list.visualRect(index).center();
-                  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
-                  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
-                  if (window.isVisible())
-                      QTest::keyClick(&window, Qt::Key_Escape);
-              });
-    const bool found = desk.model.nodes.Has(key);
-    if (found)
-        desk.model.selected = key;
-    desk.model.Return();
-    if (found)
-        desk.model.ShowNodeInfo(key);
-    return u"jump to "_s + key;
-}
-
-/// Windows that are looked at and left.
-QString LookAt(Desk& desk) {
-    const QString command = desk.OneOf({u"TABLES:VYSTAVOVATELE"_s, u"TABLES:PLATBY"_s,
-                                        u"TABLES:RODICE"_s, u"TABLES:VYSTAVY"_s, u"SETTINGS"_s});
-    WhileOpen([&] { desk.Trigger(command); },
-              [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
-    desk.model.Return();
-    return u"look at "_s + command;
-}
-
 } // namespace
 
 const std::vector<DeskStep>& StepsInWindows() {
-    static const std::vector<DeskStep> steps{AddDog,       AddDog,       Number, PrintCatalogue,
-                                             JumpFromList, JumpFromList, LookAt};
+    static const std::vector<DeskStep> steps{AddDog, AddDog, Number, PrintCatalogue};
     return steps;
 }
 
