@@ -48,6 +48,9 @@ std::vector<Psi> ReadDogs(const std::string& rest, const std::string& top) {
 std::vector<Psi> DogsByBreed() {
     std::vector<Psi> dogs;
     std::vector<BreedPlace> places;
+    const auto count = static_cast<std::size_t>(CountDogs());
+    dogs.reserve(count);
+    places.reserve(count);
     for (Query rows(TheDataModule().Conn1, std::string("SELECT ") + kFields + " FROM Psi");
          rows.Next();) {
         dogs.push_back(ReadPsi(rows));

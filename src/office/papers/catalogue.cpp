@@ -7,6 +7,10 @@
 #include "store/majitele.h"
 #include "store/psi_oceneni.h"
 
+#include <QStringBuilder>
+#include <algorithm>
+#include <span>
+
 namespace lorvo {
 
 using namespace Qt::StringLiterals;
@@ -23,7 +27,8 @@ struct CatalogueRows {
 
     std::vector<Kruhy> rings;
     std::unordered_map<int, std::vector<Plemena>> breeds; ///< by ring
-    std::unordered_map<int, std::vector<Psi>> dogs;       ///< by breed
+    std::vector<Psi> allDogs;
+    std::unordered_map<int, std::span<const Psi>> dogs; ///< of them, by breed
     std::unordered_map<int, QString> owners;
     std::unordered_map<int, QStringList> awards; ///< by dog
 };
@@ -35,8 +40,15 @@ CatalogueRows::CatalogueRows(bool withAwards) {
         if (breed.Pouzivat)
             breeds[breed.ID_Kruhu].push_back(std::move(breed));
     }
-    for (Psi& dog : DogsByBreed())
-        dogs[dog.PlemenoID].push_back(std::move(dog));
+    allDogs = DogsByBreed();
+    for (auto first = allDogs.cbegin(); first != allDogs.cend();) {
+        const auto isOther = [breed = first->PlemenoID](const Psi& dog) {
+            return dog.PlemenoID != breed;
+        };
+        const auto last = std::find_if(first, allDogs.cend(), isOther);
+        dogs.emplace(first->PlemenoID, std::span(first, last));
+        first = last;
+    }
     owners = OwnerNames();
     if (withAwards)
         awards = AwardNamesByDog();
@@ -131,12 +143,12 @@ void CatalogueTypist::TypeClassHeading(const Psi& dog) {
 }
 
 void CatalogueTypist::TypeNameAndBirth(const Psi& dog) {
-    word_.TypeText(NumberOf(dog) + u' ');
+    word_.TypeText(NumberOf(dog) % u' ');
     word_.SetBold(FontSwitch::Off);
     word_.SetFontSize(9);
     word_.TypeText(FullNameOf(dog));
     TypeParagraphs(word_, 1);
-    word_.TypeText(u"  nar. : "_s + BirthDateOf(dog) + u"\t  "_s + dog.PK);
+    word_.TypeText(u"  nar. : " % BirthDateOf(dog) % u"\t  " % dog.PK);
 }
 
 void CatalogueTypist::TypeAwards(const Psi& dog) {
@@ -146,10 +158,10 @@ void CatalogueTypist::TypeAwards(const Psi& dog) {
 
 void CatalogueTypist::TypeParentsAndPeople(const Psi& dog) {
     TypeParagraphs(word_, 1);
-    word_.TypeText(u"  o. :\t"_s + dog.Otec + u"\tm. : "_s + dog.Matka);
+    word_.TypeText(u"  o. :\t" % dog.Otec % u"\tm. : " % dog.Matka);
     TypeParagraphs(word_, 1);
     word_.SetKeepWithNext(false);
-    word_.TypeText(u"  ch. : \t"_s + dog.Chovatel + u"\tmaj. : "_s);
+    word_.TypeText(u"  ch. : \t" % dog.Chovatel % u"\tmaj. : ");
     if (const QString& owner = Under(rows_.owners, dog.MajitelID); !owner.isEmpty())
         word_.TypeText(owner);
     TypeParagraphs(word_, 2);

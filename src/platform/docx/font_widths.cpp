@@ -8,10 +8,8 @@ namespace {
 
 /// Widths of the letters from the blank to the end of the Latin letters with diacritics, in
 /// two-hundredths of the font's size, as the fonts' own tables tell them.
-constexpr int kFirstLetter = 0x20;
-constexpr int kLetters = 0x160;
 constexpr double kUnitsPerSize = 200.0;
-using Widths = std::array<std::uint8_t, kLetters>;
+using Widths = std::array<std::uint8_t, LetterWidths::kLetters>;
 
 // Arial and Times New Roman, and the fonts made to their widths.
 constexpr Widths kNarrowSans = {
@@ -191,13 +189,9 @@ const Widths& WidthsOf(const RunFormat& format, FontWidths widths) {
 
 } // namespace
 
-LetterWidths::LetterWidths(const RunFormat& format, FontWidths widths)
+LetterWidths::LetterWidths(const RunFormat& format, FontWidths widths, double factor)
     : table_(WidthsOf(format, widths).data()),
-      size_(format.halfPoints * 10.0 * format.widthPercent / 100.0) {}
-
-double LetterWidths::Of(QChar letter) const {
-    const int index = letter.unicode() - kFirstLetter;
-    return index < 0 || index >= kLetters ? size_ : table_[index] * size_ / kUnitsPerSize;
-}
+      size_(format.halfPoints * 10.0 * format.widthPercent / 100.0 * factor),
+      unit_(size_ / kUnitsPerSize) {}
 
 } // namespace lorvo::docx

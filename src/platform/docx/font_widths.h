@@ -18,13 +18,21 @@ enum class FontWidths {
 /// in. Letters beyond the Latin ones are taken for as wide as they are high.
 class LetterWidths {
   public:
-    LetterWidths(const RunFormat& format, FontWidths widths);
+    /// `factor` widens or narrows all letters alike.
+    LetterWidths(const RunFormat& format, FontWidths widths, double factor);
 
-    double Of(QChar letter) const;
+    double Of(QChar letter) const {
+        const auto index = static_cast<unsigned>(letter.unicode()) - kFirstLetter;
+        return index < kLetters ? table_[index] * unit_ : size_;
+    }
+
+    static constexpr unsigned kFirstLetter = 0x20;
+    static constexpr unsigned kLetters = 0x160;
 
   private:
     const std::uint8_t* table_;
     double size_;
+    double unit_; ///< of the table
 };
 
 } // namespace lorvo::docx

@@ -84,10 +84,10 @@ int CountLines(const Paragraph& paragraph, const LineRoom& room, FontWidths widt
     LineCounter counter(paragraph.format, room);
     qsizetype at = 0;
     for (const Run& run : paragraph.runs) {
-        const LetterWidths letters(run.format, widths);
+        const LetterWidths letters(run.format, widths, factor);
         for (; at < run.end; ++at) {
             const QChar letter = paragraph.text[at];
-            const double width = letters.Of(letter) * factor;
+            const double width = letters.Of(letter);
             if (letter == u'\t')
                 counter.Tab();
             else if (letter == u' ')
