@@ -118,7 +118,7 @@ int ReportList::ColumnCount() const {
     return model_->columnCount();
 }
 
-void ReportList::AlignRight(std::initializer_list<int> columns) {
+void ReportList::AlignRight(const std::vector<int>& columns) {
     for (const int column : columns)
         model_->AlignRight(column);
     FitColumns();

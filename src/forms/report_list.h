@@ -66,12 +66,15 @@ class ReportList : public QTreeView {
     int ColumnCount() const;
     /// The widths by design, from column 0 on; headings and amounts that need more get more.
     void SetColumnWidths(std::initializer_list<int> widths);
+    /// As wide as headings and cells need, within reason: for columns that nobody has designed.
+    void FitToContents();
     /// The width that the clerk has drawn, now or before.
     void DrawColumn(int column, int width);
-    /// As designed, fitted or drawn; the last one shows wider where the list has room left.
+    /// As designed, fitted or drawn, less what it gives way by where a list on the screen is too
+    /// narrow for all; the last one shows wider where the list has room left.
     int ColumnWidth(int column) const;
     /// Numbers and amounts stand at the right, heading and cells.
-    void AlignRight(std::initializer_list<int> columns);
+    void AlignRight(const std::vector<int>& columns);
     HeaderPicture PictureOf(int column) const;
 
     // Selection. -1 for none.
@@ -124,6 +127,7 @@ class ReportList : public QTreeView {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     void selectionChanged(const QItemSelection& selected,
@@ -134,6 +138,7 @@ class ReportList : public QTreeView {
     struct Column {
         int width = 0;
         bool drawn = false; ///< by the clerk, now or before
+        int givenWay = 0;   ///< what it does without while the list is too narrow for all
     };
 
     void InstallEditing();
@@ -146,6 +151,8 @@ class ReportList : public QTreeView {
     void KeepToldColours();
     int HeadingWidth(int column) const;
     int ContentWidth(int column) const;
+    int SpareWidth(int column) const;
+    void LetColumnsGiveWay();
     void ShowColumnWidths();
     QString CopiedCell(int position, int column) const;
     template<typename Cell> QString CopiedLine(Cell cell) const;

@@ -1,5 +1,6 @@
 // How wide the columns of a report list are: as their windows design them, wider where headings and
-// amounts need it, as the clerk has drawn them; the last one fills what is left.
+// amounts need it, as the clerk has drawn them. The last one fills what is left; where the list is
+// too narrow for all, texts give way before a column leaves the screen.
 #include "forms/report_list.h"
 #include "forms/report_list_model.h"
 #include "platform/failure_guard.h"
@@ -47,7 +48,8 @@ void ReportList::SetColumnWidths(std::initializer_list<int> widths) {
 }
 
 int ReportList::ColumnWidth(int column) const {
-    return columns_.at(static_cast<std::size_t>(column)).width;
+    const Column& known = columns_.at(static_cast<std::size_t>(column));
+    return known.width - known.givenWay;
 }
 
 /// Widens the columns that nobody has drawn to what their headings, and numbers below them, need.
@@ -60,6 +62,13 @@ void ReportList::FitColumns() {
         if (model_->IsRightAligned(column))
             fitted.width = std::max(fitted.width, ContentWidth(column));
     }
+    ShowColumnWidths();
+}
+
+void ReportList::FitToContents() {
+    for (int column = 0; column < ColumnCount(); ++column)
+        columns_.at(static_cast<std::size_t>(column)) = {
+            std::max(HeadingWidth(column), ContentWidth(column))};
     ShowColumnWidths();
 }
 
@@ -79,9 +88,37 @@ int ReportList::ContentWidth(int column) const {
     return std::min(width + air, kWidestContent * fontMetrics().averageCharWidth());
 }
 
+/// What a column can do without: nothing that the clerk has drawn, no numbers, no heading.
+int ReportList::SpareWidth(int column) const {
+    const Column& asked = columns_.at(static_cast<std::size_t>(column));
+    if (asked.drawn || model_->IsRightAligned(column))
+        return 0;
+    return std::max(0, asked.width - std::max(HeadingWidth(column), asked.width * 3 / 5));
+}
+
+/// Takes what the list lacks from the columns, of each in proportion to what it can do without. A list
+/// that has to scroll nevertheless keeps its widths.
+void ReportList::LetColumnsGiveWay() {
+    std::vector<int> spare;
+    int all = 0;
+    int room = 0;
+    for (int column = 0; column < ColumnCount(); ++column) {
+        spare.push_back(SpareWidth(column));
+        all += columns_.at(static_cast<std::size_t>(column)).width;
+        room += spare.back();
+    }
+    const int lacking = all - viewport()->width();
+    const bool helps = lacking > 0 && lacking <= room;
+    auto asked = spare.cbegin();
+    for (Column& column : columns_)
+        column.givenWay = helps ? (lacking * *asked++ + room - 1) / room : 0;
+}
+
 /// Gives the columns their widths, the last one what is left if that is more.
 void ReportList::ShowColumnWidths() {
     const QScopedValueRollback showing(showingWidths_, true);
+    if (isVisible()) // before, the list's own width is not known
+        LetColumnsGiveWay();
     QHeaderView& columns = *header();
     int left = viewport()->width();
     for (int place = 0; place < columns.count(); ++place) {
@@ -97,6 +134,11 @@ void ReportList::ShowColumnWidths() {
 void ReportList::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
     ShowColumnWidths();
+}
+
+void ReportList::showEvent(QShowEvent* event) {
+    QTreeView::showEvent(event);
+    Guarded([this] { ShowColumnWidths(); });
 }
 
 void ReportList::InsertColumn(int column, const QString& heading) {

@@ -118,7 +118,6 @@ QString CopiesPage::PathOf(int position) const {
 }
 
 void CopiesPage::Make() {
-    const WaitCursor wait(*ThePlatform().ui);
     if (SayingFailure([] { MakeCopy(Folder(), Now()); }))
         Refill();
 }

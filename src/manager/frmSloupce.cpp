@@ -71,6 +71,7 @@ QWidget* frmSloupce::FirstLines(const std::vector<QStringList>& rows) {
             row.cells.push_back({cell});
     }
     list->SetRows(std::move(shown));
+    list->FitToContents();
     list->setMaximumHeight(list->fontMetrics().lineSpacing() * (kLinesShown + 4));
     return list;
 }

@@ -10,6 +10,7 @@
 #include "platform/whole_file.h"
 
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -25,6 +26,21 @@ QString TotalsText(const ListTable& table) {
             parts << table.headings[static_cast<qsizetype>(i)] + u' ' + text;
     return parts.isEmpty() ? u"Řádků: "_s + QString::number(table.rows.size())
                            : u"Celkem: "_s + parts.join(u", "_s);
+}
+
+bool IsNumber(const TableCell& cell) {
+    return std::holds_alternative<int>(cell) || std::holds_alternative<Currency>(cell);
+}
+
+/// The columns in which a number stands, from 0.
+std::vector<int> NumberColumns(const ListTable& table) {
+    std::vector<int> found;
+    for (std::size_t column = 0; column < static_cast<std::size_t>(table.headings.size()); ++column)
+        if (std::ranges::any_of(
+                table.rows, IsNumber,
+                [column](const TableRow& row) -> const TableCell& { return row[column]; }))
+            found.push_back(static_cast<int>(column));
+    return found;
 }
 
 } // namespace
@@ -81,7 +97,9 @@ void ListsPage::ShowRows() {
             shown.cells.push_back({CellText(cell)});
     }
     list->SetRows(std::move(rows));
+    list->AlignRight(NumberColumns(table_));
     list->SetSorting(true);
+    list->FitToContents();
     auto* column = static_cast<QVBoxLayout*>(layout());
     delete rows_;
     rows_ = list;

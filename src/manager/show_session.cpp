@@ -33,6 +33,7 @@ ShowSession::~ShowSession() {
 
 bool SayingFailure(const std::function<void()>& action) {
     try {
+        const WaitCursor wait(*ThePlatform().ui);
         action();
         return true;
     } catch (const Error& failure) {

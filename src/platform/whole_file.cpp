@@ -128,6 +128,16 @@ class Draft {
 
 } // namespace
 
+QByteArray ReadWholeFile(const QString& path) {
+    QFile file(path);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        FailOnFile(u"Soubor nelze přečíst"_s, path, CauseOfFailure(file));
+    return bytes;
+}
+
 void ReplaceFile(const QString& path, const QByteArray& bytes) {
     const QFileInfo older(path);
     if (older.isDir())

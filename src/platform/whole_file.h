@@ -7,6 +7,10 @@
 
 namespace lorvo {
 
+/// What the file holds. One that can't be read to its end raises PlatformError, which names the
+/// file and the cause.
+[[nodiscard]] QByteArray ReadWholeFile(const QString& path);
+
 /// Writes the file; one of that name gives way when the new one is whole, and stays as it was when
 /// that fails. PlatformError names the file and the cause.
 void ReplaceFile(const QString& path, const QByteArray& bytes);

@@ -69,5 +69,28 @@ TEST_F(ReportListColumnsTest, AnInsertedColumnLeavesTheOthersTheirWidths) {
     EXPECT_EQ(list.ColumnCount(), 2);
 }
 
+TEST_F(ReportListColumnsTest, InAListTooNarrowTextsGiveWayAndNothingLeavesTheScreen) {
+    list.InsertColumn(2, u"Bilance"_s);
+    list.AlignRight({2});
+    list.SetColumnWidths({300, 200, 90});
+    list.resize(430, 300);
+    EXPECT_LE(Shown(0) + Shown(1) + Shown(2), list.viewport()->width());
+    EXPECT_GE(Shown(2), 90);
+    EXPECT_LT(Shown(0), 300);
+    EXPECT_LT(Shown(1), 200);
+    list.resize(700, 300);
+    EXPECT_EQ(Shown(0), 300);
+    EXPECT_EQ(Shown(1), 200);
+}
+
+TEST_F(ReportListColumnsTest, AColumnThatTheClerkDrewGivesNoWay) {
+    list.SetColumnWidths({300, 200});
+    list.header()->resizeSection(0, 290);
+    list.resize(440, 300);
+    EXPECT_EQ(Shown(0), 290);
+    EXPECT_LT(Shown(1), 200);
+    EXPECT_GE(Shown(1), list.header()->sectionSizeHint(1));
+}
+
 } // namespace
 } // namespace lorvo

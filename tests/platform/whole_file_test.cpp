@@ -44,6 +44,17 @@ class WholeFile : public testing::Test {
     QTemporaryDir folder_;
 };
 
+TEST_F(WholeFile, IsReadToItsEndOrNotAtAll) {
+    ReplaceFile(Path(u"vstup.csv"_s), "a;b\r\n\0c");
+    EXPECT_EQ(ReadWholeFile(Path(u"vstup.csv"_s)), "a;b\r\n\0c");
+    EXPECT_EQ(Failure([this] { (void)ReadWholeFile(Path(u"není.csv"_s)); }),
+              u"Soubor nelze přečíst „"_s + Shown(u"není.csv"_s) +
+                  u"“: soubor nebo jeho složka neexistuje"_s);
+    EXPECT_TRUE(Failure([this] {
+                    (void)ReadWholeFile(folder_.path());
+                }).startsWith(u"Soubor nelze přečíst"_s));
+}
+
 TEST_F(WholeFile, ReplacesTheOlderOne) {
     ReplaceFile(Path(u"Výstup.html"_s), "long text");
     ReplaceFile(Path(u"Výstup.html"_s), "\x81x");

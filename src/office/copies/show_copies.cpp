@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <algorithm>
 
 namespace lorvo {
@@ -169,6 +170,7 @@ void PutCopyBack(const QString& programFolder, const QString& copy, DateValue no
     // Taken before the present state is copied: that may let the oldest copy go.
     const QString fresh = database + u".nová"_s;
     QFile::remove(fresh);
+    const auto noDraftStays = qScopeGuard([&fresh] { QFile::remove(fresh); });
     CopyDatabase(copy, fresh);
     try {
         MakeCopy(programFolder, now);

@@ -2,9 +2,7 @@
 
 #include "office/exchange/csv_text.h"
 #include "office/exchange/sheet_files.h"
-#include "platform/values/errors.h"
-
-#include <QFile>
+#include "platform/whole_file.h"
 
 namespace lorvo {
 
@@ -13,10 +11,7 @@ EntrySource::EntrySource(const QString& path) : path_(path), isSheet_(IsSheetNam
         rows_ = SheetRows(path);
         return;
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw PlatformError("Soubor „" + path.toStdString() + "“ nejde otevřít.");
-    bytes_ = file.readAll();
+    bytes_ = ReadWholeFile(path);
     SetEncoding(GuessEncoding(bytes_));
 }
 

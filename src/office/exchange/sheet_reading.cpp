@@ -3,6 +3,7 @@
 #include "office/exchange/csv_text.h"
 #include "office/exchange/sheet_files.h"
 #include "platform/values/errors.h"
+#include "platform/whole_file.h"
 
 #ifdef LORVO_READS_SHEETS
 #include <orcus/orcus_ods.hpp>
@@ -31,15 +32,8 @@ namespace {
 /// What a sheet of any office program may be as large as.
 constexpr orcus::spreadsheet::range_size_t kLargestSheet{1048576, 16384};
 
-QByteArray BytesOf(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw PlatformError("Soubor „" + path.toStdString() + "“ nejde otevřít.");
-    return file.readAll();
-}
-
 void Import(const QString& path, orcus::spreadsheet::document& document) {
-    const QByteArray bytes = BytesOf(path);
+    const QByteArray bytes = ReadWholeFile(path);
     const std::string_view stream(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     orcus::spreadsheet::import_factory factory(document);
     if (path.endsWith(u".ods"_s, Qt::CaseInsensitive))

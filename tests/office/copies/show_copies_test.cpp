@@ -127,6 +127,20 @@ TEST_F(ShowCopiesTest, ADamagedCopyIsRefusedAndNothingChanges) {
     EXPECT_FALSE(NewestGoodCopy(Folder()));
 }
 
+TEST_F(ShowCopiesTest, APutBackThatCanNotCopyThePresentStateLeavesEverythingAsItWas) {
+    AddOwner("Eva");
+    const QString kept = Folder() + u"/kopie.mdb"_s;
+    ASSERT_TRUE(QFile::copy(Copy(), kept));
+    ASSERT_TRUE(QDir(CopiesFolder(Folder())).removeRecursively());
+    QFile inTheWay(CopiesFolder(Folder()));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    AddOwner("Jan");
+    TheDataModule().Conn1.Close();
+    EXPECT_THROW(PutCopyBack(Folder(), kept, now), Error);
+    EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 2);
+    EXPECT_EQ(QDir(Folder()).entryList({u"data.mdb*"_s}, QDir::Files), QStringList{u"data.mdb"_s});
+}
+
 TEST_F(ShowCopiesTest, DamageNamesTheNewestGoodCopy) {
     AddOwner("Eva");
     Copy();
