@@ -45,17 +45,23 @@ QString DamageText(const CopyOutcome& outcome) {
 }
 
 BackgroundCopy::~BackgroundCopy() {
-    if (thread_.joinable())
-        thread_.join();
+    Wait();
 }
 
+void BackgroundCopy::Wait() {
+    if (thread_)
+        thread_->wait();
+}
+
+// The toolkit's own threads: one of the standard library frees what the toolkit keeps for it too
+// early under MinGW, and the program crashes at its end.
 void BackgroundCopy::Begin(const QString& programFolder, DateValue now) {
-    if (thread_.joinable())
-        thread_.join();
-    thread_ = std::thread([this, programFolder, now] {
+    Wait();
+    thread_.reset(QThread::create([this, programFolder, now] {
         const CopyOutcome outcome = TryCopy(programFolder, now);
         Later(this, [this, outcome] { Q_EMIT Ended(outcome); });
-    });
+    }));
+    thread_->start();
 }
 
 } // namespace lorvo

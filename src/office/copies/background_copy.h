@@ -6,7 +6,8 @@
 
 #include <QObject>
 #include <QString>
-#include <thread>
+#include <QThread>
+#include <memory>
 
 namespace lorvo {
 
@@ -42,7 +43,9 @@ class BackgroundCopy : public QObject {
     void Ended(const lorvo::CopyOutcome& outcome);
 
   private:
-    std::thread thread_;
+    void Wait();
+
+    std::unique_ptr<QThread> thread_;
 };
 
 } // namespace lorvo
