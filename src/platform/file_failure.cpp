@@ -35,6 +35,8 @@ constexpr char16_t kFaultyDisk[] = u"disk nelze číst ani zapisovat, může bý
 constexpr char16_t kQuota[] = u"je vyčerpán přidělený prostor na disku";
 
 #ifdef Q_OS_WIN
+constexpr int kDiskQuotaExceeded = 1295; // a number that MinGW's headers don't name
+
 constexpr Cause kCauses[] = {
     {ERROR_DISK_FULL, kFullDisk},
     {ERROR_HANDLE_DISK_FULL, kFullDisk},
@@ -57,7 +59,7 @@ constexpr Cause kCauses[] = {
     {ERROR_READ_FAULT, kFaultyDisk},
     {ERROR_WRITE_FAULT, kFaultyDisk},
     {ERROR_IO_DEVICE, kFaultyDisk},
-    {ERROR_DISK_QUOTA_EXCEEDED, kQuota},
+    {kDiskQuotaExceeded, kQuota},
 };
 
 int LastCode() {
