@@ -35,6 +35,9 @@ apt-get -q install -y --no-install-recommends xvfb xauth xdotool scrot sqlite3 f
 lorvo --version
 start_lorvo "$PWD/installed.png"
 [ -e "$folder/data.mdb" ]
+lorvo-spravce kontrola
+lorvo-spravce seznam plemena "$PWD/plemena.xlsx"
+[ -s plemena.xlsx ]
 
 sqlite3 "$folder/data.mdb" "INSERT INTO Kruhy (Nazev) VALUES ('Kruh pořadatelky')"
 echo '<html>moje</html>' > "$folder/Šablony/Diplomy.html"
@@ -47,10 +50,10 @@ start_lorvo "$PWD/updated.png"
 [ "$(sqlite3 "$folder/data.mdb" 'SELECT Nazev FROM Kruhy')" = "Kruh pořadatelky" ]
 grep -q moje "$folder/Šablony/Diplomy.html"
 grep -q nová "$folder/Šablony/Platby.html"
-cmp "$folder/Lorvo" /usr/libexec/lorvo/Lorvo
+for program in Lorvo LorvoSpravce; do cmp "$folder/$program" "/usr/libexec/lorvo/$program"; done
 
 before=$(sums)
 apt-get -q purge -y lorvo
-[ ! -e /usr/bin/lorvo ] && [ ! -e /usr/libexec/lorvo ] && [ ! -e /usr/share/lorvo ]
+[ ! -e /usr/bin/lorvo ] && [ ! -L /usr/bin/lorvo-spravce ] && [ ! -e /usr/libexec/lorvo ] && [ ! -e /usr/share/lorvo ]
 [ "$(sums)" = "$before" ] || { echo "FAILED: the removal touched the clerk's files"; exit 1; }
 echo "Installed, started, updated, removed; the clerk's files are there byte for byte."
