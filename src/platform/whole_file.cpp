@@ -9,6 +9,7 @@
 #ifdef Q_OS_WIN
 #include <io.h>
 #include <windows.h>
+#undef ReplaceFile // a name of the system too
 #else
 #include <cerrno>
 #include <cstdio>
