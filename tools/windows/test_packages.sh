@@ -27,7 +27,8 @@ expect() { # expect WHAT COMMAND...
   fi
 }
 
-# start_program EXE PICTURE: shows the main window, takes its picture, closes it as its user does.
+# start_program EXE PICTURE: shows the main window, takes its picture, closes it by its user's keys.
+# It has ended well when no journal is left; Wine's own starter may stay with its desktop.
 start_program() {
   timeout 180 xvfb-run -a -s '-screen 0 1280x800x24' bash -c '
     "$1" "$2" & program=$!
@@ -35,10 +36,13 @@ start_program() {
     [ -n "$window" ] || exit 1
     sleep 4
     scrot --overwrite "$3"
-    xdotool windowactivate "$window" 2> /dev/null
-    xdotool windowclose "$window"
-    wait $program
-    true' bash "$wine" "$1" "$2"
+    xdotool windowfocus "$window" key alt+F4
+    for second in {1..60}; do
+      [ -e "${2%/*}/data.mdb-wal" ] || break
+      sleep 1
+    done
+    kill $program
+    [ ! -e "${2%/*}/data.mdb-wal" ]' bash "$wine" "$1" "$2"
 }
 
 # What the clerk has: changed data, a changed template, something printed, settings.
