@@ -100,6 +100,10 @@ QString Find(Desk& desk) {
                   QTest::mouseClick(&Control<QAbstractButton>(window, "cdmOK"), Qt::LeftButton);
                   QTest::keyClick(&window, Qt::Key_Escape);
               });
+    // Each key in the tree shows the selected node again: Ctrl by itself, then F when the search
+    // ends.
+    if (!desk.model.selected.isEmpty())
+        desk.model.ShowNodeInfo(desk.model.selected);
     for (const NodeList::Node& node : desk.model.nodes.All()) {
         const bool isSearched = node.key.startsWith(u'P') || node.key.startsWith(u'R');
         if (isSearched && node.text.contains(text, Qt::CaseInsensitive)) {
