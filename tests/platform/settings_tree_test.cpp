@@ -22,7 +22,7 @@ class SettingsTreeTest : public ::testing::Test {
 };
 
 TEST_F(SettingsTreeTest, AMissingValueReadsAsEmpty) {
-    EXPECT_EQ(Open()->Read(TestKey(), u"ShowGrid"_s), QString());
+    EXPECT_EQ(Open()->Read(TestKey(), u"NeverWritten"_s), QString());
 }
 
 TEST_F(SettingsTreeTest, ValuesOutliveTheProgram) {

@@ -38,12 +38,15 @@ class BadFileTest : public ::testing::Test {
         return contents;
     }
 
+    /// The file as messages name it.
+    std::string ShownPath() const { return QDir::toNativeSeparators(Path()).toStdString(); }
+
     /// Opening must fail with a message that names the file and `reason`, and touch nothing.
     void ExpectRefused(const std::string& reason) {
         const std::map<QString, QByteArray> before = Contents();
         Connection connection;
         const std::string failure = FailureOf([&] { connection.Open(Path()); });
-        EXPECT_NE(failure.find(Path().toStdString()), std::string::npos) << failure;
+        EXPECT_NE(failure.find(ShownPath()), std::string::npos) << failure;
         EXPECT_NE(failure.find(reason), std::string::npos) << failure;
         EXPECT_FALSE(connection.IsOpen());
         EXPECT_EQ(Contents(), before) << reason;
@@ -122,7 +125,7 @@ TEST_F(BadFileTest, DamageInsideTheFileSurfacesWhenItIsRead) {
         dogs.Open("SELECT * FROM Psi");
     };
     EXPECT_THROW(read(), CorruptStoreError);
-    EXPECT_NE(FailureOf(read).find(Path().toStdString()), std::string::npos);
+    EXPECT_NE(FailureOf(read).find(ShownPath()), std::string::npos);
     EXPECT_THROW(SkipFailure(read), CorruptStoreError); // never skipped
     RecordSet rings(connection, "Kruhy", RecordSet::Lock::Updatable);
     EXPECT_TRUE(SkipFailure([&] { rings.Open("SELECT * FROM Kruhy"); }));
@@ -142,7 +145,7 @@ TEST_F(BadFileTest, ACellThatIsNotOfItsTypeNamesTheField) {
     };
     const auto expectNamed = [&](const char* statement, const char* field) {
         const std::string failure = failureOf(statement);
-        EXPECT_NE(failure.find(Path().toStdString()), std::string::npos) << failure;
+        EXPECT_NE(failure.find(ShownPath()), std::string::npos) << failure;
         EXPECT_NE(failure.find(std::string("tabulka Uhrady, pole ") + field), std::string::npos)
             << failure;
     };

@@ -28,8 +28,10 @@ expect() { # expect WHAT COMMAND...
 }
 
 # start_program EXE PICTURE: shows the main window, takes its picture, closes it by its user's keys.
-# It has ended well when no journal is left; Wine's own starter may stay with its desktop.
+# It has ended well when no journal is left; Wine's own starter may stay with its desktop. What ran
+# before without a display leaves a desktop that shows no windows.
 start_program() {
+  timeout 60 wineserver -w || wineserver -k
   timeout 180 xvfb-run -a -s '-screen 0 1280x800x24' bash -c '
     "$1" "$2" & program=$!
     window=$(timeout 90 xdotool search --sync --onlyvisible --name "^Lorvo$" | head -n 1)
