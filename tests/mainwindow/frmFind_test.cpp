@@ -1,5 +1,5 @@
 // Searching in the whole main window: the search window, F3 and Home.
-#include "mainwindow/shell_fixture.h"
+#include "mainwindow/fm_main_fixture.h"
 #include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 #include "support/modal_driver.h"
@@ -18,7 +18,7 @@ namespace {
 using test::WhileOpen;
 
 /// In the tree's order: K0, K1, R10 Pudl, P100 Alík, P101 Brok, R11 Vipet, P102 12 Šárka.
-class frmFindTest : public Shell {
+class frmFindTest : public MainWindowTest {
   protected:
     frmFindTest() {
         AddSmallShow();

@@ -1,4 +1,4 @@
-#include "mainwindow/shell_fixture.h"
+#include "mainwindow/fm_main_fixture.h"
 #include "support/window_walk.h"
 
 #include <QAction>
@@ -10,9 +10,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The window in order with each of its panels in front.
-class ShellLook : public Shell, public ::testing::WithParamInterface<const char*> {};
+class MainWindowLook : public MainWindowTest, public ::testing::WithParamInterface<const char*> {};
 
-TEST_P(ShellLook, IsInOrderWithANodeShown) {
+TEST_P(MainWindowLook, IsInOrderWithANodeShown) {
     AddSmallShow();
     Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
     Start();
@@ -22,14 +22,15 @@ TEST_P(ShellLook, IsInOrderWithANodeShown) {
     test::WalkWindow(*window_);
 }
 
-INSTANTIATE_TEST_SUITE_P(Nodes, ShellLook, ::testing::Values("K0", "K1", "R10", "TR10|5", "P100"));
+INSTANTIATE_TEST_SUITE_P(Nodes, MainWindowLook,
+                         ::testing::Values("K0", "K1", "R10", "TR10|5", "P100"));
 
-TEST_F(Shell, IsInOrderBeforeAnyNodeIsShown) {
+TEST_F(MainWindowTest, IsInOrderBeforeAnyNodeIsShown) {
     Start();
     test::WalkWindow(*window_);
 }
 
-TEST_F(Shell, IsInOrderWithTheAboutPanel) {
+TEST_F(MainWindowTest, IsInOrderWithTheAboutPanel) {
     Start();
     Control<QAction>(u"HELP:ABOUT"_s).trigger();
     test::WalkWindow(*window_);

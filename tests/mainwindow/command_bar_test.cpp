@@ -1,4 +1,4 @@
-#include "mainwindow/shell_fixture.h"
+#include "mainwindow/fm_main_fixture.h"
 #include "platform/values/errors.h"
 #include "setup/breed_register.h"
 #include "setup/breed_tree.h"
@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ShellCommands : public Shell {
+class CommandBarTest : public MainWindowTest {
   protected:
     QAction& Command(const QString& key) { return Control<QAction>(key); }
     QToolButton& Button(const QString& key) {
@@ -56,7 +56,7 @@ class ShellCommands : public Shell {
     }
 };
 
-TEST_F(ShellCommands, StandOnTheBarWithTheirCaptions) {
+TEST_F(CommandBarTest, StandOnTheBarWithTheirCaptions) {
     Start();
     auto& bar = Control<QToolBar>(u"STANDARD"_s);
     QStringList captions;
@@ -71,7 +71,7 @@ TEST_F(ShellCommands, StandOnTheBarWithTheirCaptions) {
     EXPECT_EQ(Control<QObject>(u"cmdBar"_s).parent(), window_.get());
 }
 
-TEST_F(ShellCommands, DropDownTheBarsOfTheSameName) {
+TEST_F(CommandBarTest, DropDownTheBarsOfTheSameName) {
     Start();
     EXPECT_EQ(MenuTexts(u"ADD"_s), u"Přidat &kruh | Přidat p&sa"_s);
     EXPECT_EQ(MenuTexts(u"TABLES"_s),
@@ -85,13 +85,13 @@ TEST_F(ShellCommands, DropDownTheBarsOfTheSameName) {
     EXPECT_FALSE(Command(u"SETTINGS"_s).menu());
 }
 
-TEST_F(ShellCommands, WithoutAButtonAreInNoMenu) {
+TEST_F(CommandBarTest, WithoutAButtonAreInNoMenu) {
     Start();
     for (const QString& key : {u"ADD:RACE"_s, u"TABLES:BARVY"_s, u"HELP:CONTEXT"_s})
         EXPECT_TRUE(Command(key).associatedObjects().isEmpty()) << key.toStdString();
 }
 
-TEST_F(ShellCommands, OpenTheirWindows) {
+TEST_F(CommandBarTest, OpenTheirWindows) {
     const std::pair<QString, QString> kWindows[] = {
         {u"SETTINGS"_s, u"fm_Settings"_s},
         {u"TABLES:PLEMENA"_s, u"fm_Plemena"_s},
@@ -123,7 +123,7 @@ TEST_F(ShellCommands, OpenTheirWindows) {
     }
 }
 
-TEST_F(ShellCommands, OfAWindowThatTheProgramLacksStandGreyed) {
+TEST_F(CommandBarTest, OfAWindowThatTheProgramLacksStandGreyed) {
     WindowFactory before = SetWindow(u"frmParents"_s, {});
     Start();
     EXPECT_FALSE(CanOpen(u"frmParents"_s));
@@ -132,7 +132,7 @@ TEST_F(ShellCommands, OfAWindowThatTheProgramLacksStandGreyed) {
     SetWindow(u"frmParents"_s, std::move(before));
 }
 
-TEST_F(ShellCommands, SettingsOpenByOneClick) {
+TEST_F(CommandBarTest, SettingsOpenByOneClick) {
     int opened = 0;
     const StandIn settings(u"fm_Settings"_s, [&opened] { ++opened; });
     Start();
@@ -140,13 +140,13 @@ TEST_F(ShellCommands, SettingsOpenByOneClick) {
     EXPECT_EQ(opened, 1);
 }
 
-TEST_F(ShellCommands, HelpIsTheFileInTheProgramFolder) {
+TEST_F(CommandBarTest, HelpIsTheFileInTheProgramFolder) {
     Start();
     Command(u"HELP:GENERAL"_s).trigger();
     EXPECT_EQ(platform_.openedFiles, QStringList{platform_.ProgramFolder() + u"/Lorvo.chm"_s});
 }
 
-TEST_F(ShellCommands, AddingABreedIsAcceptedAndDoesNothing) {
+TEST_F(CommandBarTest, AddingABreedIsAcceptedAndDoesNothing) {
     AddSmallShow();
     Start();
     const int nodes = Tree().Nodes().Count();
@@ -155,20 +155,20 @@ TEST_F(ShellCommands, AddingABreedIsAcceptedAndDoesNothing) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
-TEST_F(ShellCommands, AddingARingStoresIt) {
+TEST_F(CommandBarTest, AddingARingStoresIt) {
     Start();
     Command(u"ADD:CIRCLE"_s).trigger();
     ASSERT_EQ(Tree().Nodes().Count(), 2);
     EXPECT_EQ(Tree().Nodes().Last()->text, u"Nový kruh"_s);
 }
 
-TEST_F(ShellCommands, AddingADogNeedsABreed) {
+TEST_F(CommandBarTest, AddingADogNeedsABreed) {
     Start();
     platform_.ExpectMessage(u"Není vybráno plemeno, do kterého se má pes přidat"_s);
     Command(u"ADD:DOG"_s).trigger();
 }
 
-TEST_F(ShellCommands, AClickWithTheHelpPointerOpensTheHelpOnceAndShowsTheNode) {
+TEST_F(CommandBarTest, AClickWithTheHelpPointerOpensTheHelpOnceAndShowsTheNode) {
     AddSmallShow();
     Start();
     Command(u"HELP:CONTEXT"_s).trigger();
@@ -182,7 +182,7 @@ TEST_F(ShellCommands, AClickWithTheHelpPointerOpensTheHelpOnceAndShowsTheNode) {
     EXPECT_EQ(platform_.openedFiles.size(), 1);
 }
 
-TEST_F(ShellCommands, TheHelpPointerCanBeSwitchedOffAgain) {
+TEST_F(CommandBarTest, TheHelpPointerCanBeSwitchedOffAgain) {
     Start();
     Command(u"HELP:CONTEXT"_s).trigger();
     Command(u"HELP:CONTEXT"_s).trigger();
@@ -190,7 +190,7 @@ TEST_F(ShellCommands, TheHelpPointerCanBeSwitchedOffAgain) {
     EXPECT_TRUE(platform_.openedFiles.isEmpty());
 }
 
-TEST_F(ShellCommands, ABreedChosenInTheRegisterIsSelectedAndShown) {
+TEST_F(CommandBarTest, ABreedChosenInTheRegisterIsSelectedAndShown) {
     AddSmallShow();
     Start();
     ChooseInRegister(11, {kMenuJump});
@@ -199,7 +199,7 @@ TEST_F(ShellCommands, ABreedChosenInTheRegisterIsSelectedAndShown) {
     EXPECT_EQ(window_->focusWidget(), &Tree());
 }
 
-TEST_F(ShellCommands, AChangedRegisterRebuildsTheTreeBeforeTheJump) {
+TEST_F(CommandBarTest, AChangedRegisterRebuildsTheTreeBeforeTheJump) {
     AddSmallShow();
     AddBreed(12, "Čuvač", 0);
     Start();
@@ -208,14 +208,14 @@ TEST_F(ShellCommands, AChangedRegisterRebuildsTheTreeBeforeTheJump) {
     EXPECT_EQ(window_->ParentNode(u"R12"_s), u"K1"_s);
 }
 
-TEST_F(ShellCommands, AJumpToABreedThatTheTreeLacksFails) {
+TEST_F(CommandBarTest, AJumpToABreedThatTheTreeLacksFails) {
     AddSmallShow();
     AddBreed(77, "Čuvač", 9); // in a ring that is gone
     Start();
     EXPECT_THROW(ChooseInRegister(77, {kMenuJump}), Error);
 }
 
-TEST_F(ShellCommands, ABreedPutIntoAnotherRingInTheRegisterStaysSelectedWithItsNewPath) {
+TEST_F(CommandBarTest, ABreedPutIntoAnotherRingInTheRegisterStaysSelectedWithItsNewPath) {
     AddSmallShow();
     database_.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (2, 'Kruh B')");
     Start();
@@ -227,7 +227,7 @@ TEST_F(ShellCommands, ABreedPutIntoAnotherRingInTheRegisterStaysSelectedWithItsN
     EXPECT_EQ(Tree().Nodes().Get(u"K2"_s).background, kPathBackground);
 }
 
-TEST_F(ShellCommands, WithoutAJumpTheSelectionStays) {
+TEST_F(CommandBarTest, WithoutAJumpTheSelectionStays) {
     AddSmallShow();
     const StandIn plemena(u"fm_Plemena"_s, {});
     Start();
@@ -236,7 +236,7 @@ TEST_F(ShellCommands, WithoutAJumpTheSelectionStays) {
     EXPECT_EQ(window_->SelectedNode(), u"P100"_s);
 }
 
-TEST_F(ShellCommands, ADogChosenInTheListIsShown) {
+TEST_F(CommandBarTest, ADogChosenInTheListIsShown) {
     AddSmallShow();
     const StandIn list(u"fm_DogsList"_s, [this] {
         window_->SelectNode(u"P101"_s);

@@ -14,14 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class TreeRingsTest : public TreeTest {
+class TreeCommandsTest : public TreeTest {
   protected:
-    TreeRingsTest() {
+    TreeCommandsTest() {
         replaced_ = SetWindow(u"frmNazevKruhu"_s, [](QWidget* parent) {
             return std::make_unique<frmNazevKruhu>(parent);
         });
     }
-    ~TreeRingsTest() override { SetWindow(u"frmNazevKruhu"_s, std::move(replaced_)); }
+    ~TreeCommandsTest() override { SetWindow(u"frmNazevKruhu"_s, std::move(replaced_)); }
 
     /// Ends the edit in place with a text and Enter, and waits for the panel that follows it.
     void TypeName(const QString& text) {
@@ -47,13 +47,13 @@ class TreeRingsTest : public TreeTest {
     WindowFactory replaced_;
 };
 
-TEST_F(TreeRingsTest, ALongNameIsCutToWhatAFieldHolds) {
+TEST_F(TreeCommandsTest, ALongNameIsCutToWhatAFieldHolds) {
     Choose({}, 601);
     TypeName(QString(300, u'x'));
     EXPECT_EQ(Scalar("SELECT Nazev FROM Kruhy WHERE ID = 3"), QString(255, u'x'));
 }
 
-TEST_F(TreeRingsTest, AddsARingAndNamesItInPlace) {
+TEST_F(TreeCommandsTest, AddsARingAndNamesItInPlace) {
     Choose({}, 601);
     EXPECT_EQ(host.SelectedNode(), u"K3"_s);
     EXPECT_EQ(host.NodeText(u"K3"_s), u"Nový kruh"_s);
@@ -72,7 +72,7 @@ TEST_F(TreeRingsTest, AddsARingAndNamesItInPlace) {
     EXPECT_EQ(host.NodeTag(u"K3"_s), u"K3"_s);
 }
 
-TEST_F(TreeRingsTest, KeepsANewRingWhoseNamingIsCancelled) {
+TEST_F(TreeCommandsTest, KeepsANewRingWhoseNamingIsCancelled) {
     host.commands->AddRing();
     ASSERT_NE(Editor(), nullptr);
     Editor()->setText(u"Jiný"_s);
@@ -84,7 +84,7 @@ TEST_F(TreeRingsTest, KeepsANewRingWhoseNamingIsCancelled) {
     EXPECT_FALSE(Module().LabelEditAllowed);
 }
 
-TEST_F(TreeRingsTest, KeepsTheNameWhenTheNewOneIsEmpty) {
+TEST_F(TreeCommandsTest, KeepsTheNameWhenTheNewOneIsEmpty) {
     host.commands->AddRing();
     TypeName(QString());
     EXPECT_EQ(host.NodeText(u"K3"_s), u"Nový kruh"_s);
@@ -92,7 +92,7 @@ TEST_F(TreeRingsTest, KeepsTheNameWhenTheNewOneIsEmpty) {
     EXPECT_EQ(host.shown, QStringList{u"K3"_s});
 }
 
-TEST_F(TreeRingsTest, LetsTwoRingsBearOneName) {
+TEST_F(TreeCommandsTest, LetsTwoRingsBearOneName) {
     host.commands->AddRing();
     TypeName(u"Nový kruh"_s);
     host.commands->AddRing();
@@ -100,7 +100,7 @@ TEST_F(TreeRingsTest, LetsTwoRingsBearOneName) {
     EXPECT_EQ(RingNames(), u"2"_s);
 }
 
-TEST_F(TreeRingsTest, StoresANameThatIsLeftByAClickElsewhere) {
+TEST_F(TreeCommandsTest, StoresANameThatIsLeftByAClickElsewhere) {
     host.commands->AddRing();
     ASSERT_NE(Editor(), nullptr);
     Editor()->setText(u"Hala D'Or"_s);
@@ -109,12 +109,12 @@ TEST_F(TreeRingsTest, StoresANameThatIsLeftByAClickElsewhere) {
     EXPECT_EQ(Scalar("SELECT Nazev FROM Kruhy WHERE ID = 3"), u"Hala D'Or"_s);
 }
 
-TEST_F(TreeRingsTest, NamesWithLabelsAndKeysAsEveryWindow) {
+TEST_F(TreeCommandsTest, NamesWithLabelsAndKeysAsEveryWindow) {
     frmNazevKruhu window(nullptr);
     WalkWindow(window);
 }
 
-TEST_F(TreeRingsTest, RenamesARingInItsWindow) {
+TEST_F(TreeCommandsTest, RenamesARingInItsWindow) {
     host.SelectNode(u"K1"_s);
     WhileOpen([this] { Press(Qt::Key_F2); },
               [](QWidget& window) {
@@ -133,7 +133,7 @@ TEST_F(TreeRingsTest, RenamesARingInItsWindow) {
     EXPECT_EQ(host.shown, QStringList{u"K1"_s});
 }
 
-TEST_F(TreeRingsTest, LeavesTheNameWhenTheWindowIsCancelled) {
+TEST_F(TreeCommandsTest, LeavesTheNameWhenTheWindowIsCancelled) {
     WhileOpen([this] { Choose(u"K2"_s, 601); },
               [](QWidget& window) {
                   Control<QLineEdit>(window, "txtName").setText(u"Jiný"_s);
@@ -144,7 +144,7 @@ TEST_F(TreeRingsTest, LeavesTheNameWhenTheWindowIsCancelled) {
     EXPECT_EQ(Scalar("SELECT Nazev FROM Kruhy WHERE ID = 2"), u"B"_s);
 }
 
-TEST_F(TreeRingsTest, NeverRenamesTheUnassignedRootNorWhatIsCalledLikeIt) {
+TEST_F(TreeCommandsTest, NeverRenamesTheUnassignedRootNorWhatIsCalledLikeIt) {
     Load("UPDATE Kruhy SET Nazev = 'Nezařazeno v kruhu' WHERE ID = 2");
     StandInFor(u"frmNazevKruhu"_s);
     for (const char16_t* key : {u"K0", u"K2", u"R10", u"P1"}) {
@@ -155,7 +155,7 @@ TEST_F(TreeRingsTest, NeverRenamesTheUnassignedRootNorWhatIsCalledLikeIt) {
     EXPECT_EQ(opened, QStringList());
 }
 
-TEST_F(TreeRingsTest, RefusesToRemoveARingWithBreeds) {
+TEST_F(TreeCommandsTest, RefusesToRemoveARingWithBreeds) {
     ExpectStop(u"Tento kruh nelze odstranit, obsahuje položky"_s);
     Choose(u"K1"_s, 602);
     EXPECT_TRUE(host.NodeExists(u"K1"_s));
@@ -163,7 +163,7 @@ TEST_F(TreeRingsTest, RefusesToRemoveARingWithBreeds) {
     EXPECT_EQ(host.shown, QStringList());
 }
 
-TEST_F(TreeRingsTest, RemovesAnEmptyRingOnYesAlone) {
+TEST_F(TreeCommandsTest, RemovesAnEmptyRingOnYesAlone) {
     for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Cancel}) {
         ExpectQuestion(u"Určitě chcete odstranit kruh B?"_s, answer);
         Choose(u"K2"_s, 602);
@@ -176,7 +176,7 @@ TEST_F(TreeRingsTest, RemovesAnEmptyRingOnYesAlone) {
     EXPECT_EQ(host.shown, QStringList{u"K1"_s});
 }
 
-TEST_F(TreeRingsTest, RemovesTheUnassignedRootFromTheTreeUntilTheNextReload) {
+TEST_F(TreeCommandsTest, RemovesTheUnassignedRootFromTheTreeUntilTheNextReload) {
     Load("UPDATE Plemena SET ID_Kruhu = 1");
     host.SelectNode(u"K0"_s);
     ExpectQuestion(u"Určitě chcete odstranit kruh Nezařazeno v kruhu?"_s, MessageAnswer::Yes);
@@ -188,7 +188,7 @@ TEST_F(TreeRingsTest, RemovesTheUnassignedRootFromTheTreeUntilTheNextReload) {
     EXPECT_TRUE(host.NodeExists(u"K0"_s));
 }
 
-TEST_F(TreeRingsTest, RemovesABreedWithoutDogsByTheDeleteKey) {
+TEST_F(TreeCommandsTest, RemovesABreedWithoutDogsByTheDeleteKey) {
     host.SelectNode(u"R10"_s);
     ExpectStop(u"Toto plemeno nelze odstranit"_s);
     Press(Qt::Key_Delete);
@@ -202,7 +202,7 @@ TEST_F(TreeRingsTest, RemovesABreedWithoutDogsByTheDeleteKey) {
     EXPECT_EQ(host.shown, (QStringList{u"R10"_s, u"R20"_s}));
 }
 
-TEST_F(TreeRingsTest, RemovesADogAndLeavesWhatBelongedToIt) {
+TEST_F(TreeCommandsTest, RemovesADogAndLeavesWhatBelongedToIt) {
     database.Execute("INSERT INTO PsiVeVystavach VALUES (1, 1);"
                      "INSERT INTO Vazby_Souteze VALUES (1, 1);"
                      "INSERT INTO PsiOceneni VALUES (1, 1);"
@@ -218,14 +218,14 @@ TEST_F(TreeRingsTest, RemovesADogAndLeavesWhatBelongedToIt) {
     EXPECT_EQ(host.shown, QStringList{u"P2"_s});
 }
 
-TEST_F(TreeRingsTest, RemovesTheSelectedDogByTheDeleteKeyAndShowsTheNextOnce) {
+TEST_F(TreeCommandsTest, RemovesTheSelectedDogByTheDeleteKeyAndShowsTheNextOnce) {
     host.SelectNode(u"P2"_s);
     ExpectQuestion(u"Určitě chcete ze seznamu odstranit psa Bára?"_s, MessageAnswer::Yes);
     Press(Qt::Key_Delete);
     EXPECT_EQ(host.shown, QStringList{u"P1"_s});
 }
 
-TEST_F(TreeRingsTest, LeavesClassesAlone) {
+TEST_F(TreeCommandsTest, LeavesClassesAlone) {
     Module().ShowClassesOn = true;
     Load();
     host.SelectNode(u"TR10|1"_s);

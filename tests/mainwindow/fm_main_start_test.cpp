@@ -1,5 +1,5 @@
 #include "forms/report_list.h"
-#include "mainwindow/shell_fixture.h"
+#include "mainwindow/fm_main_fixture.h"
 #include "platform/values/errors.h"
 #include "store/vystavy.h"
 #include "support/grid_lines.h"
@@ -13,12 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ShellStart : public Shell {
+class MainWindowStart : public MainWindowTest {
   protected:
     int TreeWidth() { return Control<QSplitter>(u"vbuSplit"_s).sizes().constFirst(); }
 };
 
-TEST_F(ShellStart, AnEmptyDatabaseOpensWithTheMainShowAndAnAlmostEmptyTree) {
+TEST_F(MainWindowStart, AnEmptyDatabaseOpensWithTheMainShowAndAnAlmostEmptyTree) {
     Start();
     EXPECT_TRUE(window_->isVisible());
     EXPECT_EQ(window_->windowTitle(), u"Lorvo"_s);
@@ -30,7 +30,7 @@ TEST_F(ShellStart, AnEmptyDatabaseOpensWithTheMainShowAndAnAlmostEmptyTree) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
-TEST_F(ShellStart, OtherWindowsReachTheTreeThroughTheServices) {
+TEST_F(MainWindowStart, OtherWindowsReachTheTreeThroughTheServices) {
     AddSmallShow();
     Start();
     MainWindowServices& services = TheMainWindow();
@@ -48,7 +48,7 @@ TEST_F(ShellStart, OtherWindowsReachTheTreeThroughTheServices) {
     EXPECT_EQ(services.Caption(), u"Lorvo"_s);
 }
 
-TEST_F(ShellStart, FillsTheTablesOfConstants) {
+TEST_F(MainWindowStart, FillsTheTablesOfConstants) {
     Start();
     EXPECT_EQ(Module().ClassNames[3], u"mezitřída"_s);
     EXPECT_EQ(Tables().SpecialClassTo[2], 24);
@@ -58,7 +58,7 @@ TEST_F(ShellStart, FillsTheTablesOfConstants) {
     EXPECT_EQ(Module().MainCurrency, u"Kč"_s);
 }
 
-TEST_F(ShellStart, MissingTablesAreMetInSilence) {
+TEST_F(MainWindowStart, MissingTablesAreMetInSilence) {
     database_.Execute("DROP TABLE Vystavy");
     database_.Execute("DROP TABLE Meny");
     AddSmallShow();
@@ -68,7 +68,7 @@ TEST_F(ShellStart, MissingTablesAreMetInSilence) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
-TEST_F(ShellStart, ATreeThatFailsHalfwayStaysAsFarAsItGot) {
+TEST_F(MainWindowStart, ATreeThatFailsHalfwayStaysAsFarAsItGot) {
     AddSmallShow();
     AddDog(102, "Zbloudilý", 10, 0);
     Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
@@ -79,7 +79,7 @@ TEST_F(ShellStart, ATreeThatFailsHalfwayStaysAsFarAsItGot) {
     EXPECT_EQ(Module().MainCurrency, u"Kč"_s) << "what comes later in the sequence still runs";
 }
 
-TEST_F(ShellStart, TheRememberedNodeIsSelectedAndShown) {
+TEST_F(MainWindowStart, TheRememberedNodeIsSelectedAndShown) {
     AddSmallShow();
     Setting(u"Sys\\RememberTree"_s) = u"R10"_s;
     Start();
@@ -87,7 +87,7 @@ TEST_F(ShellStart, TheRememberedNodeIsSelectedAndShown) {
     EXPECT_TRUE(Title().startsWith(u"Pudl"_s)) << Title().toStdString();
 }
 
-TEST_F(ShellStart, ARememberedNodeThatIsGoneSelectsNothing) {
+TEST_F(MainWindowStart, ARememberedNodeThatIsGoneSelectsNothing) {
     AddSmallShow();
     Setting(u"Sys\\RememberTree"_s) = u"P999"_s;
     Start();
@@ -96,7 +96,7 @@ TEST_F(ShellStart, ARememberedNodeThatIsGoneSelectsNothing) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
-TEST_F(ShellStart, ARememberedClassNodeIsNotRestored) {
+TEST_F(MainWindowStart, ARememberedClassNodeIsNotRestored) {
     AddSmallShow();
     Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
     Setting(u"Sys\\RememberTree"_s) = u"TR10|5"_s;
@@ -106,7 +106,7 @@ TEST_F(ShellStart, ARememberedClassNodeIsNotRestored) {
     EXPECT_TRUE(Module().RememberTreeOn);
 }
 
-TEST_F(ShellStart, TheDividerStandsWhereItWasLeft) {
+TEST_F(MainWindowStart, TheDividerStandsWhereItWasLeft) {
     Setting(u"Splitters\\fm_main\\Left"_s) = u"250"_s;
     Start();
     EXPECT_EQ(TreeWidth(), 250);
@@ -114,7 +114,7 @@ TEST_F(ShellStart, TheDividerStandsWhereItWasLeft) {
     EXPECT_EQ(Setting(u"Splitters\\fm_main\\Left"_s), u"250"_s);
 }
 
-TEST_F(ShellStart, AUselessDividerPositionKeepsTheDesignedOne) {
+TEST_F(MainWindowStart, AUselessDividerPositionKeepsTheDesignedOne) {
     Start();
     const int designed = TreeWidth();
     for (const QString& text : {u"0"_s, u"-250"_s, u"abc"_s, u"0,5"_s}) {
@@ -125,7 +125,7 @@ TEST_F(ShellStart, AUselessDividerPositionKeepsTheDesignedOne) {
     }
 }
 
-TEST_F(ShellStart, GridLinesFollowThePreferenceBothWays) {
+TEST_F(MainWindowStart, GridLinesFollowThePreferenceBothWays) {
     for (const bool shown : {true, false}) {
         Setting(u"Sys\\ShowGrid"_s) = shown ? u"1"_s : u"0"_s;
         Start();
@@ -135,7 +135,7 @@ TEST_F(ShellStart, GridLinesFollowThePreferenceBothWays) {
     }
 }
 
-TEST_F(ShellStart, ClosingWithoutRememberingStoresAnEmptyNode) {
+TEST_F(MainWindowStart, ClosingWithoutRememberingStoresAnEmptyNode) {
     AddSmallShow();
     Setting(u"Sys\\ExpandedItems"_s) = u"K7"_s;
     Start();
@@ -145,7 +145,7 @@ TEST_F(ShellStart, ClosingWithoutRememberingStoresAnEmptyNode) {
     EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_s), u"K7"_s);
 }
 
-TEST_F(ShellStart, ClosingWithRememberingStoresTheSelectedAndTheExpandedNodes) {
+TEST_F(MainWindowStart, ClosingWithRememberingStoresTheSelectedAndTheExpandedNodes) {
     AddSmallShow();
     Start();
     Module().RememberTreeOn = true;
@@ -155,7 +155,7 @@ TEST_F(ShellStart, ClosingWithRememberingStoresTheSelectedAndTheExpandedNodes) {
     EXPECT_EQ(Setting(u"Sys\\ExpandedItems"_s), u"K1|R10"_s);
 }
 
-TEST_F(ShellStart, ExpandedBreedsComeBackButNotTheirClasses) {
+TEST_F(MainWindowStart, ExpandedBreedsComeBackButNotTheirClasses) {
     AddSmallShow();
     Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
     Setting(u"Sys\\RememberTree"_s) = u"K1"_s;
@@ -168,7 +168,7 @@ TEST_F(ShellStart, ExpandedBreedsComeBackButNotTheirClasses) {
     EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_s, u"R10"_s}));
 }
 
-TEST_F(ShellStart, TheWindowKeepsItsSize) {
+TEST_F(MainWindowStart, TheWindowKeepsItsSize) {
     Start();
     window_->resize(780, 600); // what the test's screen has room for
     Close();

@@ -13,9 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class TreeDogsTest : public TreeTest {
+class TreeCommandsDogsTest : public TreeTest {
   protected:
-    TreeDogsTest() {
+    TreeCommandsDogsTest() {
         StandInFor(u"fm_Dog"_s);
         database.Execute("INSERT INTO Meny (Zkratka, Hlavni) VALUES ('Kč', -1);"
                          "INSERT INTO Ostatni VALUES ('2005-05-14T00:00:00')");
@@ -29,7 +29,7 @@ class TreeDogsTest : public TreeTest {
 const QString kNoDate = u"Psa nelze přidat. Datum výstavy nebylo určeno"_s;
 const QString kNoBreed = u"Není vybráno plemeno, do kterého se má pes přidat"_s;
 
-TEST_F(TreeDogsTest, AddsADogToTheBreedPointedAt) {
+TEST_F(TreeCommandsDogsTest, AddsADogToTheBreedPointedAt) {
     Choose(u"R20"_s, 603);
     EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
     EXPECT_TRUE(Module().IsAddingDog);
@@ -37,7 +37,7 @@ TEST_F(TreeDogsTest, AddsADogToTheBreedPointedAt) {
     EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_s);
 }
 
-TEST_F(TreeDogsTest, RefusesADogWithoutAMainCurrencyFirst) {
+TEST_F(TreeCommandsDogsTest, RefusesADogWithoutAMainCurrencyFirst) {
     database.Execute("UPDATE Meny SET Hlavni = 0; UPDATE Psi SET Cislo = 1; DELETE FROM Ostatni");
     ExpectRefusal(u"Psa nelze přidat. V seznamu měn není zadána hlavní měna"_s);
     Choose(u"R20"_s, 603);
@@ -45,7 +45,7 @@ TEST_F(TreeDogsTest, RefusesADogWithoutAMainCurrencyFirst) {
     EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_s);
 }
 
-TEST_F(TreeDogsTest, RefusesADogOnceTheFirstRowHasANumber) {
+TEST_F(TreeCommandsDogsTest, RefusesADogOnceTheFirstRowHasANumber) {
     database.Execute("UPDATE Psi SET Cislo = 1 WHERE ID = 1; DELETE FROM Ostatni");
     ExpectRefusal(u"Psa nelze přidat. Psi mají přiřazena čísla"_s);
     Choose(u"R20"_s, 603);
@@ -53,13 +53,13 @@ TEST_F(TreeDogsTest, RefusesADogOnceTheFirstRowHasANumber) {
     EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"0"_s);
 }
 
-TEST_F(TreeDogsTest, LooksAtNoOtherNumberThanTheFirstRows) {
+TEST_F(TreeCommandsDogsTest, LooksAtNoOtherNumberThanTheFirstRows) {
     database.Execute("UPDATE Psi SET Cislo = ID WHERE ID > 1");
     Choose(u"R20"_s, 603);
     EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
 }
 
-TEST_F(TreeDogsTest, RefusesTheFirstDogWithoutAShowDateAfterAddingTheShow) {
+TEST_F(TreeCommandsDogsTest, RefusesTheFirstDogWithoutAShowDateAfterAddingTheShow) {
     database.Execute("DELETE FROM Psi; DELETE FROM Ostatni");
     ExpectRefusal(kNoDate);
     Choose(u"R20"_s, 603);
@@ -71,13 +71,13 @@ TEST_F(TreeDogsTest, RefusesTheFirstDogWithoutAShowDateAfterAddingTheShow) {
     EXPECT_EQ(Scalar("SELECT COUNT (*) FROM Vystavy"), u"1"_s);
 }
 
-TEST_F(TreeDogsTest, LetsADateThatWasNeverGivenPass) {
+TEST_F(TreeCommandsDogsTest, LetsADateThatWasNeverGivenPass) {
     database.Execute("UPDATE Ostatni SET DatumVystavy = NULL");
     Choose(u"R20"_s, 603);
     EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
 }
 
-TEST_F(TreeDogsTest, AddsByTheCommandBarToTheBreedOfTheSelectedNode) {
+TEST_F(TreeCommandsDogsTest, AddsByTheCommandBarToTheBreedOfTheSelectedNode) {
     host.SelectNode(u"R30"_s);
     host.commands->AddDogToSelected();
     EXPECT_EQ(Module().CurrentBreedID, 30);
@@ -88,7 +88,7 @@ TEST_F(TreeDogsTest, AddsByTheCommandBarToTheBreedOfTheSelectedNode) {
     EXPECT_EQ(opened.size(), 2);
 }
 
-TEST_F(TreeDogsTest, RefusesByTheCommandBarWithoutABreed) {
+TEST_F(TreeCommandsDogsTest, RefusesByTheCommandBarWithoutABreed) {
     Module().ShowClassesOn = true;
     Load();
     ExpectRefusal(kNoBreed);
@@ -104,7 +104,7 @@ TEST_F(TreeDogsTest, RefusesByTheCommandBarWithoutABreed) {
     EXPECT_EQ(opened.size(), 1);
 }
 
-TEST_F(TreeDogsTest, AsksByTheCommandBarForTheDatesRowAlone) {
+TEST_F(TreeCommandsDogsTest, AsksByTheCommandBarForTheDatesRowAlone) {
     database.Execute("DELETE FROM Meny; UPDATE Psi SET Cislo = 1;"
                      "UPDATE Ostatni SET DatumVystavy = '1899-12-30T00:00:00'");
     host.SelectNode(u"R10"_s);
@@ -117,7 +117,7 @@ TEST_F(TreeDogsTest, AsksByTheCommandBarForTheDatesRowAlone) {
     EXPECT_EQ(opened.size(), 1);
 }
 
-TEST_F(TreeDogsTest, EditsADogOnADoubleClick) {
+TEST_F(TreeCommandsDogsTest, EditsADogOnADoubleClick) {
     Module().IsAddingDog = true;
     DoubleClick(u"P3"_s);
     EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
@@ -126,21 +126,21 @@ TEST_F(TreeDogsTest, EditsADogOnADoubleClick) {
     EXPECT_EQ(host.SelectedNode(), u"P3"_s);
 }
 
-TEST_F(TreeDogsTest, TakesTheBreedFromAboveTheClass) {
+TEST_F(TreeCommandsDogsTest, TakesTheBreedFromAboveTheClass) {
     Module().ShowClassesOn = true;
     Load();
     DoubleClick(u"P1"_s);
     EXPECT_EQ(Module().CurrentBreedID, 10);
 }
 
-TEST_F(TreeDogsTest, DoesNothingOnADoubleClickElsewhere) {
+TEST_F(TreeCommandsDogsTest, DoesNothingOnADoubleClickElsewhere) {
     DoubleClick(u"R10"_s);
     DoubleClick(u"K2"_s);
     EXPECT_EQ(opened, QStringList());
     EXPECT_EQ(Tree().ExpandedKeys(), QStringList{u"K1"_s}); // opened to show the breed
 }
 
-TEST_F(TreeDogsTest, MovesABreedToTheRingItIsDroppedOn) {
+TEST_F(TreeCommandsDogsTest, MovesABreedToTheRingItIsDroppedOn) {
     Drop(u"R20"_s, u"K1"_s);
     EXPECT_EQ(host.ParentNode(u"R20"_s), u"K1"_s);
     EXPECT_TRUE(Node(u"R20"_s).bold);
@@ -151,13 +151,13 @@ TEST_F(TreeDogsTest, MovesABreedToTheRingItIsDroppedOn) {
     EXPECT_EQ(host.shown, QStringList());
 }
 
-TEST_F(TreeDogsTest, LeavesABreedInPlaceThatIsDroppedOnItsOwnRing) {
+TEST_F(TreeCommandsDogsTest, LeavesABreedInPlaceThatIsDroppedOnItsOwnRing) {
     Drop(u"R10"_s, u"K1"_s);
     EXPECT_EQ(host.ParentNode(u"R10"_s), u"K1"_s);
     EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_s);
 }
 
-TEST_F(TreeDogsTest, LosesAnUnusedBreedDroppedOnTheUnassignedRootAtTheNextReload) {
+TEST_F(TreeCommandsDogsTest, LosesAnUnusedBreedDroppedOnTheUnassignedRootAtTheNextReload) {
     Load("UPDATE Plemena SET Pouzivat = 0 WHERE ID = 10");
     Drop(u"R10"_s, u"K0"_s);
     EXPECT_EQ(host.ParentNode(u"R10"_s), u"K0"_s);
@@ -165,7 +165,7 @@ TEST_F(TreeDogsTest, LosesAnUnusedBreedDroppedOnTheUnassignedRootAtTheNextReload
     EXPECT_FALSE(host.NodeExists(u"R10"_s));
 }
 
-TEST_F(TreeDogsTest, MovesADogToTheBreedItIsDroppedOn) {
+TEST_F(TreeCommandsDogsTest, MovesADogToTheBreedItIsDroppedOn) {
     database.Execute("UPDATE Psi SET Cislo = 5 WHERE ID = 1");
     Drop(u"P1"_s, u"R20"_s);
     EXPECT_EQ(host.ParentNode(u"P1"_s), u"R20"_s);
@@ -173,7 +173,7 @@ TEST_F(TreeDogsTest, MovesADogToTheBreedItIsDroppedOn) {
     EXPECT_EQ(Scalar("SELECT Trida FROM Psi WHERE ID = 1"), u"3"_s);
 }
 
-TEST_F(TreeDogsTest, PutsADroppedDogBesideTheClassesUntilTheNextReload) {
+TEST_F(TreeCommandsDogsTest, PutsADroppedDogBesideTheClassesUntilTheNextReload) {
     Module().ShowClassesOn = true;
     Load();
     Drop(u"P1"_s, u"R10"_s);
@@ -182,7 +182,7 @@ TEST_F(TreeDogsTest, PutsADroppedDogBesideTheClassesUntilTheNextReload) {
     EXPECT_EQ(host.ParentNode(u"P1"_s), u"TR10|3"_s);
 }
 
-TEST_F(TreeDogsTest, DoesNothingOnAnyOtherDrop) {
+TEST_F(TreeCommandsDogsTest, DoesNothingOnAnyOtherDrop) {
     Module().ShowClassesOn = true;
     Load();
     const std::pair<const char16_t*, const char16_t*> drops[] = {
@@ -196,7 +196,7 @@ TEST_F(TreeDogsTest, DoesNothingOnAnyOtherDrop) {
     EXPECT_EQ(Scalar("SELECT ID_Kruhu FROM Plemena WHERE ID = 10"), u"1"_s);
 }
 
-TEST_F(TreeDogsTest, MovesNothingForTextOfAnotherProgramThatLooksLikeAKey) {
+TEST_F(TreeCommandsDogsTest, MovesNothingForTextOfAnotherProgramThatLooksLikeAKey) {
     QMimeData text;
     text.setText(u"P1"_s);
     EXPECT_FALSE(DropData(text, u"R20"_s));
@@ -206,14 +206,14 @@ TEST_F(TreeDogsTest, MovesNothingForTextOfAnotherProgramThatLooksLikeAKey) {
     EXPECT_EQ(Scalar("SELECT PlemenoID FROM Psi WHERE ID = 1"), u"10"_s);
 }
 
-TEST_F(TreeDogsTest, LeavesTreeAndStoreApartWhenADropFailsInTheStore) {
+TEST_F(TreeCommandsDogsTest, LeavesTreeAndStoreApartWhenADropFailsInTheStore) {
     database.Execute("DELETE FROM Psi WHERE ID = 1");
     Drop(u"P1"_s, u"R20"_s);
     EXPECT_THROW(RethrowFailure(), StoreError);
     EXPECT_EQ(host.ParentNode(u"P1"_s), u"R20"_s);
 }
 
-TEST_F(TreeDogsTest, SearchesOnFromMatchToMatch) {
+TEST_F(TreeCommandsDogsTest, SearchesOnFromMatchToMatch) {
     StandInFor(u"frmFind"_s);
     Press(Qt::Key_F3);
     EXPECT_EQ(opened, QStringList{u"frmFind"_s});
@@ -230,7 +230,7 @@ TEST_F(TreeDogsTest, SearchesOnFromMatchToMatch) {
     EXPECT_EQ(host.SelectedNode(), u"P3"_s);
 }
 
-TEST_F(TreeDogsTest, OpensTheSearchByCtrlF) {
+TEST_F(TreeCommandsDogsTest, OpensTheSearchByCtrlF) {
     StandInFor(u"frmFind"_s);
     Module().FindText = u"r"_s;
     Press(Qt::Key_F, Qt::ControlModifier);

@@ -1,6 +1,6 @@
 // The main window over a disk that fails.
 
-#include "mainwindow/shell_fixture.h"
+#include "mainwindow/fm_main_fixture.h"
 #include "support/watched_disk.h"
 
 #include <cerrno>
@@ -11,9 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using ShellDisk = Shell;
+using MainWindowDisk = MainWindowTest;
 
-TEST_F(ShellDisk, AFailureOfTheDiskIsNotedBesideTheDataAndInNoBox) {
+TEST_F(MainWindowDisk, AFailureOfTheDiskIsNotedBesideTheDataAndInNoBox) {
     test::WatchedDisk disk(database_.Folder());
     disk.before = [](int, const test::DiskCall&) {
         return ENOSPC; // the main show can't be added
@@ -28,7 +28,7 @@ TEST_F(ShellDisk, AFailureOfTheDiskIsNotedBesideTheDataAndInNoBox) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
-TEST_F(ShellDisk, DataThatTheDiskGivesWholeAreShownWithoutAWord) {
+TEST_F(MainWindowDisk, DataThatTheDiskGivesWholeAreShownWithoutAWord) {
     Start();
     EXPECT_FALSE(Control<QLabel>(u"lblDisk"_s).isVisible());
 }

@@ -1,5 +1,5 @@
+#include "mainwindow/fm_main_fixture.h"
 #include "mainwindow/return_watch.h"
-#include "mainwindow/shell_fixture.h"
 #include "platform/values/errors.h"
 
 #include <QWindow>
@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ShellActivate : public Shell {
+class MainWindowActivate : public MainWindowTest {
   protected:
     void StartOn(const QString& key) {
         AddSmallShow();
@@ -29,7 +29,7 @@ class ShellActivate : public Shell {
     int turns_ = 0; ///< how often Activate has let events run: three times for a selected node
 };
 
-TEST_F(ShellActivate, RunsOnceAfterAModalWindowAndShowsTheNodeAfresh) {
+TEST_F(MainWindowActivate, RunsOnceAfterAModalWindowAndShowsTheNodeAfresh) {
     StartOn(u"R10"_s);
     OpenAndClose([this] { RenameBreed(10, "Knírač"); });
     EXPECT_TRUE(Title().startsWith(u"Knírač"_s)) << Title().toStdString();
@@ -39,14 +39,14 @@ TEST_F(ShellActivate, RunsOnceAfterAModalWindowAndShowsTheNodeAfresh) {
     EXPECT_EQ(window_->NodeText(u"R10"_s), u"Pudl"_s) << "the tree isn't rebuilt";
 }
 
-TEST_F(ShellActivate, RunsOnceAfterWindowsOverWindows) {
+TEST_F(MainWindowActivate, RunsOnceAfterWindowsOverWindows) {
     StartOn(u"R10"_s);
     const StandIn upper(u"frmUpper"_s, {});
     OpenAndClose([] { Open(u"frmUpper"_s); });
     EXPECT_EQ(turns_, 3);
 }
 
-TEST_F(ShellActivate, EitherDirtyFlagRebuildsTheTree) {
+TEST_F(MainWindowActivate, EitherDirtyFlagRebuildsTheTree) {
     StartOn(u"R10"_s);
     for (bool ModuleValues::*flag : {&ModuleValues::BreedsDirty, &ModuleValues::TreeDirty}) {
         window_->SelectNode(u"R10"_s);
@@ -62,7 +62,7 @@ TEST_F(ShellActivate, EitherDirtyFlagRebuildsTheTree) {
     }
 }
 
-TEST_F(ShellActivate, ReadsAgainWhetherClassesAreShown) {
+TEST_F(MainWindowActivate, ReadsAgainWhetherClassesAreShown) {
     StartOn(u"R10"_s);
     OpenAndClose([this] {
         Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
@@ -72,7 +72,7 @@ TEST_F(ShellActivate, ReadsAgainWhetherClassesAreShown) {
     EXPECT_TRUE(window_->NodeExists(u"TR10|1"_s));
 }
 
-TEST_F(ShellActivate, AfterAnOwnersStatementOnlyHisDogsAreRefilled) {
+TEST_F(MainWindowActivate, AfterAnOwnersStatementOnlyHisDogsAreRefilled) {
     StartOn(u"R10"_s);
     OpenAndClose([] {
         Module().PaymentsOwner = 5;
@@ -83,7 +83,7 @@ TEST_F(ShellActivate, AfterAnOwnersStatementOnlyHisDogsAreRefilled) {
     EXPECT_EQ(turns_, 0);
 }
 
-TEST_F(ShellActivate, ThePanelInFrontIsReadAfreshAfterAnOwnersStatementToo) {
+TEST_F(MainWindowActivate, ThePanelInFrontIsReadAfreshAfterAnOwnersStatementToo) {
     StartOn(u"R10"_s);
     OpenAndClose([this] {
         Module().PaymentsOwner = 5;
@@ -92,7 +92,7 @@ TEST_F(ShellActivate, ThePanelInFrontIsReadAfreshAfterAnOwnersStatementToo) {
     EXPECT_TRUE(Title().startsWith(u"Knírač"_s));
 }
 
-TEST_F(ShellActivate, TheDogWorkedOnIsAgainTheOneShownLast) {
+TEST_F(MainWindowActivate, TheDogWorkedOnIsAgainTheOneShownLast) {
     StartOn(u"P100"_s);
     window_->SelectNode(u"R10"_s);
     window_->ShowNodeInfo(u"R10"_s);
@@ -107,14 +107,14 @@ TEST_F(ShellActivate, TheDogWorkedOnIsAgainTheOneShownLast) {
     }
 }
 
-TEST_F(ShellActivate, APanelWithoutASelectedNodeIsReadAfreshToo) {
+TEST_F(MainWindowActivate, APanelWithoutASelectedNodeIsReadAfreshToo) {
     StartOn(u"R10"_s);
     window_->LoadData();
     OpenAndClose([this] { RenameBreed(10, "Knírač"); });
     EXPECT_TRUE(Title().startsWith(u"Knírač"_s));
 }
 
-TEST_F(ShellActivate, ANodeThatIsGoneAfterTheReloadIsPassedOver) {
+TEST_F(MainWindowActivate, ANodeThatIsGoneAfterTheReloadIsPassedOver) {
     StartOn(u"P100"_s);
     OpenAndClose([this] {
         database_.Execute("DELETE FROM Psi WHERE ID = 100");
@@ -126,7 +126,7 @@ TEST_F(ShellActivate, ANodeThatIsGoneAfterTheReloadIsPassedOver) {
     EXPECT_FALSE(Control<QWidget>(u"picPesInfo"_s).isVisible());
 }
 
-TEST_F(ShellActivate, AReloadThatFailsIsRaisedAndKeepsTheFlag) {
+TEST_F(MainWindowActivate, AReloadThatFailsIsRaisedAndKeepsTheFlag) {
     StartOn(u"R10"_s);
     database_.Execute("DROP TABLE Kruhy");
     Module().TreeDirty = true;
@@ -134,7 +134,7 @@ TEST_F(ShellActivate, AReloadThatFailsIsRaisedAndKeepsTheFlag) {
     EXPECT_TRUE(Module().TreeDirty);
 }
 
-TEST_F(ShellActivate, APanelThatFailsIsSkippedInSilence) {
+TEST_F(MainWindowActivate, APanelThatFailsIsSkippedInSilence) {
     StartOn(u"P100"_s);
     database_.Execute("DROP TABLE Psi");
     window_->Activate();
@@ -142,7 +142,7 @@ TEST_F(ShellActivate, APanelThatFailsIsSkippedInSilence) {
     EXPECT_TRUE(platform_.messages.empty());
 }
 
-TEST_F(ShellActivate, TheKeyboardComesBackToWhatTheWindowWasOpenedFrom) {
+TEST_F(MainWindowActivate, TheKeyboardComesBackToWhatTheWindowWasOpenedFrom) {
     StartOn(u"P100"_s);
     auto& link = Control<QWidget>(u"lblNovaPlatba"_s);
     link.setFocus();
@@ -156,7 +156,7 @@ TEST_F(ShellActivate, TheKeyboardComesBackToWhatTheWindowWasOpenedFrom) {
     EXPECT_EQ(window_->focusWidget(), &Tree()) << "the link has gone";
 }
 
-TEST_F(ShellActivate, RunsWhenTheClerkComesBackFromAnotherProgram) {
+TEST_F(MainWindowActivate, RunsWhenTheClerkComesBackFromAnotherProgram) {
     StartOn(u"R10"_s);
     RenameBreed(10, "Knírač");
     Q_EMIT qGuiApp->focusWindowChanged(window_->windowHandle());
@@ -169,7 +169,7 @@ TEST_F(ShellActivate, RunsWhenTheClerkComesBackFromAnotherProgram) {
     EXPECT_TRUE(Title().startsWith(u"Knírač"_s));
 }
 
-TEST_F(ShellActivate, FocusLostByAWindowOfTheProgramIsNoReturn) {
+TEST_F(MainWindowActivate, FocusLostByAWindowOfTheProgramIsNoReturn) {
     StartOn(u"R10"_s);
     QWindow other;
     Q_EMIT qGuiApp->focusWindowChanged(&other);

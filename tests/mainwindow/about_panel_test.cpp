@@ -1,5 +1,5 @@
 #include "app/version.h"
-#include "mainwindow/shell_fixture.h"
+#include "mainwindow/fm_main_fixture.h"
 
 #include <QAction>
 #include <QEnterEvent>
@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ShellAbout : public Shell {
+class AboutPanelTest : public MainWindowTest {
   protected:
     void ShowAbout() {
         Start();
@@ -28,7 +28,7 @@ class ShellAbout : public Shell {
     }
 };
 
-TEST_F(ShellAbout, TellsNameAndVersion) {
+TEST_F(AboutPanelTest, TellsNameAndVersion) {
     ShowAbout();
     EXPECT_EQ(Title(), u"O programu"_s);
     EXPECT_EQ(Text(u"lbl_About"_s), u"Lorvo"_s);
@@ -37,7 +37,7 @@ TEST_F(ShellAbout, TellsNameAndVersion) {
     EXPECT_TRUE(Control<QLabel>(u"picMode"_s).pixmap(Qt::ReturnByValue).isNull());
 }
 
-TEST_F(ShellAbout, ThePictureStandsInTheMiddle) {
+TEST_F(AboutPanelTest, ThePictureStandsInTheMiddle) {
     ShowAbout();
     const auto& panel = Control<QWidget>(u"picAbout"_s);
     const auto& picture = Control<QLabel>(u"imgBkg"_s);
@@ -47,7 +47,7 @@ TEST_F(ShellAbout, ThePictureStandsInTheMiddle) {
     EXPECT_EQ(picture.y(), (panel.height() - picture.height()) / 2);
 }
 
-TEST_F(ShellAbout, TheAuthorsNameShowsTheAddressInTheStatusBar) {
+TEST_F(AboutPanelTest, TheAuthorsNameShowsTheAddressInTheStatusBar) {
     AddSmallShow();
     Start();
     window_->ShowNodeInfo(u"R10"_s);
@@ -65,7 +65,7 @@ TEST_F(ShellAbout, TheAuthorsNameShowsTheAddressInTheStatusBar) {
     }
 }
 
-TEST_F(ShellAbout, AClickWritesToTheAuthor) {
+TEST_F(AboutPanelTest, AClickWritesToTheAuthor) {
     ShowAbout();
     QTest::mouseClick(&Control<QLabel>(u"lbl_Mailto"_s), Qt::LeftButton);
     ASSERT_EQ(platform_.openedAddresses.size(), 1);
@@ -73,7 +73,7 @@ TEST_F(ShellAbout, AClickWritesToTheAuthor) {
               Version(u"mailto:lorvo@hollowpeak.example?subject=Lorvo_%1.%2.%3"_s));
 }
 
-TEST_F(ShellAbout, TheNextNodeTakesThePanelsPlace) {
+TEST_F(AboutPanelTest, TheNextNodeTakesThePanelsPlace) {
     AddSmallShow();
     ShowAbout();
     window_->ShowNodeInfo(u"R10"_s);

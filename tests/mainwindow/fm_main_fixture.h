@@ -53,7 +53,7 @@ class StandIn {
     WindowFactory before_;
 };
 
-class Shell : public ::testing::Test {
+class MainWindowTest : public ::testing::Test {
   protected:
     void TearDown() override {
         window_.reset();
