@@ -12,7 +12,7 @@ QString ReadRegValue(const QString& key, const QString& name);
 void WriteRegValue(const QString& key, const QString& name, const QString& text);
 
 /// True when the text holds both signs and the first "@" stands before the last ".".
-bool IsEmailValid(const QString& text);
+[[nodiscard]] bool IsEmailValid(const QString& text);
 /// One item of the user's locale; empty for an item that doesn't exist.
 QString GetLocaleText(int item);
 /// One key of an ini file; empty when the file, section or key is missing.

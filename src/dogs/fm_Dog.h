@@ -36,9 +36,9 @@ class fm_Dog : public Form {
     void UpdateClasses();
     void UpdateOKButton();
     /// Shows why the dog can't be stored; false.
-    bool Refuse(const QString& reason) const;
+    [[nodiscard]] bool Refuse(const QString& reason) const;
     bool CheckPostCode();
-    bool CheckOwner();
+    [[nodiscard]] bool CheckOwner();
     Psi DogFromBoxes() const;
     void OK();
 

@@ -36,7 +36,7 @@ class DateBox : public QDateEdit {
   private:
     DateOrder Order() const;
     bool IsTyping() const;
-    std::optional<QDate> WholeDate(const QString& text) const;
+    [[nodiscard]] std::optional<QDate> WholeDate(const QString& text) const;
     std::optional<QDate> TypedDate() const;
     void TakeTyped();
     void ChoosePart(int index);

@@ -27,6 +27,6 @@ QSize LargestSize(const QWidget& window);
 
 /// A number from the settings, bounded to what fits every use; nullopt for a missing value or one
 /// that is none by the system's rules.
-std::optional<int> StoredNumber(const QString& key, const QString& name);
+[[nodiscard]] std::optional<int> StoredNumber(const QString& key, const QString& name);
 
 } // namespace lorvo

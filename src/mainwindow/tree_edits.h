@@ -18,7 +18,7 @@ class TreeEdits {
 
     /// Removes a ring without breeds, a breed without dogs, or a dog, when the clerk agrees; shows
     /// a message when it isn't empty. Returns whether the node is gone. Class nodes stay.
-    bool Remove(TreeNode* node);
+    [[nodiscard]] bool Remove(TreeNode* node);
     /// Stores a new name of a ring or a breed and shows it on the node.
     void Rename(TreeNode* node, const QString& name);
     /// Drops a breed on a ring or the unassigned root, or a dog on a breed; nothing else moves.
@@ -31,15 +31,15 @@ class TreeEdits {
 
     /// Whether a dog may be added from a breed's menu: a main currency, no catalogue number on the
     /// first dog, a show date. Adds the main show where there is none. Shows why not.
-    bool MayAddDog();
+    [[nodiscard]] bool MayAddDog();
     /// The lighter test of the command bar: a row with the show date, whatever it holds.
-    bool HasShowDateRow();
+    [[nodiscard]] bool HasShowDateRow();
     void Exclaim(const QString& text);
 
   private:
-    bool RemoveRing(TreeNode* ring);
+    [[nodiscard]] bool RemoveRing(TreeNode* ring);
     bool RemoveBreed(TreeNode* breed);
-    bool RemoveDog(TreeNode* dog);
+    [[nodiscard]] bool RemoveDog(TreeNode* dog);
     bool Confirm(const QString& question);
     void Stop(const QString& text);
 

@@ -8,6 +8,6 @@ class MainWindowServices;
 /// Selects the next breed or dog that fits `FindText`, from `FindStart` on, and sets `FindStart`
 /// behind it. False, and nothing changed, when nothing fits; a `FindText` that is no pattern is
 /// told in a message box besides.
-bool SelectNextMatch(MainWindowServices& mainWindow);
+[[nodiscard]] bool SelectNextMatch(MainWindowServices& mainWindow);
 
 } // namespace lorvo

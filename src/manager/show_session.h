@@ -17,14 +17,14 @@ class ShowSession {
 
 /// Runs `action` with the database open, under the wait cursor. A failure is shown as a message
 /// with this title. Whether the action ran to its end.
-bool OnShow(const std::function<void()>& action);
+[[nodiscard]] bool OnShow(const std::function<void()>& action);
 /// Runs `action` while Lorvo does not run on the folder and can't be started on it; says so where
 /// it runs. Whether the action ran to its end.
-bool AloneInFolder(const std::function<void()>& action);
+[[nodiscard]] bool AloneInFolder(const std::function<void()>& action);
 /// OnShow while Lorvo does not run on the folder and can't be started on it; says so where it runs.
-bool OnShowAlone(const std::function<void()>& action);
+[[nodiscard]] bool OnShowAlone(const std::function<void()>& action);
 
 /// Runs `action`; a failure is shown as a message. Whether it ran to its end.
-bool SayingFailure(const std::function<void()>& action);
+[[nodiscard]] bool SayingFailure(const std::function<void()>& action);
 
 } // namespace lorvo

@@ -10,10 +10,10 @@ class FileChoice {
     virtual ~FileChoice() = default;
     /// A file that exists; empty when the clerk chose none. `filter` as the toolkit has it:
     /// "Tabulky (*.csv)".
-    virtual QString Open(const QString& title, const QString& filter) = 0;
+    [[nodiscard]] virtual QString Open(const QString& title, const QString& filter) = 0;
     /// A file to write, asked about where there is one already; empty when the clerk chose none.
-    virtual QString Save(const QString& title, const QString& suggestedPath,
-                         const QString& filter) = 0;
+    [[nodiscard]] virtual QString Save(const QString& title, const QString& suggestedPath,
+                                       const QString& filter) = 0;
 };
 
 } // namespace lorvo

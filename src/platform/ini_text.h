@@ -13,7 +13,7 @@ class IniText {
   public:
     /// Bytes in windows-1250, also behind a UTF-8 mark, or UTF-16 with its mark. Nullopt for
     /// UTF-16 that can't be written back as it was.
-    static std::optional<IniText> FromBytes(const QByteArray& bytes);
+    [[nodiscard]] static std::optional<IniText> FromBytes(const QByteArray& bytes);
     QByteArray ToBytes() const;
 
     /// Value of the key's first line in the first section of that name; quotes around it are taken
@@ -34,7 +34,8 @@ class IniText {
     QString LineEnd() const;
     std::size_t SectionStart(const QString& section) const;
     std::size_t SectionEnd(std::size_t start) const;
-    std::optional<std::size_t> KeyLine(const QString& section, const QString& key) const;
+    [[nodiscard]] std::optional<std::size_t> KeyLine(const QString& section,
+                                                     const QString& key) const;
     void InsertLine(std::size_t at, const QString& text);
 
     Encoding encoding_ = Encoding::Cp1250;

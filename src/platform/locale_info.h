@@ -27,9 +27,11 @@ class LocaleInfo {
     /// A text that is a number (values/number_text.h, with the locale's grouping), rewritten
     /// without grouping and with a point as the decimal sign; nullopt for any other text, the empty
     /// one among them.
-    virtual std::optional<QString> PlainNumber(const QString& text) const = 0;
+    [[nodiscard]] virtual std::optional<QString> PlainNumber(const QString& text) const = 0;
 
-    bool IsNumeric(const QString& text) const { return PlainNumber(text).has_value(); }
+    [[nodiscard]] bool IsNumeric(const QString& text) const {
+        return PlainNumber(text).has_value();
+    }
 };
 
 } // namespace lorvo

@@ -16,7 +16,7 @@ class MenuPlace {
     MenuPlace& operator=(const MenuPlace&) = delete;
 
     /// Nullopt when the pointer tells the place.
-    static std::optional<QPoint> Current();
+    [[nodiscard]] static std::optional<QPoint> Current();
 
   private:
     std::optional<QPoint> before_;

@@ -59,7 +59,7 @@ class ExportWindow : public Form, public RunProgress {
     /// The report's template, read afresh.
     ReportTemplate ReadTemplate(TemplateKind kind) const;
     /// A box that names what is wrong with the template; true when nothing is.
-    bool CheckTemplate(const ReportTemplate& pattern) const;
+    [[nodiscard]] bool CheckTemplate(const ReportTemplate& pattern) const;
     /// Writes the report's output file and hands it to the desktop.
     void WriteAndOpen(const QByteArray& output) const;
     bool IsStopped() const { return Preruseno; }

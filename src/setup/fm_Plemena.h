@@ -36,7 +36,7 @@ class fm_Plemena : public Form {
     // Ticks.
     void Tick(int ID);
     /// Why the node can't be ticked or unticked as it now stands; empty when it can.
-    QString TickRefusal(const BreedNode& node, bool* tickAfterRefusal) const;
+    [[nodiscard]] QString TickRefusal(const BreedNode& node, bool* tickAfterRefusal) const;
 
     // Commands.
     void AddSubgroup();

@@ -40,7 +40,7 @@ class fm_Settings : public Form {
     void RemoveNumbers();
     /// Which of the two buttons can be pressed next; the keyboard goes to OK.
     void SetNumbered(bool numbered);
-    bool Confirm(const QString& question) const;
+    [[nodiscard]] bool Confirm(const QString& question) const;
 
     QTabWidget* XTab;
     QDateEdit* dtMeeting;

@@ -13,7 +13,7 @@ struct Barvy {
     QString Nazev;
 };
 
-std::optional<Barvy> ColourByID(int barvaID);
+[[nodiscard]] std::optional<Barvy> ColourByID(int barvaID);
 /// All colours in ID order.
 std::vector<Barvy> Colours();
 /// How many colours bear this name, whatever the letter case.

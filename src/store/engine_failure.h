@@ -22,6 +22,6 @@ namespace lorvo {
 /// Sees to it that closing the connection doesn't write to the file: its journal stays.
 void LeaveFileAlone(sqlite3* handle);
 /// Whether that has been asked for.
-bool IsFileLeftAlone(sqlite3* handle);
+[[nodiscard]] bool IsFileLeftAlone(sqlite3* handle);
 
 } // namespace lorvo

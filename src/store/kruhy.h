@@ -14,7 +14,7 @@ struct Kruhy {
     QString JmenoRozhodciho;
 };
 
-std::optional<Kruhy> RingByID(int kruhID);
+[[nodiscard]] std::optional<Kruhy> RingByID(int kruhID);
 /// All rings in ID order.
 std::vector<Kruhy> Rings();
 /// All rings in Czech order of Nazev.

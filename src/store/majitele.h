@@ -30,7 +30,7 @@ struct OwnerName {
     QString Mesto;
 };
 
-std::optional<Majitele> OwnerByID(int majitelID);
+[[nodiscard]] std::optional<Majitele> OwnerByID(int majitelID);
 /// The same; StoreError when the owner is gone.
 Majitele ExistingOwner(int majitelID);
 /// All owners in Czech order of Jmeno.

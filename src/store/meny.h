@@ -18,7 +18,7 @@ struct Meny {
     bool Hlavni = false;
 };
 
-std::optional<Meny> CurrencyByID(int menaID);
+[[nodiscard]] std::optional<Meny> CurrencyByID(int menaID);
 /// The same; StoreError when the currency is gone.
 Meny ExistingCurrency(int menaID);
 /// All currencies in ID order.

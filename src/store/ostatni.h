@@ -13,7 +13,7 @@ struct Ostatni {
 };
 
 /// The first row; nullopt when the table is empty.
-std::optional<Ostatni> ShowWideValues();
+[[nodiscard]] std::optional<Ostatni> ShowWideValues();
 /// Adds a row without a date.
 void InsertEmptyShowWideValues();
 /// Sets the date in the first row, which is added when the table is empty.

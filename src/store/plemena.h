@@ -23,7 +23,7 @@ struct Plemena {
 
 enum class BreedFilter { All, Used };
 
-std::optional<Plemena> BreedByID(int plemenoID);
+[[nodiscard]] std::optional<Plemena> BreedByID(int plemenoID);
 /// The same; StoreError when the breed is gone.
 Plemena ExistingBreed(int plemenoID);
 /// Breeds in use that are in no ring, in Czech order of Nazev.
@@ -60,7 +60,7 @@ void DeleteBreed(int plemenoID);
 void DeleteOwnBreeds();
 void SetBreedFci(int plemenoID, int fci);
 /// Returns false, and changes nothing, when the breed is gone.
-bool SetBreedUsed(int plemenoID, bool pouzivat);
+[[nodiscard]] bool SetBreedUsed(int plemenoID, bool pouzivat);
 void MoveBreedToRing(int plemenoID, int kruhID);
 
 } // namespace lorvo

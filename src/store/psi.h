@@ -49,7 +49,7 @@ struct TreeDog {
 
 enum class DogOrder { ByID, ByName, ByNameDescending };
 
-std::optional<Psi> DogByID(int psiID);
+[[nodiscard]] std::optional<Psi> DogByID(int psiID);
 /// The same; StoreError when the dog is gone.
 Psi ExistingDog(int psiID);
 /// Dogs of an owner; names in Czech order.
@@ -61,9 +61,9 @@ std::vector<TreeDog> TreeDogsOfBreed(int plemenoID);
 /// All dogs, by PlemenoID, and within a breed as TreeDogsOfBreed has them.
 std::vector<TreeDog> TreeDogsByBreed();
 /// MajitelID of a dog; nullopt when there is no such dog.
-std::optional<int> OwnerOfDog(int psiID);
+[[nodiscard]] std::optional<int> OwnerOfDog(int psiID);
 /// Cislo of the first row of the table (Null reads as 0); nullopt when there is no dog.
-std::optional<int> NumberOfFirstRow();
+[[nodiscard]] std::optional<int> NumberOfFirstRow();
 
 /// Distinct values in Czech order, the empty one included where it occurs (Null reads as empty).
 std::vector<QString> DistinctKennels();

@@ -28,7 +28,7 @@ class Query {
     Query& operator=(const Query&) = delete;
 
     /// Moves to the first row, then to each next one; false behind the last.
-    bool Next();
+    [[nodiscard]] bool Next();
 
     /// Cells of the current row by position from 0. Null reads as the type's zero.
     bool IsNull(int column) const;

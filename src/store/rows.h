@@ -97,9 +97,9 @@ std::unordered_map<int, int> CountEach(const std::string& statement);
 std::unordered_map<int, std::vector<int>> ReadLinks(const std::string& statement);
 
 /// Null stays nullopt.
-std::optional<int> ToOptionalInt(const Value& value);
+[[nodiscard]] std::optional<int> ToOptionalInt(const Value& value);
 std::optional<Currency> ToOptionalCurrency(const Value& value);
-std::optional<DateValue> ToOptionalDate(const Value& value);
+[[nodiscard]] std::optional<DateValue> ToOptionalDate(const Value& value);
 std::optional<QString> ToOptionalText(const Value& value);
 
 /// Nullopt becomes Null.

@@ -17,7 +17,7 @@ void BindParameters(const CachedStatement& statement, const StatementTokens& tok
 void BindAll(const CachedStatement& statement, const std::vector<Value>& values);
 
 /// Moves to the next row; false behind the last one. Raises StoreError.
-bool Step(const CachedStatement& statement);
+[[nodiscard]] bool Step(const CachedStatement& statement);
 
 /// Carries out a statement that yields no rows.
 void Execute(const CachedStatement& statement);

@@ -20,7 +20,7 @@ struct Souteze {
     QString NazevPar2;
 };
 
-std::optional<Souteze> CompetitionByID(int soutezID);
+[[nodiscard]] std::optional<Souteze> CompetitionByID(int soutezID);
 /// The same; StoreError when the competition is gone.
 Souteze ExistingCompetition(int soutezID);
 /// All competitions in Czech order of Nazev.
@@ -28,7 +28,7 @@ std::vector<Souteze> CompetitionsByName();
 /// All competitions in ID order.
 std::vector<Souteze> Competitions();
 /// Whether a competition other than `exceptID` bears this name, whatever the letter case.
-bool IsCompetitionNamed(const QString& nazev, int exceptID);
+[[nodiscard]] bool IsCompetitionNamed(const QString& nazev, int exceptID);
 
 /// Stores a new competition and returns its ID; competition.ID is not looked at.
 int InsertCompetition(const Souteze& competition);

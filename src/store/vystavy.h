@@ -35,7 +35,7 @@ const std::array<std::string, kFeeColumns>& FeeColumns();
 /// The fees of one show in the order of FeeColumns; nullopt for Null.
 using FeeRow = std::array<std::optional<Currency>, kFeeColumns>;
 
-std::optional<Vystavy> ShowByID(int vystavaID);
+[[nodiscard]] std::optional<Vystavy> ShowByID(int vystavaID);
 /// All shows in ID order; the first is the main show.
 std::vector<Vystavy> Shows();
 int CountShows();
@@ -44,7 +44,7 @@ int CountShowsNamed(const QString& nazev);
 
 /// The fee in one column; nullopt when it is Null. StoreError when the column or the show is
 /// missing.
-std::optional<Currency> FindShowFee(int vystavaID, const std::string& column);
+[[nodiscard]] std::optional<Currency> FindShowFee(int vystavaID, const std::string& column);
 /// The same, but a Null fee is a StoreError too, since it can't take part in a sum.
 Currency ShowFee(int vystavaID, const std::string& column);
 /// All fees of a show. StoreError when the show is missing.

@@ -23,11 +23,11 @@ struct CopyOutcome {
 QString DamageText(const CopyOutcome& outcome);
 
 /// What to say of a database that was found damaged.
-CopyOutcome CopyAfterDamage(const CorruptStoreError& damage, const QString& programFolder,
-                            DateValue now);
+[[nodiscard]] CopyOutcome CopyAfterDamage(const CorruptStoreError& damage,
+                                          const QString& programFolder, DateValue now);
 
 /// MakeCopy, with its failure as an outcome instead of an exception.
-CopyOutcome TryCopy(const QString& programFolder, DateValue now);
+[[nodiscard]] CopyOutcome TryCopy(const QString& programFolder, DateValue now);
 
 /// Makes one copy at a time on a thread of its own.
 class BackgroundCopy : public QObject {

@@ -12,7 +12,7 @@ namespace lorvo {
 /// "data 2027-05-14 08.31.05.mdb"
 QString CopyName(DateValue moment);
 /// The moment of a copy's name; nullopt for any other name.
-std::optional<DateValue> MomentOfCopy(const QString& name);
+[[nodiscard]] std::optional<DateValue> MomentOfCopy(const QString& name);
 
 struct AgedCopy {
     DateValue moment;

@@ -32,7 +32,7 @@ struct ShowCopy {
 /// The newest first. With `checked` each is checked whole, else only its figures are read.
 std::vector<ShowCopy> ListCopies(const QString& programFolder, bool checked);
 /// The newest one whose check finds nothing.
-std::optional<ShowCopy> NewestGoodCopy(const QString& programFolder);
+[[nodiscard]] std::optional<ShowCopy> NewestGoodCopy(const QString& programFolder);
 
 /// What came, went and changed from one database file to another, in sentences.
 QStringList CompareDatabases(const QString& earlier, const QString& later);

@@ -27,7 +27,8 @@ struct EntryReading {
 /// "„text“", as reasons cite a cell.
 QString InQuotes(const QString& text);
 /// A day in the spellings that the program's own boxes take, or as a spreadsheet counts days.
-std::optional<DateValue> DayFromCell(const QString& text, DateValue today, YearWindow window);
+[[nodiscard]] std::optional<DateValue> DayFromCell(const QString& text, DateValue today,
+                                                   YearWindow window);
 
 /// Name, breed, sex, birth and class, by the rules of the dog editor.
 void ReadDogCells(EntryReading& reading, const EntryTables& tables);

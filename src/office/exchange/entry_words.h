@@ -9,13 +9,13 @@
 namespace lorvo {
 
 /// "pes" and "fena" in the spellings of web forms; true for a male, nullopt for anything else.
-std::optional<bool> SexFromText(const QString& text);
+[[nodiscard]] std::optional<bool> SexFromText(const QString& text);
 /// "ano" and "ne" likewise.
-std::optional<bool> YesFromText(const QString& text);
+[[nodiscard]] std::optional<bool> YesFromText(const QString& text);
 /// "I", "1", "první" (also with "uzávěrka") are the first closing; nullopt for anything else.
-std::optional<bool> FirstClosingFromText(const QString& text);
+[[nodiscard]] std::optional<bool> FirstClosingFromText(const QString& text);
 /// The class code (from 1) by its number, its name or the beginning of its name that only one class
 /// has.
-std::optional<int> ClassFromText(const QString& text, ClassList list);
+[[nodiscard]] std::optional<int> ClassFromText(const QString& text, ClassList list);
 
 } // namespace lorvo

@@ -9,7 +9,7 @@
 namespace lorvo {
 
 /// Whether this build reads .xlsx and .ods, and writes .xlsx.
-bool CanReadSheets();
+[[nodiscard]] bool CanReadSheets();
 bool CanWriteSheets();
 
 /// Whether the name ends as a spreadsheet's does.

@@ -58,7 +58,7 @@ struct Account {
     BalanceRule rule = BalanceRule::AllShows;
 
     /// Fee of the show entered last; nullopt for a dog in no show.
-    std::optional<Currency> LastFee() const;
+    [[nodiscard]] std::optional<Currency> LastFee() const;
     Currency CompetitionFees() const;
     /// Show fees by the rule, and all competitions.
     Currency Owed() const;

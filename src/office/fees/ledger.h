@@ -31,7 +31,7 @@ class ShowLedger {
     const std::vector<int>& CompetitionsOf(int psiID) const;
     Currency PaidFor(int psiID) const;
     Currency Fee(int vystavaID, bool firstClosing, int classColumn, bool firstDog) const;
-    std::optional<Currency> PriceOf(int soutezID) const;
+    [[nodiscard]] std::optional<Currency> PriceOf(int soutezID) const;
 
     /// StoreError when the show is missing.
     const QString& ShowName(int vystavaID) const { return fees_.ShowName(vystavaID); }
@@ -55,7 +55,7 @@ Account AccountOf(const Psi& dog, AccountRules rules, const std::vector<Souteze>
 
 /// What a dog would pay in a show; nullopt when the show's table doesn't have it filled.
 /// StoreError when the fee's column or the show is missing.
-std::optional<Currency> FeeOf(const Psi& dog, int vystavaID, FeeClassRule rule);
+[[nodiscard]] std::optional<Currency> FeeOf(const Psi& dog, int vystavaID, FeeClassRule rule);
 
 /// What was paid for the dogs that an owner has.
 Currency PaidForDogsOf(int majitelID);

@@ -8,7 +8,7 @@ class RunProgress {
     virtual ~RunProgress() = default;
     /// Shows how far the run is and lets the window live. False when the clerk has asked to stop.
     /// `row` counts from 1.
-    virtual bool Advance(int row, int rows) = 0;
+    [[nodiscard]] virtual bool Advance(int row, int rows) = 0;
 };
 
 /// Takes row after row, each after the progress has come to it, until the clerk asks to stop.

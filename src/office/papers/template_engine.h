@@ -22,7 +22,7 @@ class ReportTemplate {
     static ReportTemplate Read(const QString& path, TemplateKind kind);
     ReportTemplate(QByteArray bytes, TemplateKind kind);
 
-    Fault Check() const;
+    [[nodiscard]] Fault Check() const;
 
     // Text strictly between the opening and the closing marker. A closing marker before its opening
     // one raises PlatformError.
@@ -44,7 +44,7 @@ QByteArray TemplateSection(const QByteArray& text, const char* opening, const ch
 /// The order test over marker positions counted from 1. It compares from left to right, each truth
 /// value (-1 or 0) standing in for the comparison's left side in the next one, and therefore lets
 /// every order of found markers pass.
-bool MarkerOrderPasses(std::span<const qsizetype> positions);
+[[nodiscard]] bool MarkerOrderPasses(std::span<const qsizetype> positions);
 
 /// A section that is copied for each row, with its placeholders replaced one after the other: a
 /// value that spells a later placeholder is itself replaced.

@@ -25,10 +25,10 @@ struct NodeKey {
     static constexpr NodeKey Dog(int id) { return {NodeKind::Dog, id, 0}; }
 
     /// Nullopt for a text that is not letter for letter the text of a key ("R05", "P", "TR5").
-    static std::optional<NodeKey> FromText(const QString& text);
+    [[nodiscard]] static std::optional<NodeKey> FromText(const QString& text);
     QString ToText() const;
     /// The number of the record behind a node of that kind; nullopt when `text` is no key of one.
-    static std::optional<int> IdIn(const QString& text, NodeKind kind);
+    [[nodiscard]] static std::optional<int> IdIn(const QString& text, NodeKind kind);
 
     constexpr bool operator==(const NodeKey&) const = default;
 };

@@ -54,7 +54,7 @@ class Styles {
     int ParagraphStyle(const ParagraphFormat& format, const RunFormat& mark);
     /// The character style of a run in a paragraph of that style; nothing when the run looks as the
     /// paragraph's style makes it look anyway.
-    std::optional<int> CharacterStyle(const RunFormat& run, int paragraphStyle);
+    [[nodiscard]] std::optional<int> CharacterStyle(const RunFormat& run, int paragraphStyle);
 
     /// Names of the styles in the document; the paragraph style 0 is the default one.
     static std::string ParagraphStyleId(int style);

@@ -20,11 +20,11 @@ enum class YearWindow {
 /// A date whose year is written in full: "5.6.2024", "05. 06. 2024", "5/6/2024", "05062024", and
 /// whatever the order "2024-06-05". Nullopt for any other text and for a day that the calendar
 /// lacks.
-std::optional<DateValue> WholeDateFromText(std::string_view text, DateOrder order);
+[[nodiscard]] std::optional<DateValue> WholeDateFromText(std::string_view text, DateOrder order);
 
 /// A whole date, or a shorter spelling: the year in two digits ("5.6.24", "050624"), or left out,
 /// which means that of `today` ("5.6."). Nullopt for any other text.
-std::optional<DateValue> DateFromText(std::string_view text, DateOrder order, DateValue today,
-                                      YearWindow window);
+[[nodiscard]] std::optional<DateValue> DateFromText(std::string_view text, DateOrder order,
+                                                    DateValue today, YearWindow window);
 
 } // namespace lorvo

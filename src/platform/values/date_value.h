@@ -24,7 +24,7 @@ class DateValue {
     }
     /// Reads "YYYY-MM-DD", optionally followed by 'T' or a blank and "HH:MM[:SS[.fff]]".
     /// Nullopt when the text is none of these.
-    static std::optional<DateValue> FromIso(std::string_view text);
+    [[nodiscard]] static std::optional<DateValue> FromIso(std::string_view text);
 
     /// "YYYY-MM-DDTHH:MM:SS", as the store keeps it.
     std::string ToIso() const;

@@ -12,6 +12,6 @@ namespace lorvo {
 /// ones may stand in groups of three, parted by one blank or by `group` (0 for none; a comma or a
 /// point with exactly three digits behind it is then the group's). Blanks around don't count.
 /// Nullopt for a text that is no number or may mean more than one: "1.234,50", "1,2,3", "12 34".
-std::optional<std::string> NumberFromText(std::string_view text, char group);
+[[nodiscard]] std::optional<std::string> NumberFromText(std::string_view text, char group);
 
 } // namespace lorvo
