@@ -22,11 +22,12 @@ namespace {
 int RunScript(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     lorvo::InstallRealPlatform();
-    lorvo::ThePlatform().messages = std::make_unique<lorvo::ConsoleMessages>();
-    lorvo::ThePlatform().ui = std::make_unique<lorvo::ConsoleInterface>();
+    lorvo::Platform& platform = lorvo::ThePlatform();
+    platform.messages = std::make_unique<lorvo::ConsoleMessages>();
+    platform.ui = std::make_unique<lorvo::ConsoleInterface>();
     QString text;
     QTextStream out(&text);
-    const int code = lorvo::RunScriptCommand(QCoreApplication::arguments().mid(1), out);
+    const int code = lorvo::RunScriptCommand(platform, QCoreApplication::arguments().mid(1), out);
     lorvo::WriteToConsole(text.toStdString());
     return code;
 }
@@ -38,7 +39,7 @@ int RunWindow(int argc, char** argv) {
     lorvo::CloseOnTermination();
     lorvo::Application::setWindowIcon(lorvo::ProgramIcon(u"lorvo"_s));
     return application.Run([] {
-        lorvo::frmSpravce window;
+        lorvo::frmSpravce window(lorvo::ThePlatform());
         lorvo::OpenModal(window);
         QCoreApplication::quit();
     });

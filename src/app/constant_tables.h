@@ -7,6 +7,9 @@
 
 namespace lorvo {
 
+/// The breed with a class list of its own: the German shepherd.
+inline constexpr int kSpecialBreedID = 949;
+
 /// Slots of each table; the unused ones are empty.
 inline constexpr int kTableSlots = 20;
 

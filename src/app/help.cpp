@@ -10,32 +10,34 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString HelpFile() {
-    return ThePlatform().programFolder + u"/Lorvo.chm"_s;
+QString HelpPage(const QString& name, const Platform& platform) {
+    return platform.programFolder + u"/Nápověda/"_s + name + u".html"_s;
 }
 
-QString HelpPage(const QString& name) {
-    return ThePlatform().programFolder + u"/Nápověda/"_s + name + u".html"_s;
+QString FirstPage(const Platform& platform) {
+    return HelpPage(u"index"_s, platform);
 }
 
-QString FirstPage() {
-    return HelpPage(u"index"_s);
+// Where the pages can't be opened either, the desktop has said so itself.
+void OpenFirst(const Platform& platform) {
+    const QString first = FirstPage(platform);
+    if (!platform.opener->OpenFile(platform.programFolder + u"/Lorvo.chm"_s) &&
+        QFile::exists(first))
+        static_cast<void>(platform.opener->OpenFile(first));
 }
 
 } // namespace
 
-// Where the pages can't be opened either, the desktop has said so itself.
 void OpenHelp() {
-    OpenService& opener = *ThePlatform().opener;
-    if (!opener.OpenFile(HelpFile()) && QFile::exists(FirstPage()))
-        static_cast<void>(opener.OpenFile(FirstPage()));
+    OpenFirst(ThePlatform());
 }
 
 void OpenHelpOn(const QString& window) {
-    for (const QString& page : {HelpPage(window), FirstPage()})
+    const Platform& platform = ThePlatform();
+    for (const QString& page : {HelpPage(window, platform), FirstPage(platform)})
         if (QFile::exists(page))
-            return static_cast<void>(ThePlatform().opener->OpenFile(page));
-    OpenHelp();
+            return static_cast<void>(platform.opener->OpenFile(page));
+    OpenFirst(platform);
 }
 
 } // namespace lorvo

@@ -6,6 +6,7 @@
 namespace lorvo {
 
 class TreeNodes;
+struct ViewPreferences;
 
 class MainWindowServices {
   public:
@@ -15,9 +16,6 @@ class MainWindowServices {
     virtual QString SelectedNode() const = 0;
     virtual bool NodeExists(const QString& key) const = 0;
     virtual QString NodeText(const QString& key) const = 0;
-    /// The node's tag; empty for none.
-    virtual QString NodeTag(const QString& key) const = 0;
-    virtual QString ParentNode(const QString& key) const = 0;
 
     /// Selects the node and makes it visible. Raises Error when there is no such node.
     virtual void SelectNode(const QString& key) = 0;
@@ -35,6 +33,8 @@ class MainWindowServices {
     /// The title above the panels.
     virtual void SetItemTitle(const QString& text) = 0;
     virtual QString Caption() const = 0;
+    /// How the tree is to look; a change shows when it is built anew.
+    virtual ViewPreferences& Look() = 0;
     /// The nodes of the tree as they stand, for the numbering's walk. A stand-in without a tree
     /// raises Error.
     virtual TreeNodes& Nodes();

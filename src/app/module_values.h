@@ -9,14 +9,10 @@
 
 namespace lorvo {
 
-/// The breed with a class list of its own: the German shepherd.
-inline constexpr int kSpecialBreedID = 949;
-
 struct ModuleValues {
     // Flags back to the main window, which reads and clears them when it comes to the front again.
-    bool BreedsDirty = false;     ///< fm_Plemena, fm_classes: the tree's breeds have changed
-    bool TreeDirty = false;       ///< fm_Settings, frmCisteniDB: the tree has changed its shape
-    bool ListJumpedToDog = false; ///< fm_DogsList: a dog of the list was jumped to
+    bool BreedsDirty = false; ///< fm_Plemena, fm_classes: the tree's breeds have changed
+    bool TreeDirty = false;   ///< fm_Settings, frmCisteniDB: the tree has changed its shape
 
     int PaymentsOwner = 0; ///< links and lists of owners: owner of a statement, 0 for one dog's
 
@@ -24,22 +20,9 @@ struct ModuleValues {
     // another dog or owner.
     int CurrentDogID = 0;
     int CurrentOwner = 0;
-    int SavedOwnerID = 0;      ///< saving of a dog: the owner that it was stored with
-    bool IsAddingDog = false;  ///< tree commands: fm_Dog adds a dog instead of editing one
-    int CurrentBreedID = 0;    ///< tree commands: the breed of the dog in fm_Dog
-    bool SpecialBreed = false; ///< panels, loader, fm_Dog: the breed at hand is kSpecialBreedID
-
-    // Options: start-up and fm_Settings; the tree's menu for the detail.
-    bool ShowClassesOn = false;
-    bool RememberTreeOn = false;
-    bool DogDetailInTree = false;
-    bool LabelEditAllowed = false; ///< tree commands: the next edit in place may begin
 
     QString MainCurrency;      ///< start-up, currencies: abbreviation behind every amount
     DateValue LastPaymentDate; ///< frmPlatba: what the next payment offers
-
-    QString FindText;  ///< frmFind
-    int FindStart = 1; ///< search, Home: position in the tree, from 1, where the next search begins
 
     TextTable ClassNames = Tables().ClassNames; ///< fm_classes renames them for the run
 };

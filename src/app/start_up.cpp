@@ -53,8 +53,8 @@ void OpenDatabase() {
     TheDataModule().Conn1.Open(ThePlatform().programFolder + u"/data.mdb"_s);
 }
 
-void ReadShowClasses() {
-    Module().ShowClassesOn = ReadRegValue(kSys, u"ShowClasses"_s) == u"1";
+bool ShowClassesPreferred() {
+    return ReadRegValue(kSys, u"ShowClasses"_s) == u"1";
 }
 
 bool ShowGridPreferred() {
@@ -70,6 +70,7 @@ void ReadMainCurrency() {
     NameMainCurrency();
 }
 
+// kept: first-mark-wins
 void EnsureMainCurrency() {
     if (RowsIfReadable(MainCurrencies).empty())
         MarkSomeCurrency();
@@ -80,19 +81,17 @@ void EnsureMainCurrency() {
 }
 
 QString RememberedNode() {
-    const QString key = ReadRegValue(kSys, kRememberTree);
-    Module().RememberTreeOn = !key.isEmpty();
-    return key;
+    return ReadRegValue(kSys, kRememberTree);
 }
 
-void StoreTreeState(const QString& selected, const QStringList& expanded) {
-    if (!Module().RememberTreeOn) {
-        WriteRegValue(kSys, kRememberTree, QString());
-        return;
-    }
+void RememberTree(const QString& selected, const QStringList& expanded) {
     if (!selected.isEmpty())
         WriteRegValue(kSys, kRememberTree, selected);
     WriteRegValue(kSys, u"ExpandedItems"_s, expanded.join(u'|'));
+}
+
+void ForgetTree() {
+    WriteRegValue(kSys, kRememberTree, QString());
 }
 
 } // namespace lorvo

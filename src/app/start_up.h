@@ -11,8 +11,8 @@ namespace lorvo {
 /// the reason.
 void OpenDatabase();
 
-/// Reads the preference `ShowClasses` into the module value `ShowClassesOn`.
-void ReadShowClasses();
+/// Whether the tree has a level of classes.
+bool ShowClassesPreferred();
 /// Whether lists show grid lines.
 bool ShowGridPreferred();
 
@@ -28,11 +28,13 @@ void ReadMainCurrency();
 /// rows that bear the winner's abbreviation keep their mark. Failing statements are skipped.
 void EnsureMainCurrency();
 
-/// Reads the node that was selected when the program last ended and sets the module value
-/// `RememberTreeOn`. Empty while remembering is off.
+/// The node that was selected when the program last ended. Empty while remembering is off.
 QString RememberedNode();
-/// Stores what is to be found at the next start, as far as remembering is on. `selected` is empty
-/// when no node is selected, `expanded` holds the keys of the expanded nodes in tree order.
-void StoreTreeState(const QString& selected, const QStringList& expanded);
+/// Stores what is to be found at the next start. `selected` is empty when no node is selected,
+/// which leaves the one stored before; `expanded` holds the keys of the expanded nodes in tree
+/// order.
+void RememberTree(const QString& selected, const QStringList& expanded);
+/// Switches remembering off for the next start.
+void ForgetTree();
 
 } // namespace lorvo

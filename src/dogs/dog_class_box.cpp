@@ -1,9 +1,8 @@
 #include "dogs/dog_class_box.h"
 
-#include "app/module_values.h"
 #include "forms/controls.h"
 #include "forms/literal_caption.h"
-#include "office/dogs/class_eligibility.h"
+#include "office/texts/dog_texts.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "store/connection.h"
@@ -23,6 +22,7 @@ namespace {
 constexpr int kColumns = 2;
 constexpr int kCaptionLines = 3; ///< at the narrowest
 
+// kept: show-date-row-by-looking
 /// The day of the show; the date value 0 as long as it isn't set. Gives the table its row.
 DateValue ShowDate() {
     DateValue date;
@@ -38,8 +38,8 @@ DateValue ShowDate() {
 
 } // namespace
 
-DogClassBox::DogClassBox(QWidget* parent)
-    : QGroupBox(u"Třída"_s, parent), Label8(Named(new QLabel(this), u"Label8"_s)),
+DogClassBox::DogClassBox(ClassList list, QWidget* parent)
+    : QGroupBox(u"Třída"_s, parent), list_(list), Label8(Named(new QLabel(this), u"Label8"_s)),
       choice_(new QButtonGroup(this)) {
     setObjectName(u"fraClasses"_s);
     Label8->setToolTip(
@@ -62,8 +62,7 @@ DogClassBox::DogClassBox(QWidget* parent)
 void DogClassBox::NameClasses() {
     // Room for the caption at any date, so that nothing moves when its length changes.
     Label8->setMinimumHeight(kCaptionLines * Label8->fontMetrics().lineSpacing());
-    const ModuleValues& module = Module();
-    const TextTable& names = module.SpecialBreed ? Tables().SpecialClassNames : module.ClassNames;
+    const TextTable& names = ClassNamesOf(list_);
     for (size_t i = 0; i < optClasses.size(); ++i) {
         optClasses[i]->setText(LiteralCaption(names[i]));
         optClasses[i]->setHidden(names[i].isEmpty());
@@ -88,12 +87,11 @@ void DogClassBox::Drop(QRadioButton* button) {
 }
 
 void DogClassBox::UpdateClassButtons(DateValue born) {
-    const ModuleValues& module = Module();
-    const NumberTable& from = module.SpecialBreed ? Tables().SpecialClassFrom : Tables().ClassFrom;
-    const NumberTable& to = module.SpecialBreed ? Tables().SpecialClassTo : Tables().ClassTo;
+    const bool special = list_ == ClassList::Special;
+    const NumberTable& from = special ? Tables().SpecialClassFrom : Tables().ClassFrom;
+    const NumberTable& to = special ? Tables().SpecialClassTo : Tables().ClassTo;
     const DateValue show = ShowDate();
-    const int age =
-        AgeInMonths(born, show, module.SpecialBreed ? ClassList::Special : ClassList::Standard);
+    const int age = AgeInMonths(born, show, list_);
     const std::vector<int> open = OpenClasses(age, from, to);
     for (size_t i = 0; i < optClasses.size(); ++i) {
         QRadioButton* button = optClasses[i];

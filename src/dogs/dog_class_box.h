@@ -1,7 +1,7 @@
 #pragma once
 // The classes of the dog editor, of which the dog's age leaves some to choose from.
 
-#include "platform/values/date_value.h"
+#include "office/dogs/class_eligibility.h"
 
 #include <QGroupBox>
 #include <array>
@@ -15,9 +15,9 @@ namespace lorvo {
 class DogClassBox : public QGroupBox {
     Q_OBJECT
   public:
-    explicit DogClassBox(QWidget* parent);
+    DogClassBox(ClassList list, QWidget* parent);
 
-    /// Names the buttons by the class list in force (Module().SpecialBreed) and hides the rest.
+    /// Names the buttons by the class list and hides the rest.
     void NameClasses();
     /// Chooses the class of that code; a code without a button chooses none.
     void Choose(int trida);
@@ -36,6 +36,7 @@ class DogClassBox : public QGroupBox {
   private:
     void Drop(QRadioButton* button);
 
+    ClassList list_;
     QLabel* Label8;
     std::array<QRadioButton*, 10> optClasses;
     QButtonGroup* choice_;

@@ -29,8 +29,8 @@ void AddRecords(std::vector<ReportRow>& rows, QChar letter, const Records& recor
 
 std::vector<ReportRow> ClassChoices() {
     std::vector<ReportRow> rows;
-    AddClasses(rows, u"CNO"_s, Tables().SpecialClassNames);
-    AddClasses(rows, u"C"_s, Module().ClassNames);
+    AddClasses(rows, u"CNO"_s, ClassNamesOf(ClassList::Special));
+    AddClasses(rows, u"C"_s, ClassNamesOf(ClassList::Standard));
     return rows;
 }
 

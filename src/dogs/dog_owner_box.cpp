@@ -102,6 +102,7 @@ void DogOwnerBox::ShowOwnerOfDog(int majitelID) {
     FillBoxes();
 }
 
+// kept: surname-of-the-first-owner
 void DogOwnerBox::FillBoxes() {
     const auto owner = OwnerByID(SelectedOwnerID());
     if (!owner)

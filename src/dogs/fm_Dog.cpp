@@ -6,11 +6,11 @@
 #include "dogs/dog_owner_box.h"
 #include "dogs/stored_texts_combo.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "office/dogs/dog_saving.h"
 #include "office/texts/post_code.h"
 #include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 
 #include <QComboBox>
 #include <QRadioButton>
@@ -29,18 +29,17 @@ int SelectedDog() {
 } // namespace
 
 void fm_Dog::Load() {
-    Module().SpecialBreed = Module().CurrentBreedID == kSpecialBreedID;
     classes_->NameClasses();
     SetStoredTexts(*icStanice, DistinctKennels());
     SetStoredTexts(*icOtec, DistinctFathers());
     SetStoredTexts(*icMatka, DistinctMothers());
     owner_->LoadMajitele();
-    if (!Module().IsAddingDog) {
+    if (!task_.adding) {
         setWindowTitle(u"Upravit psa"_s);
-        Module().CurrentDogID = SelectedDog();
-        if (Module().CurrentDogID == 0)
+        const int selected = Module().CurrentDogID = SelectedDog();
+        if (selected == 0)
             return;
-        const Psi dog = ExistingDog(Module().CurrentDogID);
+        const Psi dog = ExistingDog(selected);
         ShowDog(dog);
         owner_->ShowOwnerOfDog(dog.MajitelID);
     }
@@ -77,7 +76,7 @@ void fm_Dog::UpdateOKButton() {
 }
 
 bool fm_Dog::Refuse(const QString& reason) const {
-    ThePlatform().messages->Show(reason, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+    lorvo::Refuse(*this, reason);
     return false;
 }
 
@@ -99,7 +98,7 @@ bool fm_Dog::CheckOwner() {
 Psi fm_Dog::DogFromBoxes() const {
     Psi dog;
     dog.ID = SelectedDog();
-    dog.PlemenoID = Module().CurrentBreedID;
+    dog.PlemenoID = task_.breedID;
     dog.Jmeno = txtbox[0]->text();
     dog.BarvaID = colour_;
     dog.PohlaviPes = optGender[0]->isChecked();
@@ -119,7 +118,7 @@ Psi fm_Dog::DogFromBoxes() const {
 void fm_Dog::OK() {
     if (!CheckPostCode() || !CheckOwner())
         return;
-    SaveDog({Module().IsAddingDog, DogFromBoxes(), owner_->Boxes(), owner_->IsNewOwner()});
+    SaveDog({task_.adding, DogFromBoxes(), owner_->Boxes(), owner_->IsNewOwner()});
     accept();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The window in which a dog is added or edited, together with its owner.
 
+#include "dogs/dog_task.h"
 #include "forms/form.h"
 #include "store/psi.h"
 
@@ -17,12 +18,11 @@ namespace lorvo {
 class DogClassBox;
 class DogOwnerBox;
 
-/// Takes from the module values whether a dog is added (IsAddingDog) and to which breed
-/// (CurrentBreedID); an edited dog is the tree's selected node. After OK the dog is selected there.
+/// An edited dog is the tree's selected node. After OK the dog is selected there.
 class fm_Dog : public Form {
     Q_OBJECT
   public:
-    explicit fm_Dog(QWidget* parent);
+    fm_Dog(const DogTask& task, QWidget* parent);
 
   protected:
     void Load() override;
@@ -53,6 +53,7 @@ class fm_Dog : public Form {
     QPushButton* cmd_OK = nullptr;
     QPushButton* cmdCancel = nullptr;
 
+    const DogTask task_;
     // What isn't shown here and an edit keeps.
     bool firstClosing_ = true;
     int colour_ = 0;

@@ -5,6 +5,7 @@
 #include "dogs/fm_Dog.h"
 #include "dogs/stored_texts_combo.h"
 #include "forms/controls.h"
+#include "office/texts/dog_texts.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 
@@ -35,7 +36,8 @@ QLineEdit* TextBox(int index, QWidget* parent) {
 
 } // namespace
 
-fm_Dog::fm_Dog(QWidget* parent) : Form("fm_Dog", u"Přidat psa"_s, Border::Sizable, parent) {
+fm_Dog::fm_Dog(const DogTask& task, QWidget* parent)
+    : Form("fm_Dog", u"Přidat psa"_s, Border::Sizable, parent), task_(task) {
     auto* sides = new QHBoxLayout;
     sides->setSpacing(kGapBetweenSides);
     sides->addWidget(MakeDogSide(), 1);
@@ -75,7 +77,7 @@ QWidget* fm_Dog::MakeDogSide() {
     grid->addWidget(MakeGenderRow(side), grid->rowCount() - 1, 1);
     dtBorn = AddRow(*grid, u"&Datum narození"_s, DatePicker(u"dtBorn"_s, side, YearWindow::Past));
     SetPickedDate(*dtBorn, ThePlatform().clock->Now().DateOnly());
-    classes_ = new DogClassBox(side);
+    classes_ = new DogClassBox(ClassListOf(task_.breedID), side);
     grid->addWidget(classes_, grid->rowCount(), 0, 1, 2);
     icOtec = AddRow(*grid, u"&Otec"_s, StoredTextsCombo(u"icOtec"_s, side));
     icMatka = AddRow(*grid, u"&Matka"_s, StoredTextsCombo(u"icMatka"_s, side));

@@ -98,8 +98,7 @@ void fm_DogsList::LayOut() {
 }
 
 void fm_DogsList::Load() {
-    const WaitCursor wait(*ThePlatform().ui);
-    Module().ListJumpedToDog = false;
+    const WaitCursor wait = Waiting();
     FillList();
     sbDogs->SetPanel(1, DogCountsLine(CountMales(), CountFemales()));
 }
@@ -126,7 +125,7 @@ void fm_DogsList::JumpToDog(int position) {
     // A breed that is not in use has its dogs here and no place in the tree.
     if (!TheMainWindow().NodeExists(node))
         return;
-    Module().ListJumpedToDog = true;
+    jumpedToDog_ = true;
     TheMainWindow().SelectNode(node);
     accept();
 }

@@ -15,6 +15,9 @@ class fm_DogsList : public Form {
   public:
     explicit fm_DogsList(QWidget* parent);
 
+    /// Whether the clerk has jumped to a dog, which is selected in the tree then.
+    bool JumpedToDog() const { return jumpedToDog_; }
+
   protected:
     /// StoreError when what a dog owes can't be read.
     void Load() override;
@@ -29,6 +32,7 @@ class fm_DogsList : public Form {
     CommandCollection* commands_;
     ReportList* lvwList;
     TotalsBar* sbDogs;
+    bool jumpedToDog_ = false;
 };
 
 } // namespace lorvo

@@ -51,6 +51,7 @@ QGroupBox* Frame(const char* name, const QString& caption, QWidget* parent) {
 
 } // namespace
 
+// kept: filter-without-effect
 frmDogListFilter::frmDogListFilter(QWidget* parent)
     : Form("frmDogListFilter", u"Filtr"_s, Border::Sizable, parent),
       tabFilter(Named(new QTabWidget(this), u"tabFilter"_s)) {

@@ -1,6 +1,6 @@
 #pragma once
-// The filter of the dog list: what a subset of the dogs would be picked by. Offices know it as a
-// panel to try things on; no choice made in it narrows the list.
+// The filter of the dog list: what a subset of the dogs would be picked by. No choice made in it
+// narrows the list.
 
 #include "forms/form.h"
 

@@ -3,9 +3,9 @@
 #include "app/common_routines.h"
 #include "app/module_values.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "office/texts/post_code.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "store/majitele.h"
 
 #include <QVBoxLayout>
@@ -43,7 +43,8 @@ frmEditMan::frmEditMan(QWidget* parent) : Form("frmEditMan", u"Majitel"_s, Borde
 }
 
 void frmEditMan::Load() {
-    const Majitele owner = ExistingOwner(Module().CurrentOwner);
+    ownerID_ = Module().CurrentOwner;
+    const Majitele owner = ExistingOwner(ownerID_);
     txtItem[kName]->setText(owner.Jmeno);
     txtItem[kStreet]->setText(owner.Ulice);
     txtItem[kTown]->setText(owner.Mesto);
@@ -55,15 +56,12 @@ void frmEditMan::Load() {
 
 void frmEditMan::Store() {
     const auto postCode = PostCodeFromText(txtItem[kPostCode]->text());
-    if (!postCode) {
-        ThePlatform().messages->Show(u"Chyba v zadání PSČ"_s, MessageIcon::Stop, MessageButtons::Ok,
-                                     windowTitle());
-        return;
-    }
+    if (!postCode)
+        return Refuse(*this, u"Chyba v zadání PSČ"_s);
     if (txtItem[kEmail]->text() == kNoEmail)
         txtItem[kEmail]->clear();
     Majitele owner;
-    owner.ID = Module().CurrentOwner;
+    owner.ID = ownerID_;
     owner.Jmeno = txtItem[kName]->text().trimmed();
     owner.Ulice = txtItem[kStreet]->text().trimmed();
     owner.Mesto = txtItem[kTown]->text().trimmed();

@@ -23,6 +23,7 @@ class frmEditMan : public Form {
 
     static constexpr int kBoxes = 7;
     std::array<QLineEdit*, kBoxes> txtItem{};
+    int ownerID_ = 0;
 };
 
 } // namespace lorvo

@@ -119,6 +119,7 @@ void frmPsiVSoutezi::PassCheck(QStandardItem& changed) {
     tvwDogs->viewport()->update();
 }
 
+// kept: ok-empties-the-competition
 void frmPsiVSoutezi::Store() {
     std::vector<int> entered;
     for (int row = 0; row < dogs_->rowCount(); ++row) {

@@ -7,6 +7,7 @@
 #include "dogs/frmEditMan.h"
 #include "dogs/totals_bar.h"
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "office/fees/owner_accounts.h"
 #include "office/texts/colours.h"
@@ -126,7 +127,7 @@ void frmVystavovatele::ConnectList() {
 
 void frmVystavovatele::Load() {
     {
-        const WaitCursor wait(*ThePlatform().ui);
+        const WaitCursor wait = Waiting();
         lvwList->hide();
         FillList();
     }
@@ -157,10 +158,10 @@ void frmVystavovatele::FillList() {
 }
 
 void frmVystavovatele::EditOwner(int position) {
-    Module().CurrentOwner = lvwList->Row(position).tag.toInt();
+    const int ownerID = Module().CurrentOwner = lvwList->Row(position).tag.toInt();
     frmEditMan editor(this);
     OpenModal(editor);
-    const Majitele owner = ExistingOwner(Module().CurrentOwner);
+    const Majitele owner = ExistingOwner(ownerID);
     lvwList->SetCell(position, kName, owner.Jmeno);
     lvwList->SetCell(position, kStreet, owner.Ulice);
     lvwList->SetCell(position, kTown, owner.Mesto);
@@ -171,20 +172,19 @@ void frmVystavovatele::EditOwner(int position) {
 }
 
 // Whether an owner may go hangs on the text "0" in the cell of the e-mail address.
+// kept: owner-deleted-by-email-zero
 void frmVystavovatele::DeleteSelected() {
     const int selected = lvwList->SelectedRow();
     if (selected < 0)
         return;
-    MessageBoxes& messages = *ThePlatform().messages;
     const QString email = lvwList->CellText(selected, kEmail);
-    if (email != u"0") {
-        messages.Show(u"Tuto osobu není možno smazat, protože má přihlášené psy ("_s + email + u')',
-                      MessageIcon::Stop, MessageButtons::Ok, windowTitle());
-    } else if (messages.Show(u"Skutečně smazat?"_s, MessageIcon::Question,
-                             MessageButtons::YesNoCancel, windowTitle()) == MessageAnswer::Yes) {
-        DeleteOwner(lvwList->Row(selected).tag.toInt());
-        lvwList->RemoveRow(QString(lvwList->Row(selected).key));
-    }
+    if (email != u"0")
+        return Refuse(*this, u"Tuto osobu není možno smazat, protože má přihlášené psy ("_s +
+                                 email + u')');
+    if (Ask(*this, u"Skutečně smazat?"_s, MessageButtons::YesNoCancel) != MessageAnswer::Yes)
+        return;
+    DeleteOwner(lvwList->Row(selected).tag.toInt());
+    lvwList->RemoveRow(QString(lvwList->Row(selected).key));
 }
 
 void frmVystavovatele::ShowMenu(int position) {
@@ -202,6 +202,7 @@ void frmVystavovatele::ShowMenu(int position) {
 
 // Fills each figure one column to the left of its own: the payments stand under the fees, and what
 // they exceed the number of dogs by under the payments, until the list is opened again.
+// kept: figures-one-column-left
 void frmVystavovatele::ShowPayments(int position) {
     const int ownerID = lvwList->Row(position).tag.toInt();
     Module().PaymentsOwner = ownerID;

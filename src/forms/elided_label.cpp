@@ -1,5 +1,6 @@
 #include "forms/elided_label.h"
 
+#include <QStyleOption>
 #include <QStylePainter>
 #include <algorithm>
 
@@ -19,6 +20,15 @@ QRect PlaceOfText(const QLabel& label) {
 
 QString PlainToolTip(const QString& text) {
     return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+void PaintFocusFrame(QWidget& widget) {
+    if (!widget.hasFocus())
+        return;
+    QStylePainter painter(&widget);
+    QStyleOptionFocusRect option;
+    option.initFrom(&widget);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }
 
 QSize Ellipsis::LeastSize(const QLabel& label, QSize uncut) {
@@ -46,20 +56,12 @@ bool Ellipsis::Paint(QLabel& label) {
                          label.palette(), label.isEnabled(),
                          metrics.elidedText(label.text(), Qt::ElideRight, place.width()),
                          label.foregroundRole());
+    PaintFocusFrame(label);
     return true;
 }
 
-ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
+ElidedLabel::ElidedLabel(QWidget* parent) : Elided(parent) {
     setTextFormat(Qt::PlainText);
-}
-
-QSize ElidedLabel::minimumSizeHint() const {
-    return Ellipsis::LeastSize(*this, QLabel::minimumSizeHint());
-}
-
-void ElidedLabel::paintEvent(QPaintEvent* event) {
-    if (!ellipsis_.Paint(*this))
-        QLabel::paintEvent(event);
 }
 
 } // namespace lorvo

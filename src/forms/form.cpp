@@ -8,6 +8,7 @@
 #include "forms/report_list.h"
 #include "forms/scrolled_content.h"
 #include "platform/failure_guard.h"
+#include "platform/platform.h"
 
 #include <QKeyEvent>
 #include <QLayout>
@@ -123,6 +124,10 @@ void Form::keyPressEvent(QKeyEvent* event) {
         else
             QDialog::keyPressEvent(event);
     });
+}
+
+WaitCursor Form::Waiting() {
+    return WaitCursor(*ThePlatform().ui);
 }
 
 void Form::WidenBy(int pixels) {

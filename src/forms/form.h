@@ -1,6 +1,7 @@
 #pragma once
 // What every window but the main one is made of.
 
+#include "platform/user_interface.h"
 #include "store/text_width.h"
 
 #include <QDialog>
@@ -31,6 +32,9 @@ class Form : public QDialog {
     /// How many characters the window's boxes take where they set no limit of their own: what a
     /// text field of the store takes. A window whose texts go elsewhere may take more.
     virtual int LongestTypedText() const { return kLongestText; }
+
+    /// The wait cursor, for as long as the answer lives.
+    [[nodiscard]] static WaitCursor Waiting();
 
     /// Makes the window wider for what it shows this time; the widening isn't stored.
     void WidenBy(int pixels);

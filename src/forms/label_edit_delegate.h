@@ -40,7 +40,7 @@ class LabelEditDelegate : public QStyledItemDelegate {
 
     /// Ends the edit that goes on as loss of focus does; nothing when none does. False when the
     /// view refused the text.
-    [[nodiscard]] bool EndEdit();
+    bool EndEdit();
     /// Null when no edit goes on.
     QLineEdit* Editor() const { return editor_; }
 

@@ -1,11 +1,10 @@
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 
 #include "platform/failure_guard.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyleOption>
-#include <QStylePainter>
 
 namespace lorvo {
 
@@ -43,12 +42,7 @@ void LinkLabel::leaveEvent(QEvent* event) {
 
 void LinkLabel::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QStylePainter painter(this);
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    PaintFocusFrame(*this);
 }
 
 void LinkLabel::mousePressEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "app/common_routines.h"
 #include "app/module_values.h"
+#include "forms/messages.h"
 #include "mainwindow/awards_section.h"
 #include "mainwindow/dog_panel.h"
 #include "mainwindow/entries_section.h"
@@ -65,8 +66,9 @@ const TreeNode* CardActions::TakeDogOnShow() {
         return nullptr;
     if (!tree_.SelectedNode())
         tree_.SelectNode(node);
-    Module().CurrentDogID = dog.ID;
-    Module().CurrentOwner = dog.MajitelID;
+    ModuleValues& shared = Module();
+    shared.CurrentDogID = dog.ID;
+    shared.CurrentOwner = dog.MajitelID;
     return node;
 }
 
@@ -76,9 +78,7 @@ void CardActions::EditDog() {
         return;
     // The editor works on the selected node, which the history may have left behind.
     tree_.SelectNode(dog);
-    Module().IsAddingDog = false;
-    Module().CurrentBreedID = panels_.Dog().PlemenoID;
-    Open(u"fm_Dog"_s);
+    Open(u"fm_Dog"_s, DogTask{false, panels_.Dog().PlemenoID});
 }
 
 void CardActions::EditOwner() {
@@ -104,16 +104,13 @@ void CardActions::WriteEmail(const QString& address) {
     if (IsEmailValid(address))
         ThePlatform().opener->OpenAddress(u"mailto:"_s + address);
     else
-        ShowMessage(u"Neplatný tvar e-mailové adresy"_s, MessageIcon::Information);
+        Inform(panels_, u"Neplatný tvar e-mailové adresy"_s);
 }
 
 void CardActions::TakePayment() {
-    if (CountCurrencies() == 0) {
-        ShowMessage(u"Platbu nelze přijmout, v seznamu měn není vytvořena žádná "
-                    "měna. Můžete ji přidat v okně Nastavení/Měny"_s,
-                    MessageIcon::Exclamation);
-        return;
-    }
+    if (CountCurrencies() == 0)
+        return Warn(panels_, u"Platbu nelze přijmout, v seznamu měn není vytvořena žádná "
+                             "měna. Můžete ji přidat v okně Nastavení/Měny"_s);
     if (TakeDogOnShow())
         Open(u"frmPlatba"_s);
 }
@@ -126,8 +123,8 @@ void CardActions::ShowPaymentsOfDog() {
 }
 
 void CardActions::ShowPaymentsOfOwner() {
-    Module().CurrentOwner = panels_.Owner().ID;
-    Module().PaymentsOwner = panels_.Owner().ID;
+    ModuleValues& shared = Module();
+    shared.CurrentOwner = shared.PaymentsOwner = panels_.Owner().ID;
     Open(u"frmUhrady"_s);
 }
 
@@ -152,10 +149,6 @@ void CardActions::BackToDog() {
         return;
     tree_.EnsureVisible(node);
     panels_.ShowNodeInfo(*node);
-}
-
-void CardActions::ShowMessage(const QString& text, MessageIcon icon) {
-    ThePlatform().messages->Show(text, icon, MessageButtons::Ok, panels_.window()->windowTitle());
 }
 
 } // namespace lorvo

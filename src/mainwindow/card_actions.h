@@ -2,7 +2,6 @@
 // What the links, pictures and check lists of the dog panel and the owner panel do.
 
 #include "office/cards/card_line.h"
-#include "platform/message_boxes.h"
 
 #include <QObject>
 
@@ -38,7 +37,6 @@ class CardActions : public QObject {
     void WriteTickedEntries(const CheckLines& lines);
     void WriteTickedAwards(const CheckLines& awards);
     void BackToDog();
-    void ShowMessage(const QString& text, MessageIcon icon);
 
     MainTree& tree_;
     NodePanels& panels_;

@@ -21,7 +21,6 @@ class CollapsibleFrame : public QFrame {
 
     /// The widget below the header that takes the section's layout.
     QWidget* Content() const { return content_; }
-    bool IsCollapsed() const { return collapsed_; }
     /// Collapses or opens in steps, each of them painted, before it returns.
     void Toggle();
 

@@ -2,7 +2,7 @@
 
 #include "app/help.h"
 #include "app/main_window_services.h"
-#include "app/module_values.h"
+#include "dogs/fm_DogsList.h"
 #include "mainwindow/window_opener.h"
 #include "office/tree/node_key.h"
 #include "platform/failure_guard.h"
@@ -52,9 +52,6 @@ MainCommandBar::MainCommandBar(CommandTarget& target, QObject* parent)
                         {u"ADD"_s, u"TABLES"_s, u"EXPORT"_s, u"SETTINGS"_s, u"HELP"_s, u"COLORS"_s},
                         parent),
       target_(target) {
-    const auto& windows = WindowsOfCommands();
-    for (auto row = windows.begin(); row != windows.end(); ++row)
-        Action(row.key())->setEnabled(CanOpen(row.value()));
     Connect(this, &CommandCollection::CommandClick, this, &MainCommandBar::Run);
 }
 
@@ -74,12 +71,11 @@ void MainCommandBar::Run(const QString& key) {
 }
 
 void MainCommandBar::OpenWindowOf(const QString& key) {
-    const QString window = WindowsOfCommands().value(key);
-    const std::unique_ptr<Form> closed = Open(window);
+    const std::unique_ptr<Form> closed = Open(WindowsOfCommands().value(key));
     if (const auto* breeds = dynamic_cast<const fm_Plemena*>(closed.get()))
         ReturnFromBreeds(breeds->Result());
-    else if (window == u"fm_DogsList")
-        ReturnFromDogs();
+    else if (const auto* dogs = dynamic_cast<const fm_DogsList*>(closed.get()))
+        ReturnFromDogs(*dogs);
 }
 
 void MainCommandBar::ReturnFromBreeds(const RegisterResult& result) {
@@ -98,8 +94,8 @@ void MainCommandBar::ReturnFromBreeds(const RegisterResult& result) {
     mainWindow.ShowNodeInfo(breed);
 }
 
-void MainCommandBar::ReturnFromDogs() {
-    if (!Module().ListJumpedToDog)
+void MainCommandBar::ReturnFromDogs(const fm_DogsList& dogs) {
+    if (!dogs.JumpedToDog())
         return;
     target_.FocusTree();
     TheMainWindow().ShowNodeInfo(TheMainWindow().SelectedNode());

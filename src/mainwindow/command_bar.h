@@ -6,6 +6,7 @@
 
 namespace lorvo {
 
+class fm_DogsList;
 struct RegisterResult;
 
 /// What commands do on the main window itself.
@@ -25,7 +26,6 @@ class CommandTarget {
 class MainCommandBar : public CommandCollection {
     Q_OBJECT
   public:
-    /// A command whose window the program doesn't have stands greyed.
     MainCommandBar(CommandTarget& target, QObject* parent);
 
     /// Carries out a command; one without an action of its own does nothing.
@@ -38,7 +38,7 @@ class MainCommandBar : public CommandCollection {
   private:
     void OpenWindowOf(const QString& key);
     void ReturnFromBreeds(const RegisterResult& result);
-    void ReturnFromDogs();
+    void ReturnFromDogs(const fm_DogsList& dogs);
     void SwitchContextHelp();
 
     CommandTarget& target_;

@@ -6,7 +6,6 @@
 #include "mainwindow/origin_section.h"
 #include "mainwindow/owner_section.h"
 #include "mainwindow/panel_builders.h"
-#include "mainwindow/window_opener.h"
 #include "platform/failure_guard.h"
 
 #include <QCoreApplication>
@@ -81,7 +80,6 @@ QScrollArea* DogPanel::Sections() {
 }
 
 void DogPanel::ShowCard(const DogCard& card) {
-    lblEdit->setEnabled(CanOpen(u"fm_Dog"_s));
     fraPuvod->ShowCard(card);
     fraMajitel->ShowCard(card);
     fraVystavy->ShowCard(card);

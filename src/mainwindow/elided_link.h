@@ -7,18 +7,10 @@
 namespace lorvo {
 
 /// Ends in an ellipsis where its place is too narrow, with the whole text as its tool tip.
-class ElidedLink : public LinkLabel {
+class ElidedLink : public Elided<LinkLabel> {
     Q_OBJECT
   public:
-    explicit ElidedLink(QWidget* parent);
-
-    QSize minimumSizeHint() const override;
-
-  protected:
-    void paintEvent(QPaintEvent* event) override;
-
-  private:
-    Ellipsis ellipsis_;
+    explicit ElidedLink(QWidget* parent) : Elided(QString(), parent) {}
 };
 
 } // namespace lorvo

@@ -3,7 +3,6 @@
 #include "forms/controls.h"
 #include "forms/report_list.h"
 #include "mainwindow/panel_builders.h"
-#include "mainwindow/window_opener.h"
 #include "office/cards/entry_ticks.h"
 #include "platform/failure_guard.h"
 
@@ -89,8 +88,6 @@ void EntriesSection::ShowCard(const DogCard& card) {
     paid_->setText(card.Uhrazeno);
     ShowText(*balance_, card.Rozdil);
     ShowText(*balanceWord_, card.balanceWord);
-    lblNovaPlatba->setEnabled(CanOpen(u"frmPlatba"_s));
-    lblSeznamPlateb->setEnabled(CanOpen(u"frmUhrady"_s));
 }
 
 void EntriesSection::Tick(int position) {

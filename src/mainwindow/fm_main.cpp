@@ -7,6 +7,7 @@
 #include "forms/access_keys.h"
 #include "forms/controls.h"
 #include "forms/form_settings.h"
+#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "mainwindow/about_panel.h"
 #include "mainwindow/disk_notice.h"
@@ -61,7 +62,7 @@ fm_main::fm_main()
     diskNotice_ = new DiskNotice(*sbMain);
     MakeSplitter();
     MakeAboutPanel();
-    treeCommands_ = new TreeCommands(*tvwMain, *this, this);
+    treeCommands_ = new TreeCommands(*tvwMain, *this, search_, this);
     Connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
             [] { OpenHelpOn(u"okno"_s); });
     new AccessKeys(*this);
@@ -79,8 +80,8 @@ fm_main::~fm_main() {
 
 void fm_main::MakeSplitter() {
     vbuSplit = Named(new QSplitter(this), u"vbuSplit"_s);
-    tvwMain = new MainTree(nodes_, vbuSplit);
-    picDetails = new NodePanels(*tvwMain, *sbMain, history_, vbuSplit);
+    tvwMain = new MainTree(nodes_, look_, vbuSplit);
+    picDetails = new NodePanels(*tvwMain, *sbMain, history_, look_, vbuSplit);
     vbuSplit->addWidget(tvwMain);
     vbuSplit->addWidget(picDetails);
     vbuSplit->setChildrenCollapsible(false);
@@ -120,7 +121,7 @@ void fm_main::Start() {
 }
 
 void fm_main::Load() {
-    ReadShowClasses();
+    look_.showClasses = ShowClassesPreferred();
     SkipFailure(EnsureShow);
     if (!TheDataModule().Conn1.IsOpen())
         SkipFailure(OpenDatabase);
@@ -142,7 +143,9 @@ void fm_main::RestoreSplitter() {
 }
 
 void fm_main::RestoreSelection() {
-    const TreeNode* node = nodes_.Find(RememberedNode());
+    const QString key = RememberedNode();
+    look_.rememberTree = !key.isEmpty();
+    const TreeNode* node = nodes_.Find(key);
     if (node && node->Kind() != NodeKind::Class)
         tvwMain->SelectNode(node);
 }
@@ -157,15 +160,15 @@ void fm_main::Activate() {
     // A panel that goes takes the keyboard away from what the clerk was at on it.
     const auto end =
         qScopeGuard([this, focus = QPointer<QWidget>(focusWidget())] { GiveFocusBack(focus); });
-    ReadShowClasses();
+    look_.showClasses = ShowClassesPreferred();
     picDetails->RestoreCurrent();
-    if (std::exchange(Module().PaymentsOwner, 0) != 0)
+    ModuleValues& shared = Module();
+    if (std::exchange(shared.PaymentsOwner, 0) != 0)
         return ReturnFromStatement();
     const QString key = SelectedNode();
-    if (Module().BreedsDirty || Module().TreeDirty) {
+    if (shared.BreedsDirty || shared.TreeDirty) {
         LoadData();
-        Module().BreedsDirty = false;
-        Module().TreeDirty = false;
+        shared.BreedsDirty = shared.TreeDirty = false;
     }
     ThePlatform().ui->ProcessEvents();
     if (NodeExists(key))
@@ -190,11 +193,12 @@ void fm_main::ReturnFromStatement() {
 }
 
 void fm_main::ShowAgain(const QString& key) {
+    UserInterface& ui = *ThePlatform().ui;
     MakeNodeVisible(key);
     picDetails->HidePanels();
-    ThePlatform().ui->ProcessEvents();
+    ui.ProcessEvents();
     SkipFailure([&] { ShowNodeInfo(key); });
-    ThePlatform().ui->ProcessEvents();
+    ui.ProcessEvents();
 }
 
 void fm_main::closeEvent(QCloseEvent* event) {
@@ -205,99 +209,10 @@ void fm_main::closeEvent(QCloseEvent* event) {
 void fm_main::Unload() {
     SaveFormSettings(*this);
     WriteRegValue(kSplitterKey, kLeft, QString::number(vbuSplit->sizes().constFirst()));
-    StoreTreeState(SelectedNode(), tvwMain->ExpandedKeys());
-}
-
-// What other windows ask --------------------------------------------------------------------------
-
-QString fm_main::SelectedNode() const {
-    const TreeNode* node = tvwMain->SelectedNode();
-    return node ? node->Key() : QString();
-}
-
-bool fm_main::NodeExists(const QString& key) const {
-    return nodes_.Find(key) != nullptr;
-}
-
-QString fm_main::NodeText(const QString& key) const {
-    return nodes_.Get(key).text;
-}
-
-QString fm_main::NodeTag(const QString& key) const {
-    return nodes_.Get(key).Tag();
-}
-
-QString fm_main::ParentNode(const QString& key) const {
-    const TreeNode* parent = nodes_.Get(key).parent;
-    return parent ? parent->Key() : QString();
-}
-
-void fm_main::SelectNode(const QString& key) {
-    tvwMain->SelectNode(&nodes_.Get(key));
-}
-
-void fm_main::MakeNodeVisible(const QString& key) {
-    tvwMain->EnsureVisible(&nodes_.Get(key));
-}
-
-void fm_main::AddDogNode(const QString& parentKey, int psiID, const QString& text, bool male) {
-    nodes_.AddDog(&nodes_.Get(parentKey), psiID, text, male);
-}
-
-void fm_main::SetNodeText(const QString& key, const QString& text) {
-    nodes_.SetText(&nodes_.Get(key), text);
-}
-
-void fm_main::LoadData() {
-    tvwMain->LoadData();
-}
-
-void fm_main::ShowNodeInfo(const QString& key) {
-    picDetails->ShowNodeInfo(key);
-}
-
-void fm_main::SetItemTitle(const QString& text) {
-    picDetails->SetTitle(text);
-}
-
-QString fm_main::Caption() const {
-    return windowTitle();
-}
-
-// What commands ask -------------------------------------------------------------------------------
-
-void fm_main::AddRing() {
-    treeCommands_->AddRing();
-}
-
-void fm_main::AddDog() {
-    treeCommands_->AddDogToSelected();
-}
-
-void fm_main::ShowAbout() {
-    picDetails->SetTitle(u"O programu"_s);
-    picDetails->BringToFront(picAbout);
-    picAbout->ShowVersion();
-    picDetails->SetPicture(QIcon());
-}
-
-void fm_main::FocusTree() {
-    tvwMain->setFocus();
-}
-
-void fm_main::SelectNodeOnShow() {
-    const TreeNode* node = picDetails->NodeOnShow();
-    if (!node)
-        return;
-    tvwMain->SelectNode(node);
-    picDetails->Refresh();
-}
-
-void fm_main::SetHelpPointer(bool on) {
-    if (on)
-        setCursor(Qt::WhatsThisCursor);
+    if (look_.rememberTree)
+        RememberTree(SelectedNode(), tvwMain->ExpandedKeys());
     else
-        unsetCursor();
+        ForgetTree();
 }
 
 } // namespace lorvo

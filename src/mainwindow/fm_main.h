@@ -3,8 +3,10 @@
 // It is the program; closing it ends the program.
 
 #include "app/main_window_services.h"
+#include "app/view_preferences.h"
 #include "forms/form.h"
 #include "mainwindow/command_bar.h"
+#include "mainwindow/tree_search.h"
 #include "office/tree/node_history.h"
 #include "office/tree/tree_nodes.h"
 
@@ -43,8 +45,6 @@ class fm_main : public QMainWindow,
     QString SelectedNode() const override;
     bool NodeExists(const QString& key) const override;
     QString NodeText(const QString& key) const override;
-    QString NodeTag(const QString& key) const override;
-    QString ParentNode(const QString& key) const override;
     void SelectNode(const QString& key) override;
     void MakeNodeVisible(const QString& key) override;
     void AddDogNode(const QString& parentKey, int psiID, const QString& text, bool male) override;
@@ -53,6 +53,7 @@ class fm_main : public QMainWindow,
     void ShowNodeInfo(const QString& key) override;
     void SetItemTitle(const QString& text) override;
     QString Caption() const override;
+    ViewPreferences& Look() override { return look_; }
     TreeNodes& Nodes() override { return nodes_; }
 
   protected:
@@ -81,6 +82,8 @@ class fm_main : public QMainWindow,
     void SelectNodeOnShow() override;
     void SetHelpPointer(bool on) override;
 
+    ViewPreferences look_;
+    TreeSearch search_;
     TreeNodes nodes_;
     NodeHistory history_;
 

@@ -1,7 +1,6 @@
 #include "mainwindow/frmFind.h"
 
 #include "app/main_window_services.h"
-#include "app/module_values.h"
 #include "forms/controls.h"
 #include "mainwindow/tree_search.h"
 #include "platform/failure_guard.h"
@@ -16,8 +15,8 @@ namespace {
 constexpr int kTextWidth = 260;
 }
 
-frmFind::frmFind(QWidget* parent)
-    : Form("frmFind", u"Hledat text"_s, Border::Fixed, parent),
+frmFind::frmFind(TreeSearch& search, QWidget* parent)
+    : Form("frmFind", u"Hledat text"_s, Border::Fixed, parent), search_(search),
       txtFind(Named(new QLineEdit(this), u"txtFind"_s)),
       cdmOK(Named(new QPushButton(u"Hledat"_s, this), u"cdmOK"_s)),
       cmdCancel(Named(new QPushButton(u"Zavřít"_s, this), u"cmdCancel"_s)) {
@@ -35,14 +34,14 @@ frmFind::frmFind(QWidget* parent)
 }
 
 void frmFind::Load() {
-    Module().FindStart = 1;
+    search_.start = 1;
 }
 
 void frmFind::Find() {
     if (txtFind->text().isEmpty())
         return;
-    Module().FindText = txtFind->text();
-    if (SelectNextMatch(TheMainWindow()))
+    search_.text = txtFind->text();
+    if (SelectNextMatch(search_, TheMainWindow()))
         cdmOK->setText(u"Další"_s);
 }
 

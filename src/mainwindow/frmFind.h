@@ -8,10 +8,13 @@ class QPushButton;
 
 namespace lorvo {
 
+struct TreeSearch;
+
 class frmFind : public Form {
     Q_OBJECT
   public:
-    explicit frmFind(QWidget* parent);
+    /// Takes up the search, which outlives the window and can be gone on with after it.
+    frmFind(TreeSearch& search, QWidget* parent);
 
   protected:
     /// The search begins at the first node again.
@@ -20,6 +23,7 @@ class frmFind : public Form {
   private:
     void Find();
 
+    TreeSearch& search_;
     QLineEdit* txtFind;
     QPushButton* cdmOK;
     QPushButton* cmdCancel;

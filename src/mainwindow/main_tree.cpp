@@ -26,9 +26,9 @@ TreeModel::Icons NodeIcons() {
 
 } // namespace
 
-MainTree::MainTree(TreeNodes& nodes, QWidget* parent)
+MainTree::MainTree(TreeNodes& nodes, const ViewPreferences& look, QWidget* parent)
     : QTreeView(parent), nodes_(nodes), model_(new TreeModel(nodes, this)),
-      delegate_(new NodeDelegate(this)) {
+      delegate_(new NodeDelegate(this)), look_(look) {
     setObjectName(u"tvwMain"_s);
     setAccessibleName(u"Kruhy, plemena a psi"_s);
     model_->SetIcons(NodeIcons());
@@ -58,9 +58,9 @@ MainTree::MainTree(TreeNodes& nodes, QWidget* parent)
 void MainTree::LoadData() {
     const TreeNode* current = TreeModel::NodeAt(currentIndex());
     const QString key = current ? current->Key() : QString();
-    LoadTree(nodes_);
+    LoadTree(nodes_, look_);
     SetCurrent(nodes_.Find(key));
-    if (!Module().ShowClassesOn)
+    if (!look_.showClasses)
         return;
     const QString expanded = ReadRegValue(u"Sys"_s, u"ExpandedItems"_s);
     for (const TreeNode* node : NodesToExpand(nodes_, expanded))
@@ -106,14 +106,12 @@ QStringList MainTree::ExpandedKeys() const {
 }
 
 void MainTree::StartLabelEdit(const TreeNode* node) {
-    edit(model_->IndexOf(node), AllEditTriggers, nullptr);
+    QTreeView::edit(model_->IndexOf(node), AllEditTriggers, nullptr);
 }
 
 bool MainTree::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     return GuardedAnswer(false, [&]() -> bool {
-        if (trigger == AllEditTriggers && !std::exchange(Module().LabelEditAllowed, false))
-            return false;
-        return QTreeView::edit(index, trigger, event);
+        return trigger != AllEditTriggers && QTreeView::edit(index, trigger, event);
     });
 }
 

@@ -9,12 +9,13 @@
 namespace lorvo {
 
 class NodeDelegate;
+struct ViewPreferences;
 
 class MainTree : public QTreeView {
     Q_OBJECT
   public:
-    /// The nodes outlive the view.
-    MainTree(TreeNodes& nodes, QWidget* parent);
+    /// Nodes and look outlive the view.
+    MainTree(TreeNodes& nodes, const ViewPreferences& look, QWidget* parent);
 
     TreeNodes& Nodes() const { return nodes_; }
     QIcon IconOf(const TreeNode& node) const { return model_->IconOf(node); }
@@ -35,8 +36,7 @@ class MainTree : public QTreeView {
     /// Keys of the expanded nodes in the tree's order.
     QStringList ExpandedKeys() const;
 
-    /// Starts editing the text in place, provided that `LabelEditAllowed` is set, which it takes
-    /// away.
+    /// Starts editing the text in place, which nothing else does.
     void StartLabelEdit(const TreeNode* node);
     /// Without its selection bar the tree shows the highlighting behind a selected node.
     void SetSelectionBarShown(bool shown);
@@ -95,6 +95,7 @@ class MainTree : public QTreeView {
     TreeNodes& nodes_;
     TreeModel* model_;
     NodeDelegate* delegate_;
+    const ViewPreferences& look_;
 };
 
 } // namespace lorvo

@@ -1,6 +1,7 @@
 #include "mainwindow/node_panels.h"
 
 #include "app/module_values.h"
+#include "app/view_preferences.h"
 #include "forms/controls.h"
 #include "forms/light_palette.h"
 #include "mainwindow/breed_panel.h"
@@ -30,7 +31,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// How many nodes the path to a node has, itself included.
-int PathLength(const TreeNode& node) {
+int PathLength(const TreeNode& node, bool withClasses) {
     switch (node.Kind()) {
     case NodeKind::UnassignedRoot:
     case NodeKind::Ring:
@@ -43,15 +44,16 @@ int PathLength(const TreeNode& node) {
         break;
     }
     const bool belowClass = node.parent && node.parent->Kind() == NodeKind::Class;
-    return Module().ShowClassesOn && belowClass ? 4 : 3;
+    return withClasses && belowClass ? 4 : 3;
 }
 
 } // namespace
 
-NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& history, QWidget* parent)
+NodePanels::NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& history,
+                       const ViewPreferences& look, QWidget* parent)
     : QWidget(parent), tree_(tree), nodes_(tree.Nodes()), status_(status), history_(history),
-      title_(new NodeTitle(
-          history, [this](const QString& key) { ShowNodeInfo(key); }, this)),
+      look_(look), title_(new NodeTitle(
+                       history, [this](const QString& key) { ShowNodeInfo(key); }, this)),
       stack_(new QStackedWidget(this)), nothing_(new QWidget), picKruhInfo(new RingPanel(nullptr)),
       picPlemenoInfo(new BreedPanel(nullptr)), picTridaInfo(new ClassPanel(nullptr)),
       picFCIInfo(new FciPanel(nullptr)), picPesInfo(new DogPanel(nullptr)),
@@ -137,7 +139,7 @@ void NodePanels::ShowPanelOf(const TreeNode& node) {
 
 void NodePanels::ShowRing(const TreeNode& ring) {
     BringToFront(picKruhInfo);
-    picKruhInfo->SetEditable(ring.Kind() == NodeKind::Ring && CanOpen(u"frmNazevKruhu"_s));
+    picKruhInfo->SetEditable(ring.Kind() == NodeKind::Ring);
     picKruhInfo->ShowFigures(FiguresOfRing(ring.Id()));
 }
 
@@ -152,6 +154,7 @@ void NodePanels::ShowClass(const TreeNode& node) {
     picTridaInfo->ShowDogCount(DogCountOfClass(node.Id(), node.key.trida));
 }
 
+// kept: fci-panel-out-of-reach
 void NodePanels::ShowFciGroup(int group) {
     BringToFront(picFCIInfo);
     picFCIInfo->ShowFigures(FiguresOfFci(group));
@@ -169,9 +172,9 @@ void NodePanels::ShowDog(int psiID) {
 }
 
 void NodePanels::ShowOwner() {
-    Module().CurrentOwner = dogCard_.MajitelID;
+    const int owner = Module().CurrentOwner = dogCard_.MajitelID;
     BringToFront(picMajitelInfo);
-    FillOwnerLines(ownerCard_, Module().CurrentOwner);
+    FillOwnerLines(ownerCard_, owner);
     SetTitle(ownerCard_.title);
     SetPicture(ProgramIcon(u"owner"_s));
     RefillOwnerDogs();
@@ -191,12 +194,14 @@ void NodePanels::RefillOwnerDogs() {
 }
 
 void NodePanels::NoteCurrent() {
-    current_ = {Module().CurrentDogID, Module().CurrentOwner};
+    const ModuleValues& shared = Module();
+    current_ = {shared.CurrentDogID, shared.CurrentOwner};
 }
 
 void NodePanels::RestoreCurrent() const {
-    Module().CurrentDogID = current_.dog;
-    Module().CurrentOwner = current_.owner;
+    ModuleValues& shared = Module();
+    shared.CurrentDogID = current_.dog;
+    shared.CurrentOwner = current_.owner;
 }
 
 void NodePanels::Empty() {
@@ -218,7 +223,7 @@ void NodePanels::EmptyWithoutNode() {
 
 void NodePanels::MarkPath(const TreeNode& node) {
     std::vector<TreeNode*> ancestors;
-    const int length = PathLength(node);
+    const int length = PathLength(node, look_.showClasses);
     for (TreeNode* above = node.parent; above && std::ssize(ancestors) + 1 < length;
          above = above->parent)
         ancestors.insert(ancestors.begin(), above);

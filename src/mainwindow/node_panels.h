@@ -26,12 +26,14 @@ class RingPanel;
 class StatusPanels;
 class TreeNodes;
 struct TreeNode;
+struct ViewPreferences;
 
 class NodePanels : public QWidget {
     Q_OBJECT
   public:
-    /// `status` takes the path to the node on show. All three outlive the panels.
-    NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& history, QWidget* parent);
+    /// `status` takes the path to the node on show. All but the parent outlive the panels.
+    NodePanels(MainTree& tree, StatusPanels& status, NodeHistory& history,
+               const ViewPreferences& look, QWidget* parent);
     ~NodePanels() override;
 
     /// Records the node in the history, marks the path to it in the tree and in the status bar, and
@@ -94,6 +96,7 @@ class NodePanels : public QWidget {
     TreeNodes& nodes_;
     StatusPanels& status_;
     NodeHistory& history_;
+    const ViewPreferences& look_;
 
     NodeTitle* title_;
     QStackedWidget* stack_;

@@ -25,19 +25,15 @@ MenuEntry Entry(int number, const QString& text) {
     return entry;
 }
 
-int OwnerOfCurrentDog() {
-    const std::optional<int> owner = OwnerOfDog(Module().CurrentDogID);
+/// All dogs of the owner of a dog, which is marked among them.
+std::vector<MenuEntry> MenuAround(int psiID) {
+    const std::optional<int> owner = OwnerOfDog(psiID);
     if (!owner)
-        throw StoreError("V tabulce Psi není řádek s číslem " +
-                         std::to_string(Module().CurrentDogID) + ".");
-    return *owner;
-}
-
-std::vector<MenuEntry> DogMenu(int ownerID) {
+        throw StoreError("V tabulce Psi není řádek s číslem " + std::to_string(psiID) + ".");
     std::vector<MenuEntry> entries;
-    for (const Psi& dog : DogsOfOwner(ownerID)) {
+    for (const Psi& dog : DogsOfOwner(*owner)) {
         entries.push_back(Entry(dog.ID, dog.Jmeno));
-        entries.back().checked = dog.ID == Module().CurrentDogID;
+        entries.back().checked = dog.ID == psiID;
     }
     entries.push_back(MenuEntry::Separator());
     entries.push_back(Entry(kHighlightNumber, u"Zvýraznit všechny psy tohoto majitele"_s));
@@ -62,7 +58,7 @@ void OwnerNavigation::GoToDog(const QString& key) {
 }
 
 void OwnerNavigation::ShowDogMenu() {
-    CarryOut(ThePlatform().menus->TrackPopup(DogMenu(OwnerOfCurrentDog())));
+    CarryOut(ThePlatform().menus->TrackPopup(MenuAround(Module().CurrentDogID)));
     panels_.ShowSelectedNode();
 }
 

@@ -3,7 +3,6 @@
 #include "forms/controls.h"
 #include "forms/report_list.h"
 #include "mainwindow/panel_builders.h"
-#include "mainwindow/window_opener.h"
 #include "platform/failure_guard.h"
 
 #include <QHBoxLayout>
@@ -98,7 +97,6 @@ void OwnerPanel::ShowCard(const OwnerCard& card) {
     price_->setText(card.price);
     paid_->setText(card.paid);
     ShowText(*balance_, card.balance);
-    lblSeznamPlateb1->setEnabled(CanOpen(u"frmUhrady"_s));
 }
 
 void OwnerPanel::ShowDogs(const std::vector<OwnerDogLine>& dogs) {

@@ -3,7 +3,6 @@
 #include "forms/controls.h"
 #include "forms/elided_label.h"
 #include "mainwindow/panel_builders.h"
-#include "mainwindow/window_opener.h"
 #include "platform/failure_guard.h"
 
 #include <QHBoxLayout>
@@ -94,7 +93,6 @@ void OwnerSection::ShowCard(const DogCard& card) {
     ShowNeighbour(*picPrev, card.previous);
     ShowNeighbour(*picNext, card.next);
     picList->setVisible(!previousKey_.isEmpty() || !nextKey_.isEmpty());
-    picEditMajitele->setEnabled(CanOpen(u"frmEditMan"_s));
 }
 
 // The link reaches a little beyond the name, so that a short name is easy to hit too.

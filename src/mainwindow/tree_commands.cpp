@@ -1,7 +1,7 @@
 #include "mainwindow/tree_commands.h"
 
 #include "app/main_window_services.h"
-#include "app/module_values.h"
+#include "app/view_preferences.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/tree_edits.h"
 #include "mainwindow/tree_search.h"
@@ -14,8 +14,9 @@ namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
-TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* parent)
-    : QObject(parent), tree_(tree), nodes_(tree.Nodes()), window_(window),
+TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, TreeSearch& search,
+                           QObject* parent)
+    : QObject(parent), tree_(tree), nodes_(tree.Nodes()), window_(window), search_(search),
       edits_(std::make_unique<TreeEdits>(nodes_, window)) {
     const auto show = [this](TreeNode* node) {
         window_.ShowNodeInfo(node->Key());
@@ -31,7 +32,7 @@ TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* 
     Connect(&tree_, &MainTree::RenamePressed, this, &TreeCommands::RenameSelected);
     Connect(&tree_, &MainTree::FindPressed, this, &TreeCommands::Find);
     Connect(&tree_, &MainTree::FindNextPressed, this, &TreeCommands::FindNext);
-    Connect(&tree_, &MainTree::HomePressed, this, [] { Module().FindStart = 1; });
+    Connect(&tree_, &MainTree::HomePressed, this, [this] { search_.start = 1; });
     Connect(&tree_, &MainTree::KeyDone, this, &TreeCommands::ShowSelected);
     Connect(&tree_, &MainTree::LabelEdited, this, &TreeCommands::StoreEditedText);
     // After the pending events, when the edit box has gone.
@@ -43,12 +44,12 @@ TreeCommands::TreeCommands(MainTree& tree, MainWindowServices& window, QObject* 
 
 TreeCommands::~TreeCommands() = default;
 
+// kept: new-ring-not-bold
 void TreeCommands::AddRing() {
     const QString name = u"Nový kruh"_s;
     TreeNode* ring = nodes_.AddRingWithoutKey(name);
     nodes_.GiveKey(ring, InsertRing(name));
     tree_.SelectNode(ring);
-    Module().LabelEditAllowed = true;
     tree_.StartLabelEdit(ring);
 }
 
@@ -93,27 +94,29 @@ void TreeCommands::ShowAll() {
         tree_.EnsureVisible(node);
 }
 
+// kept: detail-without-entry
 void TreeCommands::ToggleDetail() {
-    Module().DogDetailInTree = !Module().DogDetailInTree;
+    bool& detail = window_.Look().dogDetailInTree;
+    detail = !detail;
     window_.LoadData();
 }
 
 void TreeCommands::Find() {
-    if (CanOpen(u"frmFind"_s))
-        Open(u"frmFind"_s);
+    Open(u"frmFind"_s, &search_);
 }
 
 void TreeCommands::FindNext() {
-    if (Module().FindText.isEmpty())
+    if (search_.text.isEmpty())
         return Find();
-    SelectNextMatch(window_);
+    SelectNextMatch(search_, window_);
 }
 
 void TreeCommands::AddDogToBreed(int breedID) {
     if (edits_->MayAddDog())
-        OpenDogWindow(true, breedID);
+        OpenDogWindow({true, breedID});
 }
 
+// kept: add-dog-asks-less
 void TreeCommands::AddDogToSelected() {
     const TreeNode* node = tree_.SelectedNode();
     if (node && node->IsDog())
@@ -121,19 +124,17 @@ void TreeCommands::AddDogToSelected() {
     if (!node || node->Kind() != NodeKind::Breed)
         return edits_->Exclaim(u"Není vybráno plemeno, do kterého se má pes přidat"_s);
     if (edits_->HasShowDateRow())
-        OpenDogWindow(true, node->Id());
+        OpenDogWindow({true, node->Id()});
 }
 
 void TreeCommands::EditDog(const TreeNode* dog) {
     // The parent bears the breed's number, be it the breed or one of its classes.
     if (dog->IsDog())
-        OpenDogWindow(false, dog->parent->Id());
+        OpenDogWindow({false, dog->parent->Id()});
 }
 
-void TreeCommands::OpenDogWindow(bool adding, int breedID) {
-    Module().IsAddingDog = adding;
-    Module().CurrentBreedID = breedID;
-    Open(u"fm_Dog"_s);
+void TreeCommands::OpenDogWindow(const DogTask& task) {
+    Open(u"fm_Dog"_s, task);
 }
 
 void TreeCommands::ShowSelected() {

@@ -11,15 +11,17 @@ class MainTree;
 class MainWindowServices;
 class TreeEdits;
 class TreeNodes;
+struct DogTask;
 struct TreeNode;
+struct TreeSearch;
 
 /// Answers the tree's clicks, keys, menus and drops, and the commands that the command bar shares
 /// with them.
 class TreeCommands : public QObject {
     Q_OBJECT
   public:
-    /// Tree and window outlive it.
-    TreeCommands(MainTree& tree, MainWindowServices& window, QObject* parent);
+    /// Tree, window and search outlive it.
+    TreeCommands(MainTree& tree, MainWindowServices& window, TreeSearch& search, QObject* parent);
     ~TreeCommands() override;
 
     /// Adds "Nový kruh" to the database and the tree and starts editing its text.
@@ -34,6 +36,7 @@ class TreeCommands : public QObject {
     void ShowRingMenu(TreeNode* ring);
     void ShowBreedMenu(TreeNode* breed);
     void ShowDogMenu(TreeNode* dog);
+    void ShowPaymentsOf(const TreeNode& dog);
 
     void HideEmpty();
     void ShowAll();
@@ -46,7 +49,7 @@ class TreeCommands : public QObject {
 
     void AddDogToBreed(int breedID);
     void EditDog(const TreeNode* dog);
-    void OpenDogWindow(bool adding, int breedID);
+    void OpenDogWindow(const DogTask& task);
 
     void StoreEditedText(TreeNode* node, const QString& text);
     void ShowSelected();
@@ -54,6 +57,7 @@ class TreeCommands : public QObject {
     MainTree& tree_;
     TreeNodes& nodes_;
     MainWindowServices& window_;
+    TreeSearch& search_;
     std::unique_ptr<TreeEdits> edits_;
 };
 

@@ -77,6 +77,7 @@ void TreeEdits::Rename(TreeNode* node, const QString& name) {
     nodes_.SetText(node, name);
 }
 
+// kept: drop-moves-before-it-stores
 void TreeEdits::Drop(TreeNode* dragged, TreeNode* target) {
     const bool onRing =
         target->Kind() == NodeKind::Ring || target->Kind() == NodeKind::UnassignedRoot;
@@ -96,11 +97,13 @@ void TreeEdits::SetFirstClosing(bool first) {
 
 void TreeEdits::MakeFirstDog() {
     EditRun run(TheDataModule().Conn1); // the mark before must not go alone
-    ClearFirstDogs(Module().CurrentOwner);
-    MarkFirstDog(Module().CurrentDogID);
+    const ModuleValues& shared = Module();
+    ClearFirstDogs(shared.CurrentOwner);
+    MarkFirstDog(shared.CurrentDogID);
     run.Finish();
 }
 
+// kept: numbers-block-by-first-row
 bool TreeEdits::MayAddDog() {
     if (MainCurrencies().empty()) {
         Exclaim(u"Psa nelze přidat. V seznamu měn není zadána hlavní měna"_s);
@@ -128,18 +131,19 @@ bool TreeEdits::HasShowDateRow() {
 }
 
 bool TreeEdits::Confirm(const QString& question) {
-    return ThePlatform().messages->Show(question, MessageIcon::Question,
-                                        MessageButtons::YesNoCancel,
-                                        window_.Caption()) == MessageAnswer::Yes;
+    return Show(question, MessageIcon::Question, MessageButtons::YesNoCancel) == MessageAnswer::Yes;
 }
 
 void TreeEdits::Stop(const QString& text) {
-    ThePlatform().messages->Show(text, MessageIcon::Stop, MessageButtons::Ok, window_.Caption());
+    Show(text, MessageIcon::Stop);
 }
 
 void TreeEdits::Exclaim(const QString& text) {
-    ThePlatform().messages->Show(text, MessageIcon::Exclamation, MessageButtons::Ok,
-                                 window_.Caption());
+    Show(text, MessageIcon::Exclamation);
+}
+
+MessageAnswer TreeEdits::Show(const QString& text, MessageIcon icon, MessageButtons buttons) {
+    return ThePlatform().messages->Show(text, icon, buttons, window_.Caption());
 }
 
 } // namespace lorvo

@@ -2,7 +2,7 @@
 // Edits of single records behind the nodes of the main tree: each asks where it must, writes, and
 // patches the node.
 
-#include <QString>
+#include "platform/message_boxes.h"
 
 namespace lorvo {
 
@@ -18,7 +18,7 @@ class TreeEdits {
 
     /// Removes a ring without breeds, a breed without dogs, or a dog, when the clerk agrees; shows
     /// a message when it isn't empty. Returns whether the node is gone. Class nodes stay.
-    [[nodiscard]] bool Remove(TreeNode* node);
+    bool Remove(TreeNode* node);
     /// Stores a new name of a ring or a breed and shows it on the node.
     void Rename(TreeNode* node, const QString& name);
     /// Drops a breed on a ring or the unassigned root, or a dog on a breed; nothing else moves.
@@ -42,6 +42,8 @@ class TreeEdits {
     [[nodiscard]] bool RemoveDog(TreeNode* dog);
     bool Confirm(const QString& question);
     void Stop(const QString& text);
+    MessageAnswer Show(const QString& text, MessageIcon icon,
+                       MessageButtons buttons = MessageButtons::Ok);
 
     TreeNodes& nodes_;
     MainWindowServices& window_;

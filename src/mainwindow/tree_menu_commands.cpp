@@ -83,6 +83,14 @@ void TreeCommands::ShowBreedMenu(TreeNode* breed) {
     }
 }
 
+void TreeCommands::ShowPaymentsOf(const TreeNode& dog) {
+    ModuleValues& shared = Module();
+    shared.CurrentDogID = dog.Id();
+    shared.PaymentsOwner = 0;
+    Open(u"frmUhrady"_s);
+    ShowSelected();
+}
+
 void TreeCommands::ShowDogMenu(TreeNode* dog) {
     using namespace dog_menu;
     switch (Choose(DogMenu())) {
@@ -95,10 +103,7 @@ void TreeCommands::ShowDogMenu(TreeNode* dog) {
         Open(u"frmPlatba"_s);
         return ShowSelected();
     case kPayments:
-        Module().CurrentDogID = dog->Id();
-        Module().PaymentsOwner = 0;
-        Open(u"frmUhrady"_s);
-        return ShowSelected();
+        return ShowPaymentsOf(*dog);
     case kHighlightOwner:
         return HighlightOwnersDogs(tree_);
     case kClearHighlight:

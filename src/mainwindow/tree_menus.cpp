@@ -1,7 +1,6 @@
 #include "mainwindow/tree_menus.h"
 
 #include "app/module_values.h"
-#include "mainwindow/window_opener.h"
 #include "office/texts/dog_texts.h"
 #include "office/tree/tree_nodes.h"
 #include "store/plemena.h"
@@ -47,7 +46,7 @@ std::vector<MenuEntry> RootMenu() {
         Entry(kExpandAll, u"Rozbalit vše"_s),
         Entry(kCollapseAll, u"Sbalit vše"_s),
         MenuEntry::Separator(),
-        Entry(kFind, u"Hledat     Ctrl+F"_s, CanOpen(u"frmFind"_s)),
+        Entry(kFind, u"Hledat     Ctrl+F"_s),
     };
 }
 

@@ -39,21 +39,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-template<typename Window> std::unique_ptr<Form> Make(QWidget* parent) {
+template<typename Window> std::unique_ptr<Form> Make(const WindowInput&, QWidget* parent) {
     return std::make_unique<Window>(parent);
+}
+
+std::unique_ptr<Form> MakeDogEditor(const WindowInput& input, QWidget* parent) {
+    return std::make_unique<fm_Dog>(std::get<DogTask>(input), parent);
+}
+
+std::unique_ptr<Form> MakeSearch(const WindowInput& input, QWidget* parent) {
+    return std::make_unique<frmFind>(*std::get<TreeSearch*>(input), parent);
 }
 
 std::map<QString, WindowFactory>& Windows() {
     static std::map<QString, WindowFactory> windows{
         {u"fm_Colors"_s, Make<fm_Colors>},
         {u"fmDiplom"_s, Make<fmDiplom>},
-        {u"fm_Dog"_s, Make<fm_Dog>},
+        {u"fm_Dog"_s, MakeDogEditor},
         {u"fm_DogsList"_s, Make<fm_DogsList>},
         {u"fm_Plemena"_s, Make<fm_Plemena>},
         {u"fm_Settings"_s, Make<fm_Settings>},
         {u"fm_Souteze"_s, Make<fm_Souteze>},
         {u"frmEditMan"_s, Make<frmEditMan>},
-        {u"frmFind"_s, Make<frmFind>},
+        {u"frmFind"_s, MakeSearch},
         {u"frmJmenoRozhodciho"_s, Make<frmJmenoRozhodciho>},
         {u"frmNazevKruhu"_s, Make<frmNazevKruhu>},
         {u"frmOceneni"_s, Make<frmOceneni>},
@@ -87,27 +95,17 @@ QWidget* WindowInFront() {
 
 } // namespace
 
-bool CanOpen(const QString& name) {
-    return Windows().contains(name);
-}
-
-std::unique_ptr<Form> Open(const QString& name) {
+std::unique_ptr<Form> Open(const QString& name, const WindowInput& input) {
     const auto found = Windows().find(name);
     if (found == Windows().end())
         throw Error("Okno " + name.toStdString() + " neexistuje.");
-    std::unique_ptr<Form> window = found->second(WindowInFront());
+    std::unique_ptr<Form> window = found->second(input, WindowInFront());
     OpenModal(*window);
     return window;
 }
 
 WindowFactory SetWindow(const QString& name, WindowFactory factory) {
-    const auto found = Windows().find(name);
-    WindowFactory before = found == Windows().end() ? WindowFactory() : found->second;
-    if (factory)
-        Windows()[name] = std::move(factory);
-    else
-        Windows().erase(name);
-    return before;
+    return std::exchange(Windows()[name], std::move(factory));
 }
 
 } // namespace lorvo

@@ -1,7 +1,6 @@
 #include "manager/check_page.h"
 
 #include "forms/controls.h"
-#include "manager/show_session.h"
 #include "office/exchange/show_check.h"
 #include "platform/failure_guard.h"
 
@@ -12,9 +11,9 @@ namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
-CheckPage::CheckPage(QWidget* parent)
+CheckPage::CheckPage(const ShowAccess& show, QWidget* parent)
     : QWidget(parent), cmdCheck(Named(new QPushButton(u"&Zkontrolovat"_s, this), u"cmdCheck"_s)),
-      txtNalez(Named(new QPlainTextEdit(this), u"txtNalez"_s)) {
+      txtNalez(Named(new QPlainTextEdit(this), u"txtNalez"_s)), show_(show) {
     txtNalez->setReadOnly(true);
     txtNalez->setTabChangesFocus(true);
     auto* column = new QVBoxLayout(this);
@@ -26,7 +25,7 @@ CheckPage::CheckPage(QWidget* parent)
 
 void CheckPage::Check() {
     ShowCheck check;
-    if (!OnShow([&check] { check = CheckShow(); }))
+    if (!show_.OnShow([&check] { check = CheckShow(); }))
         return;
     const QString verdict = check.IsWell() ? u"Všechno je v pořádku."_s : u"Něco není v pořádku:"_s;
     txtNalez->setPlainText((QStringList(verdict) + check.faults + check.figures).join(u'\n'));

@@ -2,9 +2,7 @@
 
 #include "forms/controls.h"
 #include "forms/report_list.h"
-#include "manager/show_session.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "platform/values/errors.h"
 
 #include <QVBoxLayout>
@@ -14,14 +12,6 @@ namespace lorvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString& Folder() {
-    return ThePlatform().programFolder;
-}
-
-DateValue Now() {
-    return ThePlatform().clock->Now();
-}
 
 /// `name` stands for the present state, whose moment says nothing.
 ReportRow RowOf(const QString& name, const ShowCopy& copy) {
@@ -35,9 +25,9 @@ ReportRow RowOf(const QString& name, const ShowCopy& copy) {
              {copy.fault.isEmpty() ? u"v pořádku"_s : copy.fault}}};
 }
 
-ShowCopy PresentState() {
+ShowCopy PresentState(const QString& folder) {
     ShowCopy present;
-    present.path = DatabasePath(Folder());
+    present.path = DatabasePath(folder);
     try {
         RequireWholeDatabase(present.path);
         present.figures = FiguresOfDatabase(present.path);
@@ -49,7 +39,7 @@ ShowCopy PresentState() {
 
 } // namespace
 
-CopiesPage::CopiesPage(QWidget* parent)
+CopiesPage::CopiesPage(const ShowAccess& show, QWidget* parent)
     : QWidget(parent), lvwZalohy(new ReportList("lvwZalohy",
                                                 {u"Kopie"_s, u"Psů"_s, u"Majitelů"_s, u"Plateb"_s,
                                                  u"Součet plateb"_s, u"Kontrola"_s},
@@ -57,7 +47,7 @@ CopiesPage::CopiesPage(QWidget* parent)
       cmdMake(Named(new QPushButton(u"&Udělat kopii"_s, this), u"cmdMake"_s)),
       cmdCompare(Named(new QPushButton(u"&Porovnat"_s, this), u"cmdCompare"_s)),
       cmdPutBack(Named(new QPushButton(u"&Vrátit"_s, this), u"cmdPutBack"_s)),
-      lblPorovnani(Named(new QLabel(this), u"lblPorovnani"_s)) {
+      lblPorovnani(Named(new QLabel(this), u"lblPorovnani"_s)), show_(show) {
     lvwZalohy->setAccessibleName(u"Kopie databáze"_s);
     lvwZalohy->SetColumnWidths({230, 70, 80, 80, 130, 320});
     lvwZalohy->AlignRight({1, 2, 3, 4});
@@ -94,16 +84,16 @@ void CopiesPage::showEvent(QShowEvent* event) {
 }
 
 void CopiesPage::Refill() {
-    const WaitCursor wait(*ThePlatform().ui);
-    if (SayingFailure([this] { copies_ = ListCopies(Folder(), true); }))
+    const WaitCursor wait(show_.Screen());
+    if (show_.SayingFailure([this] { copies_ = ListCopies(show_.Folder(), true); }))
         AddRows();
     Enable();
 }
 
 void CopiesPage::AddRows() {
-    std::vector<ReportRow> rows = {RowOf(u"dnešní stav"_s, PresentState())};
+    std::vector<ReportRow> rows = {RowOf(u"dnešní stav"_s, PresentState(show_.Folder()))};
     for (const ShowCopy& copy : copies_)
-        rows.push_back(RowOf(ThePlatform().locale->DateText(copy.moment), copy));
+        rows.push_back(RowOf(show_.DateText(copy.moment), copy));
     lvwZalohy->SetRows(std::move(rows));
 }
 
@@ -118,7 +108,7 @@ QString CopiesPage::PathOf(int position) const {
 }
 
 void CopiesPage::Make() {
-    if (SayingFailure([] { MakeCopy(Folder(), Now()); }))
+    if (show_.SayingFailure([this] { show_.CopyNow(); }))
         Refill();
 }
 
@@ -127,7 +117,7 @@ void CopiesPage::Compare() {
     if (chosen.size() == 1)
         chosen.insert(chosen.begin(), 0);
     // Newer copies stand higher.
-    SayingFailure([&] {
+    show_.SayingFailure([&] {
         lblPorovnani->setText(
             CompareDatabases(PathOf(chosen.back()), PathOf(chosen.front())).join(u'\n'));
     });
@@ -136,12 +126,11 @@ void CopiesPage::Compare() {
 void CopiesPage::PutBack() {
     const int chosen = lvwZalohy->SelectedRow();
     const QString name = lvwZalohy->CellText(chosen, 0);
-    if (ThePlatform().messages->Show(u"Vrátit stav z kopie "_s + name +
-                                         u"? Dnešní stav se předtím zkopíruje."_s,
-                                     MessageIcon::Question, MessageButtons::YesNoCancel,
-                                     u"Správce dat"_s) != MessageAnswer::Yes)
+    const QString question =
+        u"Vrátit stav z kopie "_s + name + u"? Dnešní stav se předtím zkopíruje."_s;
+    if (show_.Ask(question, MessageButtons::YesNoCancel) != MessageAnswer::Yes)
         return;
-    if (AloneInFolder([&] { PutCopyBack(Folder(), PathOf(chosen), Now()); }))
+    if (show_.AloneInFolder([&] { PutCopyBack(show_.Folder(), PathOf(chosen), show_.Now()); }))
         lblPorovnani->setText(u"Vráceno: "_s + name);
     Refill();
 }

@@ -1,6 +1,7 @@
 #pragma once
 // The page of copies: listed, made, compared, put back.
 
+#include "manager/show_access.h"
 #include "office/copies/show_copies.h"
 
 #include <QWidget>
@@ -15,7 +16,7 @@ class ReportList;
 class CopiesPage : public QWidget {
     Q_OBJECT
   public:
-    explicit CopiesPage(QWidget* parent);
+    CopiesPage(const ShowAccess& show, QWidget* parent);
 
     /// Lists the folder anew; each copy is checked whole.
     void Refill();
@@ -40,6 +41,7 @@ class CopiesPage : public QWidget {
     /// Path of a row's file.
     QString PathOf(int position) const;
 
+    const ShowAccess show_;
     std::vector<ShowCopy> copies_;
     bool filled_ = false;
 };

@@ -1,8 +1,7 @@
 #include "manager/copy_commands.h"
 
-#include "manager/show_session.h"
+#include "manager/show_access.h"
 #include "office/copies/show_copies.h"
-#include "platform/platform.h"
 
 #include <QTextStream>
 
@@ -15,26 +14,18 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 
-const QString& Folder() {
-    return ThePlatform().programFolder;
-}
-
-DateValue Now() {
-    return ThePlatform().clock->Now();
-}
-
-QString PathOf(const QString& name) {
-    return name == u"data.mdb" ? DatabasePath(Folder()) : CopiesFolder(Folder()) + u'/' + name;
+QString PathOf(const QString& name, const QString& folder) {
+    return name == u"data.mdb" ? DatabasePath(folder) : CopiesFolder(folder) + u'/' + name;
 }
 
 } // namespace
 
-int MakeCopyCommand(const QStringList&, QTextStream& out) {
-    return SayingFailure([&out] { out << MakeCopy(Folder(), Now()) << '\n'; }) ? kDone : kFailed;
+int MakeCopyCommand(const ShowAccess& show, const QStringList&, QTextStream& out) {
+    return show.SayingFailure([&] { out << show.CopyNow() << '\n'; }) ? kDone : kFailed;
 }
 
-int ListCopiesCommand(const QStringList&, QTextStream& out) {
-    for (const ShowCopy& copy : ListCopies(Folder(), true))
+int ListCopiesCommand(const ShowAccess& show, const QStringList&, QTextStream& out) {
+    for (const ShowCopy& copy : ListCopies(show.Folder(), true))
         out << copy.path.section(u'/', -1) << u"; psů "_s << copy.figures.dogs << u"; plateb "_s
             << copy.figures.payments << "; "
             << QString::fromStdString(copy.figures.paid.ToPlainText(',')) << "; "
@@ -42,16 +33,19 @@ int ListCopiesCommand(const QStringList&, QTextStream& out) {
     return kDone;
 }
 
-int CompareCopiesCommand(const QStringList& arguments, QTextStream& out) {
-    const bool compared = SayingFailure([&] {
-        out << CompareDatabases(PathOf(arguments[0]), PathOf(arguments[1])).join(u'\n') << '\n';
+int CompareCopiesCommand(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
+    const bool compared = show.SayingFailure([&] {
+        out << CompareDatabases(PathOf(arguments[0], show.Folder()),
+                                PathOf(arguments[1], show.Folder()))
+                   .join(u'\n')
+            << '\n';
     });
     return compared ? kDone : kFailed;
 }
 
-int PutCopyBackCommand(const QStringList& arguments, QTextStream& out) {
-    const bool back = AloneInFolder([&] {
-        PutCopyBack(Folder(), PathOf(arguments[0]), Now());
+int PutCopyBackCommand(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
+    const bool back = show.AloneInFolder([&] {
+        PutCopyBack(show.Folder(), PathOf(arguments[0], show.Folder()), show.Now());
         out << u"Vráceno: "_s << arguments[0] << '\n';
     });
     return back ? kDone : kFailed;

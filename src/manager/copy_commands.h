@@ -7,11 +7,13 @@ class QTextStream;
 
 namespace lorvo {
 
-int MakeCopyCommand(const QStringList& arguments, QTextStream& out);
+class ShowAccess;
+
+int MakeCopyCommand(const ShowAccess& show, const QStringList& arguments, QTextStream& out);
 /// A line each: name, dogs, payments, sum, result of the check.
-int ListCopiesCommand(const QStringList& arguments, QTextStream& out);
+int ListCopiesCommand(const ShowAccess& show, const QStringList& arguments, QTextStream& out);
 /// Names of copies, or "data.mdb" for the present state.
-int CompareCopiesCommand(const QStringList& arguments, QTextStream& out);
-int PutCopyBackCommand(const QStringList& arguments, QTextStream& out);
+int CompareCopiesCommand(const ShowAccess& show, const QStringList& arguments, QTextStream& out);
+int PutCopyBackCommand(const ShowAccess& show, const QStringList& arguments, QTextStream& out);
 
 } // namespace lorvo

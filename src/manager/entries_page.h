@@ -1,6 +1,7 @@
 #pragma once
 // The page that takes entries in from a table: file, letters and columns, judged lines, taking.
 
+#include "manager/show_access.h"
 #include "office/exchange/entry_fields.h"
 #include "office/exchange/entry_line.h"
 #include "office/exchange/entry_source.h"
@@ -19,7 +20,7 @@ class ReportList;
 class EntriesPage : public QWidget {
     Q_OBJECT
   public:
-    explicit EntriesPage(QWidget* parent);
+    EntriesPage(const ShowAccess& show, QWidget* parent);
 
     QPushButton* cmdFile;
     QPushButton* cmdColumns;
@@ -53,6 +54,7 @@ class EntriesPage : public QWidget {
     void SaveRest();
     void SaveTemplate();
 
+    const ShowAccess show_;
     EntrySource source_;
     ColumnChoice columns_;
     std::vector<EntryLine> lines_;

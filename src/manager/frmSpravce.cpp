@@ -15,14 +15,15 @@ namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
-frmSpravce::frmSpravce(QWidget* parent)
+frmSpravce::frmSpravce(Platform& platform, QWidget* parent)
     : Form("frmSpravce", u"Správce dat"_s, Border::Sizable, parent),
       tabSpravce(Named(new QTabWidget(this), u"tabSpravce"_s)) {
-    tabSpravce->addTab(new CopiesPage(this), u"Zálohy"_s);
-    tabSpravce->addTab(new EntriesPage(this), u"Převzetí přihlášek"_s);
-    tabSpravce->addTab(new ListsPage(this), u"Seznamy"_s);
-    tabSpravce->addTab(new PeoplePage(this), u"Po výstavě"_s);
-    tabSpravce->addTab(new CheckPage(this), u"Kontrola"_s);
+    const ShowAccess show(platform);
+    tabSpravce->addTab(new CopiesPage(show, this), u"Zálohy"_s);
+    tabSpravce->addTab(new EntriesPage(show, this), u"Převzetí přihlášek"_s);
+    tabSpravce->addTab(new ListsPage(show, this), u"Seznamy"_s);
+    tabSpravce->addTab(new PeoplePage(show, this), u"Po výstavě"_s);
+    tabSpravce->addTab(new CheckPage(show, this), u"Kontrola"_s);
     auto* cmdCancel = Named(new QPushButton(u"Zavřít"_s, this), u"cmdCancel"_s);
     auto* column = new QVBoxLayout(this);
     column->addWidget(tabSpravce);

@@ -7,10 +7,13 @@ class QTabWidget;
 
 namespace lorvo {
 
+struct Platform;
+
 class frmSpravce : public Form {
     Q_OBJECT
   public:
-    explicit frmSpravce(QWidget* parent = nullptr);
+    /// Works on the show of the platform's folder; the platform outlives the window.
+    explicit frmSpravce(Platform& platform, QWidget* parent = nullptr);
 
     QTabWidget* tabSpravce;
 };

@@ -2,11 +2,9 @@
 
 #include "forms/controls.h"
 #include "forms/report_list.h"
-#include "manager/show_session.h"
 #include "office/exchange/csv_text.h"
 #include "office/exchange/sheet_files.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "platform/whole_file.h"
 
 #include <QVBoxLayout>
@@ -45,11 +43,11 @@ std::vector<int> NumberColumns(const ListTable& table) {
 
 } // namespace
 
-ListsPage::ListsPage(QWidget* parent)
+ListsPage::ListsPage(const ShowAccess& show, QWidget* parent)
     : QWidget(parent), lvwSeznamy(new ReportList("lvwSeznamy", {u"Seznam"_s}, this)),
       cmdCsv(Named(new QPushButton(u"Uložit jako &CSV…"_s, this), u"cmdCsv"_s)),
       cmdSheet(Named(new QPushButton(u"Uložit jako &tabulku…"_s, this), u"cmdSheet"_s)),
-      totals_(Named(new QLabel(this), u"lblCelkem"_s)) {
+      show_(show), totals_(Named(new QLabel(this), u"lblCelkem"_s)) {
     std::vector<ReportRow> lists;
     for (const OfficeListName& list : kOfficeLists)
         lists.push_back(
@@ -77,10 +75,9 @@ void ListsPage::LayOut() {
 
 void ListsPage::ShowList() {
     const int chosen = lvwSeznamy->SelectedRow();
-    const bool read = chosen >= 0 && OnShow([this, chosen] {
-                          table_ =
-                              ReadOfficeList(kOfficeLists[static_cast<std::size_t>(chosen)].list);
-                      });
+    const bool read = chosen >= 0 && show_.OnShow([this, chosen] {
+        table_ = ReadOfficeList(kOfficeLists[static_cast<std::size_t>(chosen)].list);
+    });
     cmdCsv->setEnabled(read);
     cmdSheet->setEnabled(read);
     if (read)
@@ -109,10 +106,10 @@ void ListsPage::ShowRows() {
 
 void ListsPage::Save(const QString& filter, const QString& ending,
                      const std::function<QByteArray(const ListTable&)>& bytes) {
-    const QString suggested = ThePlatform().programFolder + u'/' + table_.title + ending;
-    const QString path = ThePlatform().files->Save(u"Uložit seznam"_s, suggested, filter);
+    const QString suggested = show_.Folder() + u'/' + table_.title + ending;
+    const QString path = show_.Files().Save(u"Uložit seznam"_s, suggested, filter);
     if (!path.isEmpty())
-        SayingFailure([&] { ReplaceFile(path, bytes(table_)); });
+        show_.SayingFailure([&] { ReplaceFile(path, bytes(table_)); });
 }
 
 void ListsPage::SaveCsv() {

@@ -1,6 +1,7 @@
 #pragma once
 // The page that hands lists out to other programs.
 
+#include "manager/show_access.h"
 #include "office/exchange/office_lists.h"
 
 #include <QWidget>
@@ -15,7 +16,7 @@ class ReportList;
 class ListsPage : public QWidget {
     Q_OBJECT
   public:
-    explicit ListsPage(QWidget* parent);
+    ListsPage(const ShowAccess& show, QWidget* parent);
 
     /// Reads the chosen list anew and shows its rows and totals.
     void ShowList();
@@ -33,6 +34,7 @@ class ListsPage : public QWidget {
     void Save(const QString& filter, const QString& ending,
               const std::function<QByteArray(const ListTable&)>& bytes);
 
+    const ShowAccess show_;
     ReportList* rows_ = nullptr;
     QLabel* totals_;
     ListTable table_;

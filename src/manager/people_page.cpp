@@ -1,11 +1,8 @@
 #include "manager/people_page.h"
 
 #include "forms/controls.h"
-#include "manager/show_session.h"
-#include "office/copies/show_copies.h"
 #include "office/exchange/people_removal.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 
 #include <QVBoxLayout>
 
@@ -13,11 +10,11 @@ namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
-PeoplePage::PeoplePage(QWidget* parent)
+PeoplePage::PeoplePage(const ShowAccess& show, QWidget* parent)
     : QWidget(parent),
       cmdPreview(Named(new QPushButton(u"&Ukázat, co se vymaže"_s, this), u"cmdPreview"_s)),
       cmdRemove(Named(new QPushButton(u"&Vymazat údaje osob"_s, this), u"cmdRemove"_s)),
-      lblNahled(Named(new QLabel(this), u"lblNahled"_s)) {
+      lblNahled(Named(new QLabel(this), u"lblNahled"_s)), show_(show) {
     lblNahled->setWordWrap(true);
     lblNahled->setTextFormat(Qt::PlainText);
     lblNahled->setText(u"Po výstavě se tu dají vymazat údaje osob; psi, platby a součty zůstanou. "
@@ -33,19 +30,18 @@ PeoplePage::PeoplePage(QWidget* parent)
 
 void PeoplePage::Preview() {
     PeopleCounts counts;
-    if (!OnShow([&counts] { counts = CountPeople(); }))
+    if (!show_.OnShow([&counts] { counts = CountPeople(); }))
         return;
     lblNahled->setText(RemovalSentences(counts).join(u'\n'));
     cmdRemove->setEnabled(true);
 }
 
 void PeoplePage::Remove() {
-    MessageBoxes& messages = *ThePlatform().messages;
-    if (messages.Show(u"Skutečně vymazat údaje osob?"_s, MessageIcon::Question,
-                      MessageButtons::YesNoCancel, u"Správce dat"_s) != MessageAnswer::Yes)
+    if (show_.Ask(u"Skutečně vymazat údaje osob?"_s, MessageButtons::YesNoCancel) !=
+        MessageAnswer::Yes)
         return;
-    const bool removed = OnShowAlone([] {
-        MakeCopy(ThePlatform().programFolder, ThePlatform().clock->Now());
+    const bool removed = show_.OnShowAlone([this] {
+        show_.CopyNow();
         RemovePeople();
     });
     if (!removed)

@@ -1,6 +1,8 @@
 #pragma once
 // The page that takes people's data out after the show.
 
+#include "manager/show_access.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -11,7 +13,7 @@ namespace lorvo {
 class PeoplePage : public QWidget {
     Q_OBJECT
   public:
-    explicit PeoplePage(QWidget* parent);
+    PeoplePage(const ShowAccess& show, QWidget* parent);
 
     QPushButton* cmdPreview;
     QPushButton* cmdRemove; ///< greyed until the preview has been seen
@@ -20,6 +22,8 @@ class PeoplePage : public QWidget {
   private:
     void Preview();
     void Remove();
+
+    const ShowAccess show_;
 };
 
 } // namespace lorvo

@@ -2,9 +2,8 @@
 
 #include "manager/copy_commands.h"
 #include "manager/remembered_columns.h"
-#include "manager/show_session.h"
+#include "manager/show_access.h"
 #include "manager/taking_report_text.h"
-#include "office/copies/show_copies.h"
 #include "office/exchange/csv_text.h"
 #include "office/exchange/entry_book.h"
 #include "office/exchange/entry_source.h"
@@ -12,7 +11,6 @@
 #include "office/exchange/people_removal.h"
 #include "office/exchange/sheet_files.h"
 #include "office/exchange/show_check.h"
-#include "platform/platform.h"
 #include "platform/whole_file.h"
 #include "store/vystavy.h"
 
@@ -29,16 +27,16 @@ constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kNotUnderstood = 2;
 
-using Run = int (*)(const QStringList& arguments, QTextStream& out);
+using Run = int (*)(const ShowAccess& show, const QStringList& arguments, QTextStream& out);
 
-int SaveList(const QStringList& arguments, QTextStream& out) {
+int SaveList(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
     const QString& path = arguments[1];
     const auto* const list = std::ranges::find_if(kOfficeLists, [&](const OfficeListName& name) {
         return arguments[0] == QLatin1String(name.command);
     });
     if (list == kOfficeLists.end())
         return kNotUnderstood;
-    const bool saved = OnShow([&] {
+    const bool saved = show.OnShow([&] {
         const ListTable table = ReadOfficeList(list->list);
         ReplaceFile(path, IsSheetName(path) ? SheetBytes(table) : CsvBytes(TextRows(table)));
         out << QString::fromUtf16(list->title) << ": " << table.rows.size() << '\n';
@@ -46,9 +44,9 @@ int SaveList(const QStringList& arguments, QTextStream& out) {
     return saved ? kDone : kFailed;
 }
 
-int Check(const QStringList&, QTextStream& out) {
+int Check(const ShowAccess& show, const QStringList&, QTextStream& out) {
     ShowCheck check;
-    if (!OnShow([&check] { check = CheckShow(); }))
+    if (!show.OnShow([&check] { check = CheckShow(); }))
         return kFailed;
     for (const QString& line : check.faults + check.figures)
         out << line << '\n';
@@ -56,27 +54,27 @@ int Check(const QStringList&, QTextStream& out) {
 }
 
 /// The lines that nobody has to look at are taken, the others go into the file of the rest.
-int Take(const QStringList& arguments, QTextStream& out) {
+int Take(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
     const auto isNew = [](const EntryLine& line) {
         return line.state == LineState::New;
     };
-    const bool taken = OnShowAlone([&] {
+    const bool taken = show.OnShowAlone([&] {
         const EntrySource source(arguments[0]);
         const std::vector<Vystavy> shows = Shows();
-        const DateValue today = ThePlatform().clock->Now().DateOnly();
+        const DateValue today = show.Today();
         EntryBook book(shows.empty() ? 0 : shows.front().ID, today);
         const auto lines = JudgedLines(source.Rows(), RememberedColumns(source.Headings()), book);
         ReplaceFile(arguments[1], CsvBytes(RestOfTable(source.Headings(), lines, isNew)));
-        MakeCopy(ThePlatform().programFolder, ThePlatform().clock->Now());
+        show.CopyNow();
         out << TakingReportText(TakeEntries(lines, isNew, today), source.Path()) << '\n';
     });
     return taken ? kDone : kFailed;
 }
 
-int Remove(const QStringList&, QTextStream& out) {
-    const bool removed = OnShowAlone([&out] {
+int Remove(const ShowAccess& show, const QStringList&, QTextStream& out) {
+    const bool removed = show.OnShowAlone([&] {
         const PeopleCounts counts = CountPeople();
-        MakeCopy(ThePlatform().programFolder, ThePlatform().clock->Now());
+        show.CopyNow();
         RemovePeople();
         out << RemovalSentences(counts).join(u'\n') << '\n';
     });
@@ -117,15 +115,11 @@ int ExplainUse(QTextStream& out) {
 
 } // namespace
 
-bool IsScriptCommand(const QStringList& arguments) {
-    return !arguments.isEmpty();
-}
-
-int RunScriptCommand(const QStringList& arguments, QTextStream& out) {
+int RunScriptCommand(Platform& platform, const QStringList& arguments, QTextStream& out) {
     const Command* const command = CommandNamed(arguments.value(0));
     if (!command || arguments.size() != command->arguments + 1)
         return ExplainUse(out);
-    const int code = command->run(arguments.mid(1), out);
+    const int code = command->run(ShowAccess(platform), arguments.mid(1), out);
     return code == kNotUnderstood ? ExplainUse(out) : code;
 }
 

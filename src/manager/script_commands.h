@@ -7,12 +7,12 @@ class QTextStream;
 
 namespace lorvo {
 
-/// Runs the command that the arguments (without the program's name) tell and writes what came of
-/// it. Returns the exit code: 0 when it went through, 1 when it failed or found something wrong, 2
-/// when the arguments are not understood, which are then explained.
-int RunScriptCommand(const QStringList& arguments, QTextStream& out);
+struct Platform;
 
-/// Whether the arguments are a command at all; without one the window opens.
-bool IsScriptCommand(const QStringList& arguments);
+/// Runs the command that the arguments (without the program's name) tell on the show of the
+/// platform's folder and writes what came of it. Returns the exit code: 0 when it went through, 1
+/// when it failed or found something wrong, 2 when the arguments are not understood, which are then
+/// explained.
+int RunScriptCommand(Platform& platform, const QStringList& arguments, QTextStream& out);
 
 } // namespace lorvo

@@ -107,6 +107,7 @@ void CurrencyList::DeleteByCommand() {
         DeleteRow(selected);
 }
 
+// kept: two-roads-of-deleting-a-currency
 // The key asks less than the command: it doesn't look for payments in the currency.
 void CurrencyList::DeleteByKey() {
     const int selected = lvwCurrencies->SelectedRow();

@@ -21,7 +21,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 enum Box { kName, kAbbreviation, kRate };
+
+bool IsNumeric(const QString& text) {
+    return ThePlatform().locale->IsNumeric(text);
 }
+
+} // namespace
 
 QString CurrencyRateCaption() {
     return u"Kurs (x "_s + Module().MainCurrency + u"/ 1 jednotka)"_s;
@@ -46,10 +51,7 @@ void frmEditCurrency::BuildControls() {
         form->addRow(CaptionFor(txtEditCurr[i], captions[i], this), txtEditCurr[i]);
     }
     txtEditCurr[kName]->setMinimumWidth(220);
-    TellWhatFits(
-        *txtEditCurr[kRate],
-        [](const QString& text) { return ThePlatform().locale->IsNumeric(text); },
-        u"Kurs zapište jako číslo, například 25,50."_s);
+    TellWhatFits(*txtEditCurr[kRate], IsNumeric, u"Kurs zapište jako číslo, například 25,50."_s);
     chkMainCurr = Named(new QCheckBox(u"Používat jako hlavní měnu"_s, this), u"chkMainCurr"_s);
     auto* note = new QLabel(
         u"Tuto volbu nelze změnit, pokud již byla přijata alespoň jedna platba."_s, this);
@@ -101,7 +103,7 @@ void frmEditCurrency::FollowMainMark(bool main) {
 void frmEditCurrency::EnableOK() {
     cmdOK->setEnabled(!txtEditCurr[kName]->text().isEmpty() &&
                       !txtEditCurr[kAbbreviation]->text().isEmpty() &&
-                      ThePlatform().locale->IsNumeric(txtEditCurr[kRate]->text()));
+                      IsNumeric(txtEditCurr[kRate]->text()));
 }
 
 void frmEditCurrency::Store() {

@@ -138,6 +138,7 @@ void frmPlatba::FollowAmount(const QString& text) {
         lblPrepocteno->setText(kNothingConverted);
 }
 
+// kept: two-zeros-are-an-amount
 void frmPlatba::Store() {
     if (txtCastka->text().isEmpty() || txtCastka->text() == u"0") {
         Inform(*this, u"Částka nesprávně zadána"_s);
@@ -161,6 +162,7 @@ Uhrady frmPlatba::Payment() const {
     SetPaid(payment, AmountFromText(txtCastka->text()), ChosenCurrency());
     payment.Uhrada = cmbZpusob->currentIndex();
     payment.ID_Psa = Module().CurrentDogID;
+    // kept: account-of-cash
     payment.Ucet = acUcet->text();
     return payment;
 }

@@ -104,7 +104,7 @@ void frmPrehledPlateb::ShowMenu() {
 }
 
 void frmPrehledPlateb::MarkSelected(bool printed) {
-    const WaitCursor wait(*ThePlatform().ui);
+    const WaitCursor wait = Waiting();
     const std::vector<int> positions = lvwUhrady->SelectedRows();
     EditRun run(TheDataModule().Conn1);
     for (const int position : positions)

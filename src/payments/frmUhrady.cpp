@@ -51,6 +51,7 @@ int PickDog(int ownerID) {
 
 frmUhrady::frmUhrady(QWidget* parent)
     : Form("frmUhrady", u"Seznam plateb"_s, Border::Sizable, parent),
+      owner_(Module().PaymentsOwner),
       lvwUhrady(new ReportList(
           "lvwUhrady",
           {u"Částka"_s, u"Datum"_s, u"Částka v Kč"_s, u"Způsob úhrady"_s, u"Číslo účtu"_s}, this)) {
@@ -78,10 +79,6 @@ void frmUhrady::LayOut() {
     setMinimumSize(420, 240);
     resize(850, 380);
     lvwUhrady->setFocus();
-}
-
-bool frmUhrady::IsOwnersStatement() {
-    return Module().PaymentsOwner != 0;
 }
 
 void frmUhrady::Load() {
@@ -117,10 +114,11 @@ void frmUhrady::FillForDog() {
 void frmUhrady::FillForOwner() {
     InsertDogColumn();
     std::vector<ReportRow> rows;
+    // kept: statement-names-the-owner-under-work
     if (const auto owner = OwnerByID(Module().CurrentOwner))
         setWindowTitle(u"Seznam plateb vystavovatele "_s + owner->Jmeno);
     const CurrencyAbbreviations currencies;
-    for (const Psi& dog : DogsOfOwner(Module().PaymentsOwner, DogOrder::ByID))
+    for (const Psi& dog : DogsOfOwner(owner_, DogOrder::ByID))
         SkipFailure([&] { AddPaymentsOf(dog, currencies, rows); });
     lvwUhrady->SetRows(std::move(rows));
 }
@@ -155,7 +153,7 @@ void frmUhrady::AddPaymentsOf(const Psi& dog, const CurrencyAbbreviations& curre
 
 ReportRow frmUhrady::RowOf(const Uhrady& payment, const Psi& dog,
                            const CurrencyAbbreviations& currencies) const {
-    const auto looked = [](auto lookUp) {
+    const auto looked = [this](auto lookUp) {
         if (!IsOwnersStatement())
             return QString(lookUp());
         QString text;
@@ -179,7 +177,7 @@ ReportRow frmUhrady::RowOf(const Uhrady& payment, const Psi& dog,
 
 void frmUhrady::TakePayment() {
     if (IsOwnersStatement()) {
-        const int dogID = PickDog(Module().PaymentsOwner);
+        const int dogID = PickDog(owner_);
         if (dogID <= 0)
             return;
         Module().CurrentDogID = dogID;

@@ -28,7 +28,7 @@ class frmUhrady : public Form {
     bool QueryUnload() override;
 
   private:
-    static bool IsOwnersStatement();
+    bool IsOwnersStatement() const { return owner_ != 0; }
     void LayOut();
     void FillForDog();
     void FillForOwner();
@@ -42,6 +42,7 @@ class frmUhrady : public Form {
     void TakePayment();
     void DeleteSelected();
 
+    const int owner_; ///< 0 for the statement of a dog
     ReportList* lvwUhrady;
     bool hasDogColumn_ = false;
 };

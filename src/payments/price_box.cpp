@@ -9,6 +9,7 @@ namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
+// kept: unfilled-price-box
 QGroupBox* PriceBox(QWidget* parent) {
     auto* box = Named(new QGroupBox(parent), u"fraCena"_s);
     auto* form = new QFormLayout(box);

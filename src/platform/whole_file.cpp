@@ -23,14 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool Sync(int handle) {
-#ifdef Q_OS_WIN
-    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(handle))) != 0;
-#else
-    return fsync(handle) == 0;
-#endif
-}
-
 bool RenamedOver(const QString& from, const QString& to) {
 #ifdef Q_OS_WIN
     const auto wide = [](const QString& path) {
@@ -75,7 +67,7 @@ class Draft {
         ForgetLastFailure();
         if (!Open() || file_.write(bytes) != bytes.size() || !file_.flush())
             Fail(path, CauseOfFailure(file_));
-        if (!Sync(file_.handle()))
+        if (!SyncToDisk(file_))
             Fail(path, CauseOfLastFailure());
         file_.close(); // some systems rename no open file
     }
@@ -137,6 +129,14 @@ QByteArray ReadWholeFile(const QString& path) {
     if (file.error() != QFileDevice::NoError)
         FailOnFile(u"Soubor nelze přečíst"_s, path, CauseOfFailure(file));
     return bytes;
+}
+
+bool SyncToDisk(const QFileDevice& file) {
+#ifdef Q_OS_WIN
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
+#else
+    return fsync(file.handle()) == 0;
+#endif
 }
 
 void ReplaceFile(const QString& path, const QByteArray& bytes) {

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+class QFileDevice;
+
 namespace lorvo {
 
 /// What the file holds. One that can't be read to its end raises PlatformError, which names the
@@ -23,5 +25,8 @@ void RenameOver(const QString& from, const QString& to);
 /// ReplaceFile does.
 [[nodiscard]] QString WriteNewFile(const QString& folder, const QString& stem,
                                    const QString& ending, const QByteArray& bytes);
+
+/// Waits until what was written to an open file is on the disk; whether it is.
+[[nodiscard]] bool SyncToDisk(const QFileDevice& file);
 
 } // namespace lorvo

@@ -1,6 +1,7 @@
 #include "reports/export_window.h"
 
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
@@ -23,11 +24,6 @@ constexpr qint64 kEventInterval = 50;
 /// Leaves the caption room for its progress figure.
 constexpr int kMinimumWidth = 360;
 
-/// A file below the program's folder.
-QString ProgramFile(const QString& name) {
-    return QDir(ThePlatform().programFolder).filePath(name);
-}
-
 QString UnderWay() {
     return u"jede"_s;
 }
@@ -35,7 +31,12 @@ QString UnderWay() {
 } // namespace
 
 ExportWindow::ExportWindow(const ExportTraits& traits, QWidget* parent)
-    : Form(traits.name, traits.caption, Border::Fixed, parent), traits_(traits) {}
+    : Form(traits.name, traits.caption, Border::Fixed, parent), traits_(traits),
+      platform_(ThePlatform()) {}
+
+QString ExportWindow::ProgramFile(const QString& name) const {
+    return QDir(platform_.programFolder).filePath(name);
+}
 
 void ExportWindow::LayOut(QWidget* options) {
     chkHTML = Named(new QCheckBox(u"HTML formát"_s, this), u"chkHTML"_s);
@@ -64,6 +65,7 @@ QWidget* ExportWindow::NoOptions(QWidget* above) {
     return area;
 }
 
+// kept: two-clicks-to-restart
 // The tag outlives a run, so in a window that stays open the first click after a run only clears
 // it, and the second one starts again.
 void ExportWindow::StartOrStop() {
@@ -127,8 +129,8 @@ void ExportWindow::Run(bool asTemplate) {
 void ExportWindow::RunDocument() {
     ShownDocument document;
     {
-        const WaitCursor wait(*ThePlatform().ui);
-        const auto word = ThePlatform().wordProcessors->Create(traits_.paper);
+        const WaitCursor wait = Waiting();
+        const auto word = platform_.wordProcessors->Create(traits_.paper);
         TypeDocument(*word);
         document = word->Show();
     }
@@ -137,7 +139,7 @@ void ExportWindow::RunDocument() {
 
 void ExportWindow::ShowFailure(const QString& reason) {
     cmdOK->setProperty(kTag, QString());
-    ThePlatform().messages->Show(reason, MessageIcon::Stop, MessageButtons::Ok, windowTitle());
+    Refuse(*this, reason);
 }
 
 bool ExportWindow::Advance(int row, int rows) {
@@ -147,7 +149,7 @@ bool ExportWindow::Advance(int row, int rows) {
         setWindowTitle(traits_.title + traits_.progressText + QString::number(percent) + u'%');
     shownPercent_ = percent;
     if (newFigure || sinceEvents_.hasExpired(kEventInterval)) {
-        ThePlatform().ui->ProcessEvents();
+        platform_.ui->ProcessEvents();
         sinceEvents_.restart();
     }
     return !Preruseno;
@@ -175,19 +177,19 @@ bool ExportWindow::CheckTemplate(const ReportTemplate& pattern) const {
     const ReportTemplate::Fault fault = pattern.Check();
     if (fault == ReportTemplate::Fault::None)
         return true;
-    ThePlatform().messages->Show(fault == ReportTemplate::Fault::MarkerMissing
-                                     ? u"Šablona poškozena, položka nebyla nalezena."_s
-                                     : u"Šablona poškozena, nesouhlasí pořadí položek."_s,
-                                 MessageIcon::None, MessageButtons::Ok, u"Lorvo"_s);
+    platform_.messages->Show(fault == ReportTemplate::Fault::MarkerMissing
+                                 ? u"Šablona poškozena, položka nebyla nalezena."_s
+                                 : u"Šablona poškozena, nesouhlasí pořadí položek."_s,
+                             MessageIcon::None, MessageButtons::Ok, u"Lorvo"_s);
     return false;
 }
 
 void ExportWindow::WriteAndOpen(const QByteArray& output) const {
     const QString path = ProgramFile(traits_.outputFile);
-    ThePlatform().ui->ProcessEvents();
+    platform_.ui->ProcessEvents();
     ReplaceFile(path, output);
     // A page that nothing opens is no failure: it lies where the clerk knows it.
-    (void)ThePlatform().opener->OpenFile(path);
+    (void)platform_.opener->OpenFile(path);
 }
 
 bool ExportWindow::QueryUnload() {

@@ -12,6 +12,7 @@
 
 namespace lorvo {
 
+struct Platform;
 class WordProcessor;
 
 /// What the frame needs to know of a report.
@@ -80,8 +81,11 @@ class ExportWindow : public Form, public RunProgress {
     void Run(bool asTemplate);
     void RunDocument();
     void ShowFailure(const QString& reason);
+    /// A file below the program's folder.
+    QString ProgramFile(const QString& name) const;
 
     const ExportTraits traits_;
+    const Platform& platform_;
     bool Preruseno = false;
     bool running_ = false;
     bool closeAfterRun_ = false;

@@ -14,6 +14,7 @@ ExportTraits DiplomaTraits() {
     return {
         .name = "fmDiplom",
         .caption = u"Tisk diplomů"_s,
+        // kept: diplomas-named-catalogue
         .title = u"Export katalogu"_s,
         .startCaption = u"Tisk"_s,
         .closeCaption = u"Storno"_s,

@@ -1,6 +1,7 @@
 #include "reports/frmPrehledPlemen.h"
 
 #include "forms/controls.h"
+#include "forms/messages.h"
 #include "office/papers/breed_overview.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -40,16 +41,14 @@ void frmPrehledPlemen::Print() {
     try {
         document = PutOut();
     } catch (const Error& error) {
-        ThePlatform().messages->Show(QString::fromUtf8(error.what()), MessageIcon::Stop,
-                                     MessageButtons::Ok, windowTitle());
-        return;
+        return Refuse(*this, QString::fromUtf8(error.what()));
     }
     TellWhenNotOpened(document, windowTitle());
     accept();
 }
 
 ShownDocument frmPrehledPlemen::PutOut() const {
-    const WaitCursor wait(*ThePlatform().ui);
+    const WaitCursor wait = Waiting();
     const auto word = ThePlatform().wordProcessors->Create(u"Přehled plemen"_s);
     TypeBreedOverview(*word, txtTitle->text());
     return word->Show();

@@ -1,7 +1,7 @@
 #include "reports/frmTiskPlateb.h"
 
+#include "forms/messages.h"
 #include "office/papers/payment_report.h"
-#include "platform/platform.h"
 #include "store/uhrady.h"
 
 namespace lorvo {
@@ -41,14 +41,13 @@ void frmTiskPlateb::Finished() {
     Exported = true;
 }
 
+// kept: yes-marks-every-payment
 // The mark goes on every payment, listed or not.
 bool frmTiskPlateb::QueryUnload() {
     if (!ExportWindow::QueryUnload())
         return false;
-    if (Exported &&
-        ThePlatform().messages->Show(u"Označit všechny vyexportované platby jako 'vytištěné'?"_s,
-                                     MessageIcon::Question, MessageButtons::YesNo,
-                                     windowTitle()) == MessageAnswer::Yes)
+    if (Exported && Ask(*this, u"Označit všechny vyexportované platby jako 'vytištěné'?"_s,
+                        MessageButtons::YesNo) == MessageAnswer::Yes)
         MarkAllPaymentsPrinted();
     return true;
 }

@@ -67,7 +67,7 @@ void frmTiskSeznamuPsu::TypeDocument(WordProcessor& word) {
 }
 
 void frmTiskSeznamuPsu::RunTemplate() {
-    const WaitCursor wait(*ThePlatform().ui);
+    const WaitCursor wait = Waiting();
     const ReportTemplate pattern = ReadTemplate(TemplateKind::GroupedRows);
     const QByteArray output = CheckTemplate(pattern) ? MakeOutput(pattern) : QByteArray();
     if (!IsStopped())

@@ -77,6 +77,7 @@ void CodeListForm::EditEntry() {
         list_->StartLabelEdit(list_->SelectedRow());
 }
 
+// kept: untouched-edit-commits
 void CodeListForm::StoreEntry(int position, const QString& text, bool* cancel) {
     if (text.isEmpty()) {
         // The list keeps the empty text, the store what it has.

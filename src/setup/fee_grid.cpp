@@ -18,8 +18,9 @@ namespace {
 constexpr int kClassSlots = 18;
 constexpr int kSimpleFirst = 18;
 constexpr int kSimpleNext = 19;
-// Class 9 lies crosswise: the row of the first dog carries D2, that of the next dog D1. Shows of
-// earlier years were stored so, and the fees read the fields as they are named.
+// kept: class-nine-crosswise
+// Class 9 lies crosswise: the row of the first dog carries D2, that of the next dog D1. The fees
+// read the fields as they are named.
 constexpr int kAdolescentNext = 16;
 constexpr int kAdolescentFirst = 17;
 
@@ -149,6 +150,7 @@ void FeeGrid::CopyFirstClassToSimple() {
     }
 }
 
+// kept: equal-fees-flatten-classes
 void FeeGrid::SpreadSimple() {
     for (const auto* boxes : {&txtPrice1, &txtPrice2}) {
         const QString first = (*boxes)[kSimpleFirst]->text();

@@ -68,7 +68,7 @@ void fm_Plemena::Load() {
 void fm_Plemena::LoadTree() {
     Module().BreedsDirty = false;
     result_ = {};
-    const WaitCursor waiting(*ThePlatform().ui);
+    const WaitCursor waiting = Waiting();
     tvwPlemena->Model().SetNodes(ReadRegister(HideUnused));
     ShowStatus();
 }
@@ -128,6 +128,7 @@ void fm_Plemena::Tick(int ID) {
     ShowStatus();
 }
 
+// kept: storno-leaves-the-new-breed
 void fm_Plemena::AddSubgroup() {
     BreedNode* breed = tvwPlemena->SelectedNode();
     if (!breed || breed->parent)
@@ -234,6 +235,7 @@ void fm_Plemena::CarryOutMenu(BreedNode& node, int number) {
     }
 }
 
+// kept: unassigned-word-in-wrong-cell
 void fm_Plemena::AssignFci(BreedNode& node, int fci) {
     result_.changed = true;
     SetBreedFci(node.ID, fci);

@@ -2,7 +2,7 @@
 
 #include "app/common_routines.h"
 #include "app/main_window_services.h"
-#include "app/module_values.h"
+#include "app/view_preferences.h"
 #include "forms/controls.h"
 #include "forms/messages.h"
 #include "office/copies/sweep_copy.h"
@@ -32,6 +32,7 @@ const DateValue kUnknownShowDate = DateValue::FromCalendar(2000, 1, 1);
 
 const QString kPreferences = u"Sys"_s;
 
+// kept: settings-never-untick
 void TickIfPreferred(QCheckBox& box, const char* name) {
     if (ReadRegValue(kPreferences, QString::fromLatin1(name)) == u"1")
         box.setChecked(true);
@@ -128,8 +129,9 @@ void fm_Settings::SetNumbered(bool numbered) {
 void fm_Settings::LoadLooks() {
     TickIfPreferred(*chkGrids, "ShowGrid");
     TickIfPreferred(*chkShowClasses, "ShowClasses");
+    // kept: siblings-option-unread
     TickIfPreferred(*chkSourozenci, "ShowSiblings");
-    chkRememberItem->setChecked(Module().RememberTreeOn);
+    chkRememberItem->setChecked(TheMainWindow().Look().rememberTree);
 }
 
 void fm_Settings::Store() {
@@ -137,7 +139,7 @@ void fm_Settings::Store() {
     StorePreference(*chkGrids, "ShowGrid");
     StorePreference(*chkShowClasses, "ShowClasses");
     StorePreference(*chkSourozenci, "ShowSiblings");
-    Module().RememberTreeOn = chkRememberItem->isChecked();
+    TheMainWindow().Look().rememberTree = chkRememberItem->isChecked();
     SetClosingsOfFirstShow(PickedDate(*dtPrvniUzaverka), PickedDate(*dtDruhaUzaverka));
     accept();
 }
@@ -149,7 +151,7 @@ bool fm_Settings::Confirm(const QString& question) const {
 void fm_Settings::GenerateNumbers() {
     if (!Confirm(u"Určitě vygenerovat pořadová čísla psů?"_s))
         return;
-    const WaitCursor waiting(*ThePlatform().ui);
+    const WaitCursor waiting = Waiting();
     CopyBeforeSweep();
     GenerateCatalogueNumbers(TheMainWindow().Nodes());
     SetNumbered(true);
@@ -158,7 +160,7 @@ void fm_Settings::GenerateNumbers() {
 void fm_Settings::RemoveNumbers() {
     if (!Confirm(u"Určitě zrušit pořadová čísla psů?"_s))
         return;
-    const WaitCursor waiting(*ThePlatform().ui);
+    const WaitCursor waiting = Waiting();
     if (CountDogs() == 0)
         return;
     CopyBeforeSweep();

@@ -21,6 +21,7 @@ QLabel* Note(const QString& text, QWidget* parent) {
     return note;
 }
 
+// kept: classes-by-mouse
 /// Changing the tree's shape by the mouse makes the tree stale at once, before anything is stored.
 class ShapeWatcher : public QObject {
   public:

@@ -103,6 +103,7 @@ int fm_Souteze::CompetitionAt(int position) const {
     return lvwSouteze->Row(position).key.mid(1).toInt();
 }
 
+// kept: rename-without-duplicates
 void fm_Souteze::Rename(int position, const QString& text, bool* cancel) {
     if (text.isEmpty()) {
         Refuse(*this, u"Název musí být zadán!"_s);
@@ -144,6 +145,7 @@ void fm_Souteze::FillAndReselect(const QString& text) {
         lvwSouteze->SelectRow(row);
 }
 
+// kept: refusal-by-the-list
 void fm_Souteze::RemoveSelected() {
     const int selected = lvwSouteze->SelectedRow();
     if (selected < 0)

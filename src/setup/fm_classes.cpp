@@ -18,7 +18,8 @@ namespace {
 constexpr int kRows = 10;
 }
 
-// The bar's buttons have never acted; names are edited by a click on the text.
+// kept: dead-toolbar-of-classes
+// The bar's buttons do nothing; names are edited by a click on the text.
 fm_classes::fm_classes(QWidget* parent)
     : Form("fm_classes", u"Třídy"_s, Border::Sizable, parent),
       lvwClasses(new ReportList("lvwClasses", {u"Název třídy"_s, u"Počet psů"_s}, this)) {
@@ -34,10 +35,11 @@ fm_classes::fm_classes(QWidget* parent)
 }
 
 void fm_classes::Load() {
-    Module().BreedsDirty = false;
+    ModuleValues& shared = Module();
+    shared.BreedsDirty = false;
     std::vector<ReportRow> rows;
     for (int trida = 1; trida <= kRows; ++trida) {
-        const QString& name = Module().ClassNames[static_cast<std::size_t>(trida - 1)];
+        const QString& name = shared.ClassNames[static_cast<std::size_t>(trida - 1)];
         if (!name.isEmpty())
             rows.push_back({u"C"_s + QString::number(trida),
                             {},
@@ -54,8 +56,9 @@ void fm_classes::Rename(int position, const QString& text, bool* cancel) {
         *cancel = true;
         return;
     }
-    Module().ClassNames[static_cast<std::size_t>(position)] = text;
-    Module().BreedsDirty = true;
+    ModuleValues& shared = Module();
+    shared.ClassNames[static_cast<std::size_t>(position)] = text;
+    shared.BreedsDirty = true;
 }
 
 } // namespace lorvo

@@ -146,9 +146,10 @@ void frmCisteniDB::Clear() {
 }
 
 void frmCisteniDB::ClearTables() {
-    const WaitCursor waiting(*ThePlatform().ui);
+    const WaitCursor waiting = Waiting();
     CopyBeforeSweep();
     DeleteAllDogs();
+    // kept: clearing-leaves-rings-of-breeds
     DeleteAllRings();
     DeleteAllCompetitionEntries();
     DeleteAllShowEntries();

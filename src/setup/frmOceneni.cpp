@@ -9,6 +9,8 @@ namespace lorvo {
 // Two things are meant so: an award may not bear the name of a colour, but may bear that of another
 // award; and a deletion takes the award's links alone, so that the award itself is back when the
 // window opens again.
+// kept: awards-among-colours
+// kept: deleted-award-comes-back
 frmOceneni::frmOceneni(QWidget* parent)
     : CodeListForm(kAwardTexts,
                    {[] { return CodeListRows(Awards()); }, CountDogsWithAward, CountColoursNamed,

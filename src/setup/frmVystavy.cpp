@@ -70,6 +70,7 @@ void frmVystavy::Rename(int position, const QString& text, bool* cancel) {
         Refuse(*this, u"Název musí být zadán!"_s);
         *cancel = true;
     } else if (CountShowsNamed(text) > 0) {
+        // kept: same-name-in-other-capitals
         // The row itself counts too: a name in other capitals is refused as well.
         Refuse(*this, u"Výstava s tímto názvem již existuje!"_s);
         *cancel = true;
@@ -108,6 +109,7 @@ void frmVystavy::DeleteSelectedShow() {
     if (const int dogs = CountDogsInShow(vystavaID))
         return Refuse(
             *this,
+            // kept: psu-for-every-number
             u"Tuto výstavu není možno smazat, protože je v ní přihlášeno %1 psů."_s.arg(dogs));
     if (CountShows() == 1)
         return Refuse(*this,

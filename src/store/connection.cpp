@@ -4,13 +4,10 @@
 #include "store/connection_internals.h"
 #include "store/database_file.h"
 #include "store/engine_failure.h"
-#include "store/leftover_journal.h"
 #include "store/lock_wait.h"
+#include "store/show_file.h"
 #include "store/sql_functions.h"
 
-#include <QUrl>
-#include <algorithm>
-#include <array>
 #include <sqlite3.h>
 
 namespace lorvo {
@@ -26,29 +23,7 @@ constexpr int kPagesPerCheckpoint = 1000; ///< the engine's own measure
 /// The first failure of the disk that was skipped and that nobody has been told of.
 QString skippedDiskFailure;
 
-constexpr std::array kShowTables = {"Barvy",          "Kruhy",   "Plemena",   "Psi",
-                                    "Vazby_Trida",    "Ostatni", "Majitele",  "Souteze",
-                                    "Vazby_Souteze",  "Meny",    "Uhrady",    "Vystavy",
-                                    "PsiVeVystavach", "Oceneni", "PsiOceneni"};
-
 using DatabasePointer = std::unique_ptr<SQLite::Database>;
-
-/// Reads the file as it lies there, with no lock and no journal, so that a file that isn't
-/// accepted stays untouched.
-DatabasePointer OpenForChecking(const QString& path) {
-    const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() + "?immutable=1";
-    return std::make_unique<SQLite::Database>(uri.toStdString(),
-                                              SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
-}
-
-/// `content`, which outlives it, as a database in memory.
-DatabasePointer OpenInMemory(QByteArray& content) {
-    auto database = std::make_unique<SQLite::Database>(":memory:", SQLITE_OPEN_READWRITE);
-    auto* bytes = reinterpret_cast<unsigned char*>(content.data());
-    database->check(sqlite3_deserialize(database->getHandle(), "main", bytes, content.size(),
-                                        content.size(), SQLITE_DESERIALIZE_READONLY));
-    return database;
-}
 
 DatabasePointer OpenForWork(const QString& path) {
     auto database = std::make_unique<SQLite::Database>(path.toStdString(),
@@ -59,34 +34,6 @@ DatabasePointer OpenForWork(const QString& path) {
     database->exec("PRAGMA cell_size_check = ON");
     database->exec("PRAGMA cache_size = -8000"); // kilobytes: a whole show stays in memory
     return database;
-}
-
-void RequireShowTables(const Schema& schema, const QString& path) {
-    const bool hasAny = std::any_of(kShowTables.begin(), kShowTables.end(), [&](const char* name) {
-        return schema.FindTable(name) != nullptr;
-    });
-    if (!hasAny)
-        throw StoreError(AboutFile(path, u"v souboru není žádná tabulka programu Lorvo"_s));
-}
-
-/// Every page that a table or an index uses can be read and makes sense.
-void RequireWholePages(SQLite::Database& database, const QString& path) {
-    SQLite::Statement check(database, "PRAGMA quick_check(1)");
-    if (!check.executeStep() || check.getColumn(0).getString() != "ok")
-        throw CorruptStoreError(AboutFile(path, u"soubor je poškozený"_s));
-}
-
-/// Raises what speaks against working on the file; touches neither it nor a journal beside it.
-void RequireShow(const QString& path) {
-    RequireDatabaseFile(path);
-    if (!HasLeftoverJournal(path)) {
-        RequireShowTables(ReadSchema(*OpenForChecking(path)), path);
-        return;
-    }
-    QByteArray content = CompletedContent(path);
-    const DatabasePointer completed = OpenInMemory(content);
-    RequireShowTables(ReadSchema(*completed), path);
-    RequireWholePages(*completed, path);
 }
 
 /// Write-ahead logging makes a single edit durable by one sync of the disk.

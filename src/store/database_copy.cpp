@@ -1,18 +1,13 @@
 #include "store/database_copy.h"
 
 #include "platform/values/errors.h"
+#include "platform/whole_file.h"
 #include "store/database_file.h"
 #include "store/engine_failure.h"
 
 #include <QFile>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
-
-#ifdef Q_OS_WIN
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
 
 namespace lorvo {
 
@@ -82,14 +77,7 @@ DatabaseFigures CopyAll(const QString& sourcePath, const QString& targetPath) {
 
 void SyncFile(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadWrite))
-        throw StoreError(AboutFile(path, u"kopii nelze zapsat na disk"_s));
-#ifdef Q_OS_WIN
-    const bool synced = _commit(file.handle()) == 0;
-#else
-    const bool synced = fsync(file.handle()) == 0;
-#endif
-    if (!synced)
+    if (!file.open(QIODevice::ReadWrite) || !SyncToDisk(file))
         throw StoreError(AboutFile(path, u"kopii nelze zapsat na disk"_s));
 }
 

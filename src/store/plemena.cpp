@@ -49,10 +49,6 @@ std::vector<Plemena> UsedBreedsOutsideRings() {
     return Breeds("WHERE ID_Kruhu = 0 AND Pouzivat = true ORDER BY Nazev");
 }
 
-std::vector<Plemena> BreedsOfRing(int kruhID) {
-    return Breeds("WHERE ID_Kruhu = " + Number(kruhID) + " ORDER BY Nazev");
-}
-
 std::vector<Plemena> BreedsByRing() {
     return Breeds("WHERE ID_Kruhu <> 0 ORDER BY ID_Kruhu, Nazev");
 }

@@ -28,9 +28,7 @@ enum class BreedFilter { All, Used };
 Plemena ExistingBreed(int plemenoID);
 /// Breeds in use that are in no ring, in Czech order of Nazev.
 std::vector<Plemena> UsedBreedsOutsideRings();
-/// All breeds of a ring, in use or not, in Czech order of Nazev.
-std::vector<Plemena> BreedsOfRing(int kruhID);
-/// The breeds of all rings, by ID_Kruhu, and within a ring as BreedsOfRing has them.
+/// The breeds of all rings, in use or not, by ID_Kruhu, and within a ring in Czech order of Nazev.
 std::vector<Plemena> BreedsByRing();
 /// All breeds in use, in Czech order of Nazev.
 std::vector<Plemena> UsedBreedsByName();

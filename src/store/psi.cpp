@@ -16,15 +16,7 @@ RecordSet& Table() {
 }
 
 std::string OrderClause(DogOrder order) {
-    switch (order) {
-    case DogOrder::ByName:
-        return " ORDER BY Jmeno ASC";
-    case DogOrder::ByNameDescending:
-        return " ORDER BY Jmeno DESC";
-    case DogOrder::ByID:
-        break;
-    }
-    return {};
+    return order == DogOrder::ByName ? " ORDER BY Jmeno ASC" : "";
 }
 
 Assignments EditedFields(const Psi& dog) {

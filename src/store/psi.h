@@ -47,18 +47,16 @@ struct TreeDog {
     bool PrvniUzaverka = false;
 };
 
-enum class DogOrder { ByID, ByName, ByNameDescending };
+enum class DogOrder { ByID, ByName };
 
 [[nodiscard]] std::optional<Psi> DogByID(int psiID);
 /// The same; StoreError when the dog is gone.
 Psi ExistingDog(int psiID);
 /// Dogs of an owner; names in Czech order.
 std::vector<Psi> DogsOfOwner(int majitelID, DogOrder order = DogOrder::ByName);
-/// All dogs, by PlemenoID, and within a breed as TreeDogsOfBreed has them.
+/// All dogs, by PlemenoID, and within a breed as the tree shows them: males first, then by class,
+/// then by name.
 std::vector<Psi> DogsByBreed();
-/// Dogs of a breed as the tree shows them: males first, then by class, then by name.
-std::vector<TreeDog> TreeDogsOfBreed(int plemenoID);
-/// All dogs, by PlemenoID, and within a breed as TreeDogsOfBreed has them.
 std::vector<TreeDog> TreeDogsByBreed();
 /// MajitelID of a dog; nullopt when there is no such dog.
 [[nodiscard]] std::optional<int> OwnerOfDog(int psiID);

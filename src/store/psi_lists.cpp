@@ -30,6 +30,7 @@ std::vector<Psi> DogsByNumber() {
     return ReadDogs("ORDER BY Cislo ASC");
 }
 
+// kept: five-typed-confirmations
 std::vector<Psi> FirstFiveDogsByNumber() {
     return ReadDogs("ORDER BY Cislo ASC", "TOP 5 ");
 }

@@ -201,18 +201,9 @@ void RecordSet::Close() {
     state_->edit = Edit::None;
 }
 
-bool RecordSet::IsOpen() const {
-    return state_->translation != nullptr;
-}
-
 int RecordSet::RecordCount() const {
     state_->RequireOpen();
     return static_cast<int>(state_->rows.size());
-}
-
-int RecordSet::FieldCount() const {
-    state_->RequireOpen();
-    return static_cast<int>(state_->translation->columns.size());
 }
 
 bool RecordSet::Eof() const {

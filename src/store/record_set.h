@@ -28,10 +28,8 @@ class RecordSet {
     /// and leaves the set shut.
     void Open(std::string_view statement);
     void Close();
-    bool IsOpen() const;
 
     int RecordCount() const;
-    int FieldCount() const;
     bool Eof() const;
     void MoveNext();
 

@@ -108,6 +108,7 @@ void UpdateShow(int vystavaID, const QString& nazev,
     ChangeRow(Table(), "Vystavy", vystavaID, fields);
 }
 
+// kept: clearing-fees-of-first-show
 void ClearFeesOfFirstShow() {
     Assignments fields;
     for (const std::string& column : FeeColumns())

@@ -30,12 +30,6 @@ TreeDog ReadTreeDog(const Query& row) {
 
 } // namespace
 
-std::vector<TreeDog> TreeDogsOfBreed(int plemenoID) {
-    return ReadMany(std::string(kTreeDogs) + " WHERE Psi!PlemenoID = " + Number(plemenoID) +
-                        " ORDER BY PohlaviPes ASC, Trida ASC, Jmeno ASC",
-                    ReadTreeDog);
-}
-
 std::vector<TreeDog> TreeDogsByBreed() {
     std::vector<TreeDog> dogs;
     std::vector<BreedPlace> places;

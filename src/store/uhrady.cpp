@@ -54,10 +54,6 @@ PaymentRow ReadPaymentRow(const Query& row) {
 
 } // namespace
 
-std::optional<Uhrady> PaymentByID(int uhradaID) {
-    return ReadFirst(Table(), "SELECT * FROM Uhrady WHERE ID = " + Number(uhradaID), ReadUhrady);
-}
-
 Currency PaidForDog(int psiID) {
     return ReadScalar(Table(), "SELECT SUM (Kc) FROM Uhrady WHERE ID_Psa = " + Number(psiID))
         .ToCurrency();

@@ -44,7 +44,6 @@ struct PaymentRow {
     QString MajX; ///< surname, name and town of the owner; empty when one of them is Null
 };
 
-[[nodiscard]] std::optional<Uhrady> PaymentByID(int uhradaID);
 /// Sum of Kc over the dog's payments; 0 when there are none.
 Currency PaidForDog(int psiID);
 /// The same for all dogs that have a payment, by the dog's ID.

@@ -96,6 +96,7 @@ TEST_F(StartUp, ACurrencyWithoutAbbreviationBecomesMainBeforeTheFirst) {
     EXPECT_EQ(Module().MainCurrency, QString());
 }
 
+// kept: first-mark-wins
 TEST_F(StartUp, OfTwoMainCurrenciesTheFirstWins) {
     AddCurrency(u"USD"_s, false);
     AddCurrency(u"EUR"_s, true);
@@ -128,32 +129,23 @@ TEST_F(StartUp, AMissingTableOfCurrenciesIsPassedOverInSilence) {
 TEST_F(StartUp, ClassesAreShownOnlyByTheTextOne) {
     for (const QString& text : {QString(), u"0"_s, u"2"_s, u"true"_s}) {
         SetSetting(u"ShowClasses"_s, text);
-        ReadShowClasses();
-        EXPECT_FALSE(Module().ShowClassesOn) << text.toStdString();
+        EXPECT_FALSE(ShowClassesPreferred()) << text.toStdString();
     }
     SetSetting(u"ShowClasses"_s, u"1"_s);
-    ReadShowClasses();
-    EXPECT_TRUE(Module().ShowClassesOn);
+    EXPECT_TRUE(ShowClassesPreferred());
 }
 
-TEST_F(StartUp, ARememberedNodeSwitchesRememberingOn) {
+TEST_F(StartUp, TheNodeSelectedLastIsRemembered) {
+    EXPECT_EQ(RememberedNode(), QString());
     SetSetting(u"RememberTree"_s, u"P12"_s);
     EXPECT_EQ(RememberedNode(), u"P12"_s);
-    EXPECT_TRUE(Module().RememberTreeOn);
-}
-
-TEST_F(StartUp, WithoutARememberedNodeRememberingIsOff) {
-    Module().RememberTreeOn = true;
-    EXPECT_EQ(RememberedNode(), QString());
-    EXPECT_FALSE(Module().RememberTreeOn);
 }
 
 TEST_F(StartUp, TheTreesStateIsStoredWhenRemembered) {
-    Module().RememberTreeOn = true;
-    StoreTreeState(u"R5"_s, {u"K1"_s, u"R5"_s});
+    RememberTree(u"R5"_s, {u"K1"_s, u"R5"_s});
     EXPECT_EQ(Setting(u"RememberTree"_s), u"R5"_s);
     EXPECT_EQ(Setting(u"ExpandedItems"_s), u"K1|R5"_s);
-    StoreTreeState(QString(), {});
+    RememberTree(QString(), {});
     EXPECT_EQ(Setting(u"RememberTree"_s), u"R5"_s) << "no selected node overwrites nothing";
     EXPECT_EQ(Setting(u"ExpandedItems"_s), QString());
 }
@@ -161,7 +153,7 @@ TEST_F(StartUp, TheTreesStateIsStoredWhenRemembered) {
 TEST_F(StartUp, WithoutRememberingOnlyTheNodeIsForgotten) {
     SetSetting(u"RememberTree"_s, u"R5"_s);
     SetSetting(u"ExpandedItems"_s, u"K1|R5"_s);
-    StoreTreeState(u"R7"_s, {u"K2"_s});
+    ForgetTree();
     EXPECT_EQ(Setting(u"RememberTree"_s), QString());
     EXPECT_EQ(Setting(u"ExpandedItems"_s), u"K1|R5"_s);
 }

@@ -37,7 +37,6 @@ class DogEditorTest : public RoutinesTest {
                                 {"Mesto", Text("Zlín")},
                                 {"PSC", 76001}});
         tree.AddNode(Breed(), Text("Chodský pes"));
-        Module().CurrentBreedID = breed;
     }
 
     QString Breed() const { return QStringLiteral("R%1").arg(breed); }
@@ -45,17 +44,15 @@ class DogEditorTest : public RoutinesTest {
 
     /// Opens the window to add a dog to the breed.
     void AddDog(const std::function<void(QWidget&)>& inside) {
-        Module().IsAddingDog = true;
         tree.selected = Breed();
-        Open(inside);
+        Open({true, breed}, inside);
     }
     /// Opens the window on a dog of the tree.
     void EditDog(int dog, const std::function<void(QWidget&)>& inside) {
-        Module().IsAddingDog = false;
         tree.selected = Node(dog);
         if (!tree.NodeExists(Node(dog)))
             tree.AddNode(Node(dog), Text("Rex"), Breed());
-        Open(inside);
+        Open({false, breed}, inside);
     }
     /// A dog in the database: born 14.5.2003, of Jana, in the open class.
     int StoredDog(Assignments more = {}) {
@@ -115,8 +112,8 @@ class DogEditorTest : public RoutinesTest {
     int petr = 0;
 
   private:
-    static void Open(const std::function<void(QWidget&)>& inside) {
-        fm_Dog window(nullptr);
+    static void Open(const DogTask& task, const std::function<void(QWidget&)>& inside) {
+        fm_Dog window(task, nullptr);
         WhileOpen([&] { OpenModal(window); }, inside);
     }
 };

@@ -35,7 +35,7 @@ TEST_F(AddDogTest, StoresWhatTheBoxesHold) {
     EXPECT_EQ(Dog("BarvaID"), "0");
     EXPECT_EQ(Dog("PrvniUzaverka"), "-1");
     EXPECT_TRUE(IsNull("SELECT Cislo FROM Psi"));
-    EXPECT_EQ(TheDataModule().rsPsi.IsOpen(), false);
+    EXPECT_THROW(TheDataModule().rsPsi.Eof(), StoreError) << "left open";
 }
 
 TEST_F(AddDogTest, StoresTheDateOfBirthWithoutATime) {
@@ -54,18 +54,18 @@ TEST_F(AddDogTest, AddsTheNodeToItsBreedAndSelectsIt) {
     const QString node = Node(Module().CurrentDogID);
     EXPECT_EQ(tree.calls, (QStringList{u"AddDogNode %1 %2 Alík male"_s.arg(Breed(), node),
                                        u"SelectNode %1"_s.arg(node)}));
-    EXPECT_EQ(Module().SavedOwnerID, petr);
+    EXPECT_EQ(Dog("MajitelID"), std::to_string(petr));
 }
 
 TEST_F(AddDogTest, AddsTheNodeToItsClassWhileTheTreeShowsClasses) {
-    Module().ShowClassesOn = true;
+    tree.look.showClasses = true;
     const QString node = u"TR%1|5"_s.arg(breed);
     tree.AddNode(node, Text("otevřená"), Breed());
     AddDog([&](QWidget& window) {
         FillIn(window);
         Press(window, "cmd_OK");
     });
-    EXPECT_EQ(tree.ParentNode(tree.selected), node);
+    EXPECT_EQ(tree.ParentOf(tree.selected), node);
 }
 
 TEST_F(AddDogTest, TheOnlyDogOfAnOwnerIsTheFirstOneAndTheNextIsNot) {
@@ -142,7 +142,7 @@ TEST_F(AddDogTest, StartsWithADogAndTodaysDate) {
 }
 
 TEST_F(AddDogTest, ANodeThatIsGoneFailsWithTheDogStored) {
-    Module().ShowClassesOn = true;
+    tree.look.showClasses = true;
     EXPECT_THROW(AddDog([&](QWidget& window) {
                      FillIn(window);
                      Press(window, "cmd_OK");

@@ -64,6 +64,7 @@ class CompetitionEntriesTest : public RoutinesTest {
     RecordingPlatform platform;
 };
 
+// kept: ok-empties-the-competition
 TEST_F(CompetitionEntriesTest, OpensWithoutRowsAndOKEmptiesTheCompetitionAlone) {
     const int competition = AddCompetition();
     OpenEntries(competition, [&](QWidget& window) {

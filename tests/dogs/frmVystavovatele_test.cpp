@@ -152,6 +152,7 @@ TEST_F(ExhibitorListTest, ADoubleClickEditsTheOwnerAndReadsTheRowBack) {
     EXPECT_EQ(Column("SELECT Jmeno FROM Majitele WHERE ID = 1"), Texts{"Jana O'Neill"});
 }
 
+// kept: owner-deleted-by-email-zero
 TEST_F(ExhibitorListTest, AnOwnerIsDeletedOnlyWhenTheAddressReadsZero) {
     Open([this](QWidget& window) {
         ReportList& list = List(window);
@@ -220,6 +221,7 @@ TEST_F(ExhibitorListTest, ARightClickBelowTheRowsOpensNothing) {
     });
 }
 
+// kept: figures-one-column-left
 TEST_F(ExhibitorListTest, AfterTheStatementTheFiguresStandOneColumnTooFarLeft) {
     Open([this](QWidget& window) {
         ReportList& list = List(window);

@@ -174,8 +174,8 @@ TEST_F(SetUpShow, FromTheDeliveredDatabaseToTheFirstNumber) {
     EXPECT_EQ(shows[0].Uzaverka1, DateValue::FromCalendar(2005, 4, 10));
     EXPECT_FALSE(shows[1].Uzaverka1);
     EXPECT_EQ(ShowFees(shows[1].ID)[35], Currency::FromUnits(1217));
-    EXPECT_EQ(window->ParentNode(u"R%1"_s.arg(kShepherd)), u"K1");
-    EXPECT_EQ(window->ParentNode(u"R%1"_s.arg(kPoodle)), u"K2");
+    EXPECT_EQ(window->Nodes().Get(u"R%1"_s.arg(kShepherd)).parent->Key(), u"K1");
+    EXPECT_EQ(window->Nodes().Get(u"R%1"_s.arg(kPoodle)).parent->Key(), u"K2");
     EXPECT_EQ(DogByID(1)->Cislo, 1);
     EXPECT_EQ(window->NodeText(u"P1"_s), u"1 Alík");
     EXPECT_TRUE(DogByID(1)->PrvniPes);

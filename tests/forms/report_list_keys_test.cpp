@@ -1,5 +1,6 @@
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "forms/report_rows.h"
 #include "platform/menu_place.h"
 
 #include <QClipboard>
@@ -18,14 +19,6 @@ namespace lorvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-ReportRow MakeRow(const char* key, std::initializer_list<const char*> texts) {
-    ReportRow row;
-    row.key = QString::fromUtf8(key);
-    for (const char* text : texts)
-        row.cells.push_back({QString::fromUtf8(text)});
-    return row;
-}
 
 /// A list of three rows above the default button of its window.
 class ReportListKeysTest : public ::testing::Test {

@@ -1,6 +1,7 @@
 #include "forms/report_list.h"
 
 #include "forms/controls.h"
+#include "forms/report_rows.h"
 
 #include <QHeaderView>
 #include <QSignalSpy>
@@ -12,14 +13,6 @@ namespace lorvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-ReportRow MakeRow(const char* key, std::initializer_list<const char*> texts) {
-    ReportRow row;
-    row.key = QString::fromUtf8(key);
-    for (const char* text : texts)
-        row.cells.push_back({QString::fromUtf8(text), {}, -1});
-    return row;
-}
 
 class ReportListTest : public ::testing::Test {
   protected:

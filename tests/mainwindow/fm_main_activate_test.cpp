@@ -68,7 +68,7 @@ TEST_F(MainWindowActivate, ReadsAgainWhetherClassesAreShown) {
         Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
         Module().TreeDirty = true;
     });
-    EXPECT_TRUE(Module().ShowClassesOn);
+    EXPECT_TRUE(window_->Look().showClasses);
     EXPECT_TRUE(window_->NodeExists(u"TR10|1"_s));
 }
 

@@ -2,6 +2,7 @@
 // The whole main window on a recording platform and a database of the test's own.
 
 #include "app/module_values.h"
+#include "app/view_preferences.h"
 #include "forms/form.h"
 #include "mainwindow/fm_main.h"
 #include "mainwindow/main_tree.h"
@@ -40,7 +41,7 @@ class PassingForm : public Form {
 class StandIn {
   public:
     StandIn(const QString& name, const std::function<void()>& deed) : name_(name) {
-        before_ = SetWindow(name, [name, deed](QWidget* parent) {
+        before_ = SetWindow(name, [name, deed](const WindowInput&, QWidget* parent) {
             return std::make_unique<PassingForm>(name, deed, parent);
         });
     }

@@ -35,9 +35,6 @@ TEST_F(MainWindowStart, OtherWindowsReachTheTreeThroughTheServices) {
     Start();
     MainWindowServices& services = TheMainWindow();
     EXPECT_EQ(&services.Nodes(), &Tree().Nodes());
-    EXPECT_EQ(services.ParentNode(u"P100"_s), u"R10"_s);
-    EXPECT_EQ(services.ParentNode(u"K1"_s), QString());
-    EXPECT_EQ(services.NodeTag(u"P100"_s), u"P 100"_s);
     services.AddDogNode(u"R11"_s, 300, u"Cita"_s, false);
     services.SetNodeText(u"P300"_s, u"Cita z Lhoty"_s);
     services.SelectNode(u"P300"_s);
@@ -92,7 +89,7 @@ TEST_F(MainWindowStart, ARememberedNodeThatIsGoneSelectsNothing) {
     Setting(u"Sys\\RememberTree"_s) = u"P999"_s;
     Start();
     EXPECT_EQ(window_->SelectedNode(), QString());
-    EXPECT_TRUE(Module().RememberTreeOn);
+    EXPECT_TRUE(window_->Look().rememberTree);
     EXPECT_TRUE(platform_.messages.empty());
 }
 
@@ -103,7 +100,7 @@ TEST_F(MainWindowStart, ARememberedClassNodeIsNotRestored) {
     Start();
     EXPECT_TRUE(window_->NodeExists(u"TR10|5"_s));
     EXPECT_EQ(window_->SelectedNode(), QString());
-    EXPECT_TRUE(Module().RememberTreeOn);
+    EXPECT_TRUE(window_->Look().rememberTree);
 }
 
 TEST_F(MainWindowStart, TheDividerStandsWhereItWasLeft) {
@@ -148,7 +145,7 @@ TEST_F(MainWindowStart, ClosingWithoutRememberingStoresAnEmptyNode) {
 TEST_F(MainWindowStart, ClosingWithRememberingStoresTheSelectedAndTheExpandedNodes) {
     AddSmallShow();
     Start();
-    Module().RememberTreeOn = true;
+    window_->Look().rememberTree = true;
     window_->SelectNode(u"P101"_s);
     Close();
     EXPECT_EQ(Setting(u"Sys\\RememberTree"_s), u"P101"_s);

@@ -90,12 +90,14 @@ TEST_F(frmFindTest, NothingFoundKeepsSelectionAndCaption) {
 }
 
 TEST_F(frmFindTest, AnEmptyTextKeepsWhatWasSearchedLast) {
-    Module().FindText = u"brok"_s;
+    Search([this](QWidget& window) { EXPECT_EQ(Find(window, u"brok"_s).size(), 1); });
     Search([this](QWidget& window) {
-        EXPECT_EQ(Find(window, QString()), QStringList{QString()});
+        EXPECT_EQ(Find(window, QString()), QStringList{u"P101"_s});
         EXPECT_TRUE(window.isVisible());
     });
-    EXPECT_EQ(Module().FindText, u"brok"_s);
+    window_->SelectNode(u"P100"_s);
+    QTest::keyClick(&Tree(), Qt::Key_F3);
+    EXPECT_EQ(window_->SelectedNode(), u"P101"_s);
 }
 
 TEST_F(frmFindTest, TheTextIsAPattern) {

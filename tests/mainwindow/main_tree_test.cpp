@@ -151,20 +151,18 @@ TEST_F(MainTreeTest, ShowsNothingOnAKeyWithoutASelection) {
 
 TEST_F(MainTreeTest, PutsTheSearchBackToTheStartOnHome) {
     host.SelectNode(u"P1"_s);
-    Module().FindStart = 7;
+    host.search.start = 7;
     Press(Qt::Key_Home);
-    EXPECT_EQ(Module().FindStart, 1);
+    EXPECT_EQ(host.search.start, 1);
     EXPECT_EQ(host.shown, QStringList{u"K0"_s});
 }
 
-TEST_F(MainTreeTest, RefusesToEditInPlaceUnlessAllowed) {
+TEST_F(MainTreeTest, EditsInPlaceOnlyWhatItIsToldTo) {
     host.SelectNode(u"K1"_s);
-    Tree().StartLabelEdit(&Node(u"K1"_s));
+    Tree().edit(Tree().currentIndex());
     EXPECT_EQ(Editor(), nullptr);
-    Module().LabelEditAllowed = true;
     Tree().StartLabelEdit(&Node(u"K1"_s));
     EXPECT_NE(Editor(), nullptr);
-    EXPECT_FALSE(Module().LabelEditAllowed);
 }
 
 TEST_F(MainTreeTest, ExpandsAllAboveANodeThatIsMadeVisible) {
@@ -173,9 +171,10 @@ TEST_F(MainTreeTest, ExpandsAllAboveANodeThatIsMadeVisible) {
     EXPECT_EQ(Tree().SelectedNode(), nullptr);
 }
 
+// kept: class-nodes-collapsed
 TEST_F(MainTreeTest, RestoresExpandedRingsAndBreedsButNoClasses) {
     platform.settings[u"Sys\\ExpandedItems"_s] = u"K1|R10|TR10|3"_s;
-    Module().ShowClassesOn = true;
+    host.look.showClasses = true;
     Load();
     EXPECT_EQ(Tree().ExpandedKeys(), (QStringList{u"K1"_s, u"R10"_s}));
 }

@@ -1,6 +1,7 @@
 #pragma once
 // The tree and the panels beside it, shown over a database of the test's own.
 
+#include "app/view_preferences.h"
 #include "forms/form.h"
 #include "forms/report_list.h"
 #include "mainwindow/main_tree.h"
@@ -62,9 +63,12 @@ class PanelsTest : public CardTest {
         for (const char* name : names)
             replaced_.emplace_back(
                 QString::fromLatin1(name),
-                SetWindow(QString::fromLatin1(name), [this, name](QWidget* parent) {
-                    return std::make_unique<NotedForm>(name, opened, parent);
-                }));
+                SetWindow(QString::fromLatin1(name),
+                          [this, name](const WindowInput& input, QWidget* parent) {
+                              if (const DogTask* task = std::get_if<DogTask>(&input))
+                                  dogTask = *task;
+                              return std::make_unique<NotedForm>(name, opened, parent);
+                          }));
     }
     /// Selects a node and shows it, as a click on it does.
     void Show(const QString& key) {
@@ -125,12 +129,14 @@ class PanelsTest : public CardTest {
 
     QMainWindow window;
     StatusPanels* status = new StatusPanels(QStringLiteral("sbMain"), &window);
+    ViewPreferences look;
     TreeNodes nodes;
     NodeHistory history;
     QSplitter* splitter = new QSplitter(&window);
-    MainTree* tree = new MainTree(nodes, splitter);
-    NodePanels* panels = new NodePanels(*tree, *status, history, splitter);
+    MainTree* tree = new MainTree(nodes, look, splitter);
+    NodePanels* panels = new NodePanels(*tree, *status, history, look, splitter);
     QStringList opened;
+    DogTask dogTask; ///< what the dog editor was opened for last
 
   private:
     std::vector<std::pair<QString, WindowFactory>> replaced_;

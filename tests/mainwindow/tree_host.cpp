@@ -30,8 +30,8 @@ class StandIn : public Form {
 
 } // namespace
 
-TreeHost::TreeHost() : tree(new MainTree(nodes, this)) {
-    commands = new TreeCommands(*tree, *this, this);
+TreeHost::TreeHost() : tree(new MainTree(nodes, look, this)) {
+    commands = new TreeCommands(*tree, *this, search, this);
     (new QVBoxLayout(this))->addWidget(tree);
     resize(400, 600);
     SetTheMainWindow(this);
@@ -53,15 +53,6 @@ bool TreeHost::NodeExists(const QString& key) const {
 
 QString TreeHost::NodeText(const QString& key) const {
     return nodes.Get(key).text;
-}
-
-QString TreeHost::NodeTag(const QString& key) const {
-    return nodes.Get(key).Tag();
-}
-
-QString TreeHost::ParentNode(const QString& key) const {
-    const TreeNode* parent = nodes.Get(key).parent;
-    return parent ? parent->Key() : QString();
 }
 
 void TreeHost::SelectNode(const QString& key) {
@@ -181,9 +172,12 @@ QLineEdit* TreeTest::Editor() const {
 }
 
 void TreeTest::StandInFor(const QString& window) {
-    replaced_[window] = SetWindow(window, [this, window](QWidget* parent) {
-        return std::make_unique<StandIn>(window, opened, parent);
-    });
+    replaced_[window] =
+        SetWindow(window, [this, window](const WindowInput& input, QWidget* parent) {
+            if (const DogTask* task = std::get_if<DogTask>(&input))
+                dogTask = *task;
+            return std::make_unique<StandIn>(window, opened, parent);
+        });
 }
 
 QString TreeTest::Scalar(const std::string& statement) const {

@@ -3,9 +3,11 @@
 
 #include "app/main_window_services.h"
 #include "app/module_values.h"
+#include "app/view_preferences.h"
 #include "forms/form.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/tree_commands.h"
+#include "mainwindow/tree_search.h"
 #include "mainwindow/window_opener.h"
 #include "support/print_qt.h"
 #include "support/recording_platform.h"
@@ -24,6 +26,8 @@ class TreeHost : public QWidget, public MainWindowServices {
 
     QStringList shown; ///< keys of the nodes whose panels were asked for
     QString itemTitle;
+    ViewPreferences look;
+    TreeSearch search;
     TreeNodes nodes;
     MainTree* tree;
     TreeCommands* commands;
@@ -31,8 +35,6 @@ class TreeHost : public QWidget, public MainWindowServices {
     QString SelectedNode() const override;
     bool NodeExists(const QString& key) const override;
     QString NodeText(const QString& key) const override;
-    QString NodeTag(const QString& key) const override;
-    QString ParentNode(const QString& key) const override;
     void SelectNode(const QString& key) override;
     void MakeNodeVisible(const QString& key) override;
     void AddDogNode(const QString& parentKey, int psiID, const QString& text, bool male) override;
@@ -41,6 +43,7 @@ class TreeHost : public QWidget, public MainWindowServices {
     void ShowNodeInfo(const QString& key) override;
     void SetItemTitle(const QString& text) override;
     QString Caption() const override;
+    ViewPreferences& Look() override { return look; }
     TreeNodes& Nodes() override { return nodes; }
 };
 
@@ -76,6 +79,7 @@ class TreeTest : public ::testing::Test {
     /// Stands in for the window of that name, which notes that it was opened and closes itself.
     void StandInFor(const QString& window);
     QStringList opened; ///< names of the stand-ins opened so far
+    DogTask dogTask;    ///< what the dog editor was opened for last
 
     /// Column 0 of the first row as text.
     QString Scalar(const std::string& statement) const;

@@ -55,7 +55,7 @@ TEST_F(TreeMenusTest, SetsTheGroupOfAnOwnBreed) {
 }
 
 TEST_F(TreeMenusTest, HasNoMenuForAClass) {
-    Module().ShowClassesOn = true;
+    host.look.showClasses = true;
     Load();
     Click(u"TR10|3"_s, Qt::RightButton);
     EXPECT_EQ(platform.LastMenuLines(), QStringList());
@@ -120,7 +120,7 @@ TEST_F(TreeMenusTest, MovesTheMarkOfTheFirstDogWithinItsOwner) {
 }
 
 TEST_F(TreeMenusTest, HidesEmptyNodesFromTheTreeAlone) {
-    Module().ShowClassesOn = true;
+    host.look.showClasses = true;
     Load("UPDATE Plemena SET ID_Kruhu = 2 WHERE ID = 20; DELETE FROM Psi WHERE ID = 3");
     Choose({}, 602);
     EXPECT_EQ(host.nodes.Count(), 6); // ring A, its breed, two of eight classes, two dogs
@@ -154,6 +154,7 @@ TEST_F(TreeMenusTest, ShowsAllWhenTheSelectedNodeIsNoMore) {
     EXPECT_FALSE(host.NodeExists(u"P1"_s));
 }
 
+// kept: clearing-colours-takes-sexes
 TEST_F(TreeMenusTest, ClearsAllColoursThoseOfTheSexesToo) {
     host.nodes.MarkOnPath(&Node(u"R10"_s));
     host.nodes.SetBackground(&Node(u"P1"_s), kHighlight);
@@ -172,6 +173,7 @@ TEST_F(TreeMenusTest, ExpandsAndCollapsesEveryNode) {
     EXPECT_EQ(Tree().ExpandedKeys(), QStringList());
 }
 
+// kept: detail-without-entry
 TEST_F(TreeMenusTest, TogglesTheDetailOfDogsByTheNumberThatNoEntryBears) {
     struct Answer : PopupMenus {
         int TrackPopup(const std::vector<MenuEntry>&) override { return 609; }
@@ -179,7 +181,7 @@ TEST_F(TreeMenusTest, TogglesTheDetailOfDogsByTheNumberThatNoEntryBears) {
     std::unique_ptr<PopupMenus> kept =
         std::exchange(ThePlatform().menus, std::make_unique<Answer>());
     ClickEmpty(Qt::RightButton);
-    EXPECT_TRUE(Module().DogDetailInTree);
+    EXPECT_TRUE(host.look.dogDetailInTree);
     EXPECT_EQ(host.NodeText(u"P3"_s), u"Cvrk (II. uzávěrka)"_s);
     ClickEmpty(Qt::RightButton);
     EXPECT_EQ(host.NodeText(u"P3"_s), u"Cvrk"_s);

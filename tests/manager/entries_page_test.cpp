@@ -110,7 +110,7 @@ TEST_F(EntriesPageTest, AChosenColumnHoldsAndIsRememberedForHeadingsLikeThese) {
     WhileOpen([this] { Press("cmdColumns"); }, [&](QWidget& columns) { choose(columns, true); });
     EXPECT_EQ(State(0), u"nová"_s);
 
-    frmSpravce next;
+    frmSpravce next(ThePlatform());
     platform.chosenFiles << Path(u"prihlasky.csv"_s);
     next.show();
     next.tabSpravce->setCurrentIndex(1);

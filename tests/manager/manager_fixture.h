@@ -88,7 +88,7 @@ class ManagerPageTest : public ManagerTest {
         Press("cmdFile");
     }
 
-    frmSpravce window;
+    frmSpravce window{ThePlatform()};
 };
 
 inline const QByteArray kEntries =

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 std::pair<int, QString> RunCommand(const QStringList& arguments) {
     QString text;
     QTextStream out(&text);
-    const int code = RunScriptCommand(arguments, out);
+    const int code = RunScriptCommand(ThePlatform(), arguments, out);
     return {code, text};
 }
 

@@ -46,13 +46,6 @@ class CurrenciesTest : public RoutinesTest {
     }
     ~CurrenciesTest() override { Module() = ModuleValues(); }
 
-    static int AddCurrency(const char* name, const char* abbreviation, Currency rate,
-                           bool main = false) {
-        return Add("Meny", {{"Nazev", Text(name)},
-                            {"Zkratka", Text(abbreviation)},
-                            {"Kurs", rate},
-                            {"Hlavni", main}});
-    }
     static void AddCrownAndEuro() {
         AddCurrency("Koruna", "Kč", Currency::FromUnits(1), true);
         AddCurrency("Euro", "EUR", Currency::FromRaw(253'350));
@@ -327,6 +320,7 @@ TEST_F(CurrenciesTest, TheCommandDeletesOnlyWhatNoPaymentUses) {
     });
 }
 
+// kept: two-roads-of-deleting-a-currency
 TEST_F(CurrenciesTest, TheKeyDeletesEvenWhatPaymentsUse) {
     AddCrownAndEuro();
     AddPayment(2);

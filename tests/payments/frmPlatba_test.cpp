@@ -112,6 +112,7 @@ TEST_F(PaymentEntryTest, StornoStoresNothing) {
     EXPECT_TRUE(Module().LastPaymentDate.IsZero());
 }
 
+// kept: two-zeros-are-an-amount
 TEST_F(PaymentEntryTest, RefusesNothingAndZeroButStoresTwoZeros) {
     Open([this](QWidget& window) {
         for (const char* refused : {"0", ""}) {
@@ -130,6 +131,7 @@ TEST_F(PaymentEntryTest, RefusesNothingAndZeroButStoresTwoZeros) {
     EXPECT_EQ(LastPayment("Castka"), "0");
 }
 
+// kept: account-of-cash
 TEST_F(PaymentEntryTest, OnlyATransferNeedsAnAccountButWhatStandsThereIsKept) {
     Open([](QWidget& window) {
         Account(window).setText(Text("123/0100"));

@@ -34,6 +34,7 @@ class StatementTest : public PaymentsTest {
     }
 };
 
+// kept: unfilled-price-box
 TEST_F(StatementTest, ListsTheDogsPaymentsByDate) {
     Module().MainCurrency = Text("EUR");
     const int late = AddPayment(rex, 300, 1,
@@ -77,6 +78,7 @@ TEST_F(StatementTest, ListsAnOwnersPaymentsDogByDog) {
     });
 }
 
+// kept: statement-names-the-owner-under-work
 TEST_F(StatementTest, TheCaptionNamesTheOwnerUnderWork) {
     AsOwner(jana);
     Module().CurrentOwner = petr;

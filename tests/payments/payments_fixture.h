@@ -37,13 +37,6 @@ class PaymentsTest : public RoutinesTest {
     }
     ~PaymentsTest() override { Module() = ModuleValues(); }
 
-    static int AddCurrency(const char* name, const char* abbreviation, Currency rate,
-                           bool main = false) {
-        return Add("Meny", {{"Nazev", Text(name)},
-                            {"Zkratka", Text(abbreviation)},
-                            {"Kurs", rate},
-                            {"Hlavni", main}});
-    }
     static int AddDog(const char* name, int owner) {
         return Add(
             "Psi",

@@ -71,6 +71,7 @@ TEST_F(Diplomas, EveryNameIsBold) {
     EXPECT_EQ(names, 7);
 }
 
+// kept: diplomas-named-catalogue
 TEST_F(Diplomas, ShowsItsProgressUnderTheNameOfAnotherPaper) {
     QStringList captions;
     platform.onProcessEvents = [&] {

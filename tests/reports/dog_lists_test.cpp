@@ -75,6 +75,7 @@ TEST_F(DogLists, ByOwnerHasAHeadingForOneWithoutDogsToo) {
     EXPECT_EQ(platform.wordOperations.count(u"EndKeyStory"_s), 3);
 }
 
+// kept: males-alone-by-class
 TEST_F(DogLists, ByClassHasMalesAlone) {
     Choose(3);
     const QString typed = Document();
@@ -114,6 +115,7 @@ TEST_F(DogLists, AStopEndsTheDocumentInsideAGroup) {
     EXPECT_FALSE(window.isVisible());
 }
 
+// kept: groups-keep-their-markers
 TEST_F(DogLists, AGroupsTextKeepsItsMarkersAndItsRowsFollowIt) {
     const QString rest = u" __body__(_radek_)__body_end__]"_s;
     EXPECT_EQ(Page(), u"T["_s + rest + u"(Jan)(Jan)(Eva)[Boxer"_s + rest + u"(Eva)()(Jan)[Čuvač"_s +

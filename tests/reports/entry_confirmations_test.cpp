@@ -52,6 +52,7 @@ TEST_F(EntryConfirmations, HasABoxForEachTextWithItsDefault) {
                     .endsWith(u"bude vyhodnocen Vítěz Zlína 2005."));
 }
 
+// kept: five-typed-confirmations
 TEST_F(EntryConfirmations, SevenDogsAreSevenPagesOrFiveTypedSheets) {
     WritePattern("_katcislo_");
     EXPECT_EQ(Sheets(), "|1|3|4|5|7|12|end");

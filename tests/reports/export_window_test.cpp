@@ -122,6 +122,7 @@ TEST_F(ExportWindowFrame, ADocumentRunTypesUnderTheWaitCursorAndShowsTheDocument
     EXPECT_TRUE(window.isVisible());
 }
 
+// kept: two-clicks-to-restart
 TEST_F(ExportWindowFrame, AfterARunTheFirstClickDoesNothingAndTheSecondStarts) {
     frmSample window;
     window.show();

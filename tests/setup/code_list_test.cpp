@@ -52,6 +52,7 @@ TEST_F(CodeListTest, ColoursStandAsStoredWithTheirUses) {
     EXPECT_EQ(ColourNames().size(), 2u);
 }
 
+// kept: untouched-edit-commits
 TEST_F(CodeListTest, EnterAloneStoresANewColourOnce) {
     OpenColours([&](QWidget& window, ReportList& list) {
         Command(window, "Add");
@@ -137,6 +138,7 @@ TEST_F(CodeListTest, OnlyYesDeletesAColour) {
     EXPECT_TRUE(ColourNames().empty());
 }
 
+// kept: awards-among-colours
 TEST_F(CodeListTest, AwardsLookForTheirNamesAmongTheColours) {
     AddColour("Zlatá");
     AddAward("CAC");
@@ -156,6 +158,7 @@ TEST_F(CodeListTest, AwardsLookForTheirNamesAmongTheColours) {
     EXPECT_EQ(AwardNames(), (Texts{"CAC", "CAC"}));
 }
 
+// kept: deleted-award-comes-back
 TEST_F(CodeListTest, ADeletedAwardIsBackAtTheNextOpening) {
     const int award = AddAward("CAC");
     OpenAwards([&](QWidget&, ReportList& list) {
@@ -193,6 +196,7 @@ TEST_F(CodeListTest, ClassesShowEightNamesAndTwoFreePlaces) {
     });
 }
 
+// kept: dead-toolbar-of-classes
 TEST_F(CodeListTest, AClassIsRenamedForTheRunAlone) {
     OpenClasses([&](QWidget& window, ReportList& list) {
         for (const char* button : {"Add", "Edit", "Remove"}) {

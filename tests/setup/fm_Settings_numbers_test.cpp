@@ -14,7 +14,7 @@ class NodesWindow : public RecordingMainWindow {
   public:
     void LoadData() override {
         ++loads;
-        LoadTree(nodes);
+        LoadTree(nodes, look);
     }
     TreeNodes& Nodes() override { return nodes; }
 
@@ -81,7 +81,7 @@ TEST_F(NumbersTest, RingsInTheirOrderFromOne) {
 
 TEST_F(NumbersTest, WithClassesShownTheClassComesBeforeTheSex) {
     AddTwoRings();
-    Module().ShowClassesOn = true;
+    main.look.showClasses = true;
     main.LoadData();
     Generate();
     EXPECT_EQ(Numbers(), "Aja=2 Bob=4 Cit=3 Zar=1");
@@ -103,7 +103,7 @@ TEST_F(NumbersTest, AnEmptyLastBreedWithoutARingLetsTheRingsThroughUnlessItHasCl
     Generate();
     EXPECT_EQ(Numbers(), "Aja=3 Bob=4 Cit=2 Zar=1");
     RemoveDogNumbers();
-    Module().ShowClassesOn = true;
+    main.look.showClasses = true;
     main.LoadData();
     Generate();
     EXPECT_EQ(Numbers(), "Aja=0 Bob=0 Cit=0 Zar=0");

@@ -111,9 +111,10 @@ TEST_F(SettingsTest, StornoWritesNothing) {
     EXPECT_FALSE(platform.settings.contains(Text("Sys\\ShowGrid")));
 }
 
+// kept: siblings-option-unread
 TEST_F(SettingsTest, StoresTheLooksAsOneAndZero) {
     platform.settings[Text("Sys\\ShowGrid")] = Text("1");
-    Module().RememberTreeOn = true;
+    tree.look.rememberTree = true;
     OpenSettings([&](QWidget& window) {
         EXPECT_TRUE(Tick(window, "chkGrids").isChecked());
         EXPECT_TRUE(Tick(window, "chkRememberItem").isChecked());
@@ -126,9 +127,10 @@ TEST_F(SettingsTest, StoresTheLooksAsOneAndZero) {
     EXPECT_EQ(platform.settings[Text("Sys\\ShowGrid")], u"0");
     EXPECT_EQ(platform.settings[Text("Sys\\ShowClasses")], u"0");
     EXPECT_EQ(platform.settings[Text("Sys\\ShowSiblings")], u"1");
-    EXPECT_FALSE(Module().RememberTreeOn);
+    EXPECT_FALSE(tree.look.rememberTree);
 }
 
+// kept: classes-by-mouse
 TEST_F(SettingsTest, OnlyTheMouseOnTheClassesMakesTheTreeStale) {
     OpenSettings([&](QWidget& window) {
         Control<QTabWidget>(window, "XTab").setCurrentIndex(2);
@@ -143,6 +145,7 @@ TEST_F(SettingsTest, OnlyTheMouseOnTheClassesMakesTheTreeStale) {
     EXPECT_TRUE(Module().TreeDirty) << "even after Storno";
 }
 
+// kept: settings-never-untick
 TEST_F(SettingsTest, ComingBackFromAWindowRefillsTheDatesAndNeverUnticks) {
     AddLink("Ostatni", {{"DatumVystavy", Day(2005, 5, 14)}});
     OpenSettings([&](QWidget& window) {

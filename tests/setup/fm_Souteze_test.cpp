@@ -110,6 +110,7 @@ TEST_F(CompetitionsTest, RefusalsFollowTheNumberOfDogs) {
     EXPECT_EQ(Names().size(), 4u);
 }
 
+// kept: refusal-by-the-list
 TEST_F(CompetitionsTest, TheRefusalGoesByTheListAndNotByTheStore) {
     const int pairs = AddCompetition("Páry");
     OpenList([&](QWidget& window, ReportList&) {
@@ -120,6 +121,7 @@ TEST_F(CompetitionsTest, TheRefusalGoesByTheListAndNotByTheStore) {
     EXPECT_TRUE(Names().empty());
 }
 
+// kept: rename-without-duplicates
 TEST_F(CompetitionsTest, RenamingInPlaceLooksForNoDuplicates) {
     AddCompetition("Páry");
     AddCompetition("Dítě");

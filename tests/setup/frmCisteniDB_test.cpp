@@ -3,6 +3,7 @@
 #include "setup/setup_fixture.h"
 #include "store/ostatni.h"
 #include "store/vystavy.h"
+#include "support/row_fields.h"
 
 #include <QFrame>
 #include <map>
@@ -26,8 +27,8 @@ Content ReadEverything() {
         Texts& rows = content[table];
         for (set.Open(std::string("SELECT * FROM ") + table); !set.Eof(); set.MoveNext()) {
             std::string row;
-            for (int field = 0; field < set.FieldCount(); ++field)
-                row += set.Field(field).ToText().toStdString() + "|";
+            for (const Value& field : FieldsOf(set))
+                row += field.ToText().toStdString() + "|";
             rows.push_back(row);
         }
         set.Close();
@@ -103,6 +104,7 @@ class ClearingTest : public SetupTest {
 
 class ClearingChoiceTest : public ClearingTest, public ::testing::WithParamInterface<unsigned> {};
 
+// kept: clearing-leaves-rings-of-breeds
 TEST_P(ClearingChoiceTest, ClearsItsTablesAndNoOther) {
     constexpr int kSlots[] = {0, 1, 2, 4, 5, 6, 7, 8};
     std::set<int> slots;
@@ -132,6 +134,7 @@ TEST_F(ClearingTest, MakesTheTreeStaleAndTheDateUnset) {
     EXPECT_TRUE(ShowWideValues()->DatumVystavy->IsZero());
 }
 
+// kept: clearing-fees-of-first-show
 TEST_F(ClearingTest, OfThreeShowsTheOldestStaysWithItsFees) {
     FillEverything();
     AddShow("B");

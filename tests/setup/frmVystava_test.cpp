@@ -132,6 +132,7 @@ TEST_F(ShowEditorTest, FlatPricesFillEveryClassAndTheIniFile) {
     EXPECT_EQ(Ini(), "[Main]\r\nIgnorovat tridy=1\r\n");
 }
 
+// kept: equal-fees-flatten-classes
 TEST_F(ShowEditorTest, WithClassesIgnoredItShowsTheFirstClassAndOKFlattens) {
     WriteIni("[Main]\r\nIgnorovat tridy=1\r\n");
     SetFee("IClass1D1", 300);

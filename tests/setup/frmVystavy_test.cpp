@@ -57,6 +57,7 @@ TEST_F(ShowListTest, TwoShowsMayBearTheNewNameButNotByRenaming) {
     EXPECT_EQ(Column("SELECT Nazev FROM Vystavy"), (Texts{"Nová výstava", "Druhá"}));
 }
 
+// kept: same-name-in-other-capitals
 TEST_F(ShowListTest, OtherCapitalsOfItsOwnNameAreRefused) {
     AddShow("Krajská");
     OpenList([&](QWidget&, ReportList& list) {
@@ -80,6 +81,7 @@ TEST_F(ShowListTest, AnEmptyNameIsRefusedAndTheOldOneStays) {
     EXPECT_EQ(One("SELECT Nazev FROM Vystavy"), "Krajská");
 }
 
+// kept: psu-for-every-number
 TEST_F(ShowListTest, AShowWithDogsCannotBeDeletedEvenWhenItIsTheLast) {
     const int show = AddShow("Krajská");
     Enter(1, show);

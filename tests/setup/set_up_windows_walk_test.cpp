@@ -50,6 +50,7 @@ TEST_F(SetUpWindowsTest, Dialogs) {
     WalkPlain(naming);
 }
 
+// kept: class-nine-crosswise
 TEST_F(SetUpWindowsTest, BothGridsOfTheShow) {
     frmVystava show(AddShow("Hlavní"), nullptr);
     WhileOpen([&] { OpenModal(show); },

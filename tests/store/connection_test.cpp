@@ -1,6 +1,7 @@
 // Opening and closing the file, and files that must not be opened.
 
 #include "platform/values/errors.h"
+#include "store/damaged_dogs.h"
 #include "store/store_test.h"
 
 #include <QDir>
@@ -110,14 +111,7 @@ TEST_F(BadFileTest, RefusesADamagedHeaderOrSchema) {
 
 TEST_F(BadFileTest, DamageInsideTheFileSurfacesWhenItIsRead) {
     TempDatabase::CopyTo(folder.path());
-    qint64 page = 0;
-    {
-        SQLite::Database database(Path().toStdString(), SQLite::OPEN_READWRITE);
-        database.exec("INSERT INTO Psi (Jmeno) VALUES ('Asta')");
-        page =
-            database.execAndGet("SELECT rootpage FROM sqlite_schema WHERE name = 'Psi'").getInt64();
-    }
-    WriteAll(Path(), ReadAll(Path()).replace((page - 1) * 4096, 12, QByteArray(12, '\x7f')));
+    DamageDogs(Path());
     Connection connection;
     connection.Open(Path());
     RecordSet dogs(connection, "Psi", RecordSet::Lock::Updatable);

@@ -1,8 +1,7 @@
 // How often an edit waits for the disk. For systems whose C library lets the calls be counted.
 
-#include "store/store_test.h"
+#include "store/rings_test.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <atomic>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -26,20 +25,7 @@ extern "C" int fsync(int file) {
 namespace lorvo {
 namespace {
 
-class DiskSyncsTest : public StoreTest {
-  protected:
-    void AddRing() {
-        module.rsKruhy.Open("SELECT * FROM Kruhy WHERE ID = 0");
-        module.rsKruhy.AddNew();
-        module.rsKruhy.Update();
-    }
-
-    /// What another program finds in the file.
-    int RingsOutside() const {
-        SQLite::Database outside(database.Path().toStdString());
-        return outside.execAndGet("SELECT COUNT(*) FROM Kruhy").getInt();
-    }
-};
+using DiskSyncsTest = RingsTest;
 
 TEST_F(DiskSyncsTest, ASingleEditIsOnDiskWhenItReturns) {
     for (int count = 1; count <= 3; ++count) {

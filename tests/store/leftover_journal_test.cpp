@@ -2,6 +2,7 @@
 // they aren't.
 
 #include "platform/values/errors.h"
+#include "store/damaged_dogs.h"
 #include "store/leftover_journal.h"
 #include "store/store_test.h"
 
@@ -151,18 +152,7 @@ TEST_F(LeftoverJournalTest, TheCompletedContentIsWhatTheEngineMakesOfBoth) {
 
 TEST_F(LeftoverJournalTest, WhatIsFoundDamagedLaterIsNotWrittenToAtTheEnd) {
     TempDatabase::CopyTo(folder.path());
-    qint64 page = 0;
-    {
-        SQLite::Database database(Path().toStdString(), SQLite::OPEN_READWRITE);
-        database.exec("INSERT INTO Psi (Jmeno) VALUES ('Asta')");
-        page =
-            database.execAndGet("SELECT rootpage FROM sqlite_schema WHERE name = 'Psi'").getInt64();
-    }
-    QFile file(Path());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    file.seek((page - 1) * 4096);
-    file.write(QByteArray(12, '\x7f'));
-    file.close();
+    DamageDogs(Path());
     DataModule module;
     module.Conn1.Open(Path());
     module.rsKruhy.Open("SELECT * FROM Kruhy");

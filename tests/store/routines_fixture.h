@@ -30,6 +30,13 @@ class RoutinesTest : public ::testing::Test {
         set.Update();
         set.Close();
     }
+    static int AddCurrency(const char* name, const char* abbreviation, Currency rate,
+                           bool main = false) {
+        return Add("Meny", {{"Nazev", Text(name)},
+                            {"Zkratka", Text(abbreviation)},
+                            {"Kurs", rate},
+                            {"Hlavni", main}});
+    }
     /// The first column of a statement's rows, Null as empty text.
     static Texts Column(const std::string& statement) {
         Texts texts;

@@ -2,9 +2,7 @@
 
 #include "platform/values/errors.h"
 #include "store/query.h"
-#include "store/store_test.h"
-
-#include <SQLiteCpp/SQLiteCpp.h>
+#include "store/rings_test.h"
 
 namespace lorvo {
 
@@ -12,20 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class RunsTest : public StoreTest {
-  protected:
-    void AddRing() {
-        module.rsKruhy.Open("SELECT * FROM Kruhy WHERE ID = 0");
-        module.rsKruhy.AddNew();
-        module.rsKruhy.Update();
-    }
-
-    /// What another program finds in the file.
-    int RingsOutside() const {
-        SQLite::Database outside(database.Path().toStdString());
-        return outside.execAndGet("SELECT COUNT(*) FROM Kruhy").getInt();
-    }
-};
+using RunsTest = RingsTest;
 
 TEST_F(RunsTest, AFailureHalfwayLeavesWhatWasWritten) {
     const auto failHalfway = [this] {

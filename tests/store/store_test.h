@@ -3,6 +3,7 @@
 
 #include "store/data_module.h"
 
+#include "support/row_fields.h"
 #include "support/temp_database.h"
 
 #include <gtest/gtest.h>
@@ -17,11 +18,9 @@ inline std::vector<std::string> RowsOf(std::string_view statement) {
     std::vector<std::string> rows;
     for (set.Open(statement); !set.Eof(); set.MoveNext()) {
         std::string row;
-        for (int field = 0; field < set.FieldCount(); ++field) {
-            const Value& value = set.Field(field);
-            row += (field == 0 ? "" : "|") +
-                   (value.IsNull() ? std::string("Null") : value.ToText().toStdString());
-        }
+        for (const Value& value : FieldsOf(set))
+            row += "|" + (value.IsNull() ? std::string("Null") : value.ToText().toStdString());
+        row.erase(0, 1);
         rows.push_back(std::move(row));
     }
     set.Close();

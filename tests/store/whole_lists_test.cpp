@@ -163,9 +163,13 @@ TEST_F(WholeListsTest, DogsOfAllBreedsInOneOrder) {
     std::vector<Psi> byBreed = DogsByBreed();
     auto dog = byBreed.begin();
     for (int plemenoID = 1; plemenoID <= kBreeds + 1; ++plemenoID)
-        for (const TreeDog& ofBreed : TreeDogsOfBreed(plemenoID)) {
+        for (const int ofBreed :
+             ReadRows(TheDataModule().rsrsQuery1,
+                      "SELECT ID FROM Psi WHERE PlemenoID = " + Number(plemenoID) +
+                          " ORDER BY PohlaviPes ASC, Trida ASC, Jmeno ASC",
+                      [](const RecordSet& row) { return row.Field("ID").ToInt(); })) {
             ASSERT_NE(dog, byBreed.end());
-            EXPECT_EQ((dog++)->ID, ofBreed.ID);
+            EXPECT_EQ((dog++)->ID, ofBreed);
         }
     EXPECT_EQ(dog, byBreed.end());
 }

@@ -41,14 +41,6 @@ QString RecordingMainWindow::NodeText(const QString& key) const {
     return Find(key).text;
 }
 
-QString RecordingMainWindow::NodeTag(const QString& key) const {
-    return Find(key).key;
-}
-
-QString RecordingMainWindow::ParentNode(const QString& key) const {
-    return Find(key).parent;
-}
-
 void RecordingMainWindow::SelectNode(const QString& key) {
     selected = Find(key).key;
     calls << u"SelectNode %1"_s.arg(key);

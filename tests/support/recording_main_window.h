@@ -2,6 +2,7 @@
 // A stand-in for the main window: a tree of nodes without a picture, and what was asked of it.
 
 #include "app/main_window_services.h"
+#include "app/view_preferences.h"
 
 #include <QStringList>
 #include <vector>
@@ -19,8 +20,6 @@ class RecordingMainWindow : public MainWindowServices {
     QString SelectedNode() const override { return selected; }
     bool NodeExists(const QString& key) const override;
     QString NodeText(const QString& key) const override;
-    QString NodeTag(const QString& key) const override;
-    QString ParentNode(const QString& key) const override;
     void SelectNode(const QString& key) override;
     void MakeNodeVisible(const QString& key) override;
     void AddDogNode(const QString& parentKey, int psiID, const QString& text, bool male) override;
@@ -29,6 +28,11 @@ class RecordingMainWindow : public MainWindowServices {
     void ShowNodeInfo(const QString& key) override;
     void SetItemTitle(const QString& text) override;
     QString Caption() const override { return QStringLiteral("Lorvo"); }
+    ViewPreferences& Look() override { return look; }
+
+    ViewPreferences look;
+    /// Key of the node above.
+    QString ParentOf(const QString& key) const { return Find(key).parent; }
 
     QString selected;
     QString title;

@@ -129,11 +129,12 @@ TEST_P(GeneratedShow, PaymentsAreConverted) {
     EXPECT_EQ(MainCurrencies()[0].Zkratka, u"Kč"_s);
     EXPECT_EQ(MainCurrencies()[0].Kurs, Currency::FromUnits(1));
     std::set<int> currencies;
-    for (const PaymentRow& row : PaymentsWithOwners()) {
-        const Uhrady payment = *PaymentByID(row.UID);
-        ASSERT_EQ(payment.Kc, payment.Castka * payment.Kurs);
-        ASSERT_GT(payment.Castka, Currency());
-        currencies.insert(payment.Mena);
+    for (const Psi& dog : DogsByBreed()) {
+        for (const Uhrady& payment : PaymentsOfDog(dog.ID)) {
+            ASSERT_EQ(payment.Kc, payment.Castka * payment.Kurs);
+            ASSERT_GT(payment.Castka, Currency());
+            currencies.insert(payment.Mena);
+        }
     }
     EXPECT_EQ(currencies.size(), 3u);
     EXPECT_EQ(static_cast<int>(PaymentsWithOwners().size()), size_.payments);

@@ -1,6 +1,7 @@
 // Breeds, rings, shows with their fees, and the lists of codes.
 
 #include "app/module_values.h"
+#include "platform/values/errors.h"
 #include "show/show_parts.h"
 #include "store/barvy.h"
 #include "store/kruhy.h"
@@ -96,7 +97,8 @@ void AddRings(int count, const std::vector<int>& breeds) {
     for (int i = 1; i <= count; ++i)
         rings.push_back(InsertRing(u"Kruh %1"_s.arg(i, 2, 10, QChar(u'0'))));
     for (std::size_t i = 0; i < breeds.size(); ++i) {
-        SetBreedUsed(breeds[i], true);
+        if (!SetBreedUsed(breeds[i], true))
+            throw StoreError("There is no breed " + std::to_string(breeds[i]) + '.');
         MoveBreedToRing(breeds[i], rings[i % rings.size()]);
     }
 }

@@ -6,18 +6,22 @@
 #include "store/plemena.h"
 #include "store/psi.h"
 
+#include <map>
+
 namespace lorvo::show {
 
 void NumberEnteredDogs(Numbers numbers) {
     if (numbers == Numbers::None)
         return;
+    std::map<int, std::vector<int>> dogs;
+    for (const TreeDog& dog : TreeDogsByBreed())
+        dogs[dog.PlemenoID].push_back(dog.ID);
+    const std::vector<Plemena> breeds = BreedsByRing();
     std::vector<int> order;
-    for (const Kruhy& ring : RingsByName()) {
-        for (const Plemena& breed : BreedsOfRing(ring.ID)) {
-            for (const TreeDog& dog : TreeDogsOfBreed(breed.ID))
-                order.push_back(dog.ID);
-        }
-    }
+    for (const Kruhy& ring : RingsByName())
+        for (const Plemena& breed : breeds)
+            if (breed.ID_Kruhu == ring.ID)
+                order.insert(order.end(), dogs[breed.ID].begin(), dogs[breed.ID].end());
     if (numbers == Numbers::Some)
         order.resize(order.size() * 2 / 3);
     int cislo = 0;

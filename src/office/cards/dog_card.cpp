@@ -182,8 +182,7 @@ void FillDogCard(DogCard& card, int psiID) {
     const Psi dog = ExistingDog(psiID);
     FillOrigin(card, dog);
     FillOwner(card, dog.MajitelID);
-    Module().SpecialBreed = dog.PlemenoID == kSpecialBreedID;
-    card.Trida = ClassName(dog.Trida, ClassNamesOf(dog.PlemenoID), dog.Jmeno);
+    card.Trida = ClassName(dog.Trida, ClassNamesOf(ClassListOf(dog.PlemenoID)), dog.Jmeno);
     AddShowLines(card);
     FillMoney(card, dog);
     FillNeighbours(card, dog.MajitelID);

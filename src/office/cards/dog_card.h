@@ -55,8 +55,8 @@ struct DogCard {
     Neighbour next;
 };
 
-/// Fills the card with a dog, all figures read afresh, and sets `CurrentDogID`, `CurrentOwner` and
-/// `SpecialBreed`. Raises Error on a dog that is not there, on a class outside the class table and
+/// Fills the card with a dog, all figures read afresh, and sets `CurrentDogID` and `CurrentOwner`.
+/// Raises Error on a dog that is not there, on a class outside the class table and
 /// on a fee that the shows' table doesn't have; the card then holds what was filled up to there.
 void FillDogCard(DogCard& card, int psiID);
 

@@ -25,6 +25,7 @@ std::vector<int> TickedIDs(const CheckLines& lines, LineIcon icon) {
 
 } // namespace
 
+// kept: last-show-stays-ticked
 void ApplyShowRules(CheckLines& lines, int position) {
     CheckLine& changed = lines[static_cast<std::size_t>(position)];
     if (IsTicked(changed, LineIcon::Show)) {

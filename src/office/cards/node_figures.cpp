@@ -9,6 +9,7 @@ namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
+// kept: ring-share-of-all-breeds
 RingFigures FiguresOfRing(int ringID) {
     const ReadRun run(TheDataModule().Conn1);
     RingFigures figures;

@@ -4,6 +4,7 @@
 
 namespace lorvo {
 
+// kept: two-ways-to-count-months
 int AgeInMonths(DateValue born, DateValue show, ClassList list) {
     // The standard classes look at the eve of the show; that is what makes an exact birthday count
     // one month less there.

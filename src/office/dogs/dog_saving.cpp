@@ -2,6 +2,7 @@
 
 #include "app/main_window_services.h"
 #include "app/module_values.h"
+#include "app/view_preferences.h"
 #include "office/texts/dog_texts.h"
 #include "office/tree/node_key.h"
 #include "platform/values/left_text.h"
@@ -19,27 +20,28 @@ const QString kNoColour = u"Nezadáno"_s;
 int OwnerOfEntry(const DogEntry& entry) {
     if (!entry.newOwner)
         return entry.dog.MajitelID;
-    return Module().SavedOwnerID = InsertOwner(entry.owner);
+    return InsertOwner(entry.owner);
 }
 
 /// Stores the dog; returns the number that its row had before.
 int StoreDog(Psi& dog, bool adding) {
+    int& current = Module().CurrentDogID;
     if (adding) {
-        Module().CurrentDogID = 0;
-        dog.ID = InsertDog(dog);
+        current = 0;
+        current = dog.ID = InsertDog(dog);
         return 0;
     }
-    Module().CurrentDogID = dog.ID;
+    current = dog.ID;
     const auto before = DogByID(dog.ID);
     UpdateDog(dog);
     return before ? before->Cislo.value_or(0) : 0;
 }
 
 void AddNode(const Psi& dog) {
-    const NodeKey parent = Module().ShowClassesOn ? NodeKey::Class(dog.PlemenoID, dog.Trida)
-                                                  : NodeKey::Breed(dog.PlemenoID);
-    TheMainWindow().AddDogNode(parent.ToText(), dog.ID, LeftText(dog.Jmeno, kJmenoWidth),
-                               dog.PohlaviPes);
+    MainWindowServices& window = TheMainWindow();
+    const NodeKey parent = window.Look().showClasses ? NodeKey::Class(dog.PlemenoID, dog.Trida)
+                                                     : NodeKey::Breed(dog.PlemenoID);
+    window.AddDogNode(parent.ToText(), dog.ID, LeftText(dog.Jmeno, kJmenoWidth), dog.PohlaviPes);
 }
 
 void PatchNode(const Psi& dog, int cislo) {
@@ -52,6 +54,7 @@ void PatchNode(const Psi& dog, int cislo) {
 }
 
 /// Sees to it that the name in the owner's box stands among the owners.
+// kept: second-owner-without-surname
 void AddMissingOwner(const Majitele& boxes) {
     if (boxes.Jmeno.isEmpty() || !OwnersNamed(boxes.Jmeno.trimmed()).empty())
         return;
@@ -69,12 +72,11 @@ int KeptColour(int barvaID) {
     return colour && !colour->Nazev.isEmpty() && colour->Nazev != kNoColour ? barvaID : 0;
 }
 
+// kept: saving-a-dog-empties-its-shows
 void SaveDog(const DogEntry& entry) {
     Psi dog = entry.dog;
     dog.MajitelID = OwnerOfEntry(entry);
     const int cislo = StoreDog(dog, entry.adding);
-    Module().SavedOwnerID = dog.MajitelID;
-    Module().CurrentDogID = dog.ID;
     if (entry.adding && CountDogsOfOwner(dog.MajitelID) == 1)
         MarkFirstDog(dog.ID);
     if (entry.adding)

@@ -20,7 +20,7 @@ int KeptColour(int barvaID);
 /// Writes owner and dog, patches the dog's node in the tree and selects it. A new dog that is its
 /// owner's only one becomes the first dog. The dog is taken out of all shows. An owner's name that
 /// nobody bears (blanks around don't count) is added as an owner without a surname, whom the dog
-/// does not belong to. Sets Module().SavedOwnerID and CurrentDogID. Nothing of what was written is
+/// does not belong to. Sets Module().CurrentDogID. Nothing of what was written is
 /// taken back when a later step raises.
 void SaveDog(const DogEntry& entry);
 

@@ -47,7 +47,7 @@ QString Names(const std::vector<int>& ids, const std::unordered_map<int, QString
 
 /// Empty for a class that the breed doesn't have.
 QString ClassOrEmpty(const Psi& dog) {
-    const TextTable& names = ClassNamesOf(dog.PlemenoID);
+    const TextTable& names = ClassNamesOf(ClassListOf(dog.PlemenoID));
     const auto at = static_cast<std::size_t>(dog.Trida - 1);
     return dog.Trida >= 1 && at < names.size() ? names[at] : QString();
 }

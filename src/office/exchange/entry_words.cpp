@@ -1,7 +1,7 @@
 #include "office/exchange/entry_words.h"
 
-#include "app/module_values.h"
 #include "office/exchange/folded_text.h"
+#include "office/texts/dog_texts.h"
 
 #include <QStringList>
 
@@ -23,10 +23,6 @@ std::optional<bool> ByWords(const QString& text, const QStringList& yes, const Q
 
 QString WithoutFirstWord(const QString& folded, const QString& word) {
     return folded.startsWith(word + u' ') ? folded.mid(word.size() + 1) : folded;
-}
-
-const TextTable& NamesOf(ClassList list) {
-    return list == ClassList::Special ? Tables().SpecialClassNames : Module().ClassNames;
 }
 
 /// Code of the class that bears the name, or of the only one that begins so.
@@ -68,7 +64,7 @@ std::optional<bool> FirstClosingFromText(const QString& text) {
 
 std::optional<int> ClassFromText(const QString& text, ClassList list) {
     const QString folded = WithoutFirstWord(FoldedText(text), u"trida"_s);
-    const TextTable& names = NamesOf(list);
+    const TextTable& names = ClassNamesOf(list);
     bool isNumber = false;
     const int number = folded.toInt(&isNumber);
     if (isNumber && number >= 1 && number <= kTableSlots &&

@@ -20,6 +20,7 @@ Currency SumOf(const std::vector<Account::Entry>& entries) {
 
 } // namespace
 
+// kept: adolescents-by-card
 int FeeClassColumn(const AccountDog& dog, FeeClassRule rule) {
     const bool mapped = rule == FeeClassRule::SpecialBreedColumns && dog.specialBreed &&
                         dog.trida >= 1 &&
@@ -35,12 +36,14 @@ Currency Account::CompetitionFees() const {
     return SumOf(competitions);
 }
 
+// kept: last-shows-fee-in-balance
 Currency Account::Owed() const {
     const Currency showFees =
         rule == BalanceRule::LastShow ? LastFee().value_or(Currency()) : SumOf(shows);
     return showFees + CompetitionFees();
 }
 
+// kept: unentered-dog-owes-nothing
 Currency Account::Balance() const {
     const bool paidCounts = rule == BalanceRule::AllShows || !shows.empty();
     return (paidCounts ? paid : Currency()) - Owed();

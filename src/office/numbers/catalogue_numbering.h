@@ -25,6 +25,7 @@ concept NumberingNode = requires(Node* node) {
 /// the top level. A climb that comes to its last child and finds no sibling there is over, so that
 /// dogs in rings are reached only when every breed has its ring (or the last breed without one is
 /// empty: its own climb begins at `first` itself).
+// kept: numbering-ends-outside-rings
 template<NumberingNode Node> Node* NextOfNumberingWalk(Node* node, Node* first) {
     if (Node* child = FirstChild(*node))
         return child;

@@ -192,12 +192,14 @@ void TypeDogList(WordProcessor& word, DogGrouping grouping, RunProgress& progres
         TypeWithPedigrees(word, progress, ReadOwnerGroups());
         break;
     case DogGrouping::ByClass:
+        // kept: males-alone-by-class
         TypeWithPedigrees(word, progress, DogRuns{MalesByClass(), ClassKey, ClassNameOf});
         break;
     }
     word.HomeKeyStory();
 }
 
+// kept: groups-keep-their-markers
 void AppendDogList(QByteArray& output, const QByteArray& pattern, RunProgress& progress) {
     const BreedRows rows = ReadBreedRows([](const Plemena& breed) { return breed.Nazev; });
     WalkRows(rows.groups, progress, [&](const DogGroup& group) {

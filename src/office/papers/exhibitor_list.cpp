@@ -50,6 +50,7 @@ std::vector<RowField<Exhibitor>> ExhibitorFields() {
             TextField<Exhibitor>(part.placeholder, [text = part.text](const Exhibitor& exhibitor) {
                 return text(exhibitor.owner);
             }));
+    // kept: raw-numbers-placeholder
     fields.push_back({"_cislapsu_", [](const Exhibitor& exhibitor) {
                           return exhibitor.numbers.isEmpty()
                                      ? std::nullopt

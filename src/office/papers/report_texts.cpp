@@ -5,7 +5,7 @@
 namespace lorvo {
 
 QString ClassNameOf(const Psi& dog) {
-    return ClassName(dog.Trida, Module().ClassNames, dog.Jmeno);
+    return ClassName(dog.Trida, ClassNamesOf(ClassList::Standard), dog.Jmeno);
 }
 
 QString FullNameOf(const Psi& dog) {

@@ -1,5 +1,6 @@
 #include "office/texts/dog_texts.h"
 
+#include "app/module_values.h"
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 
@@ -23,8 +24,12 @@ const QString& ClassName(int trida, const TextTable& names, const QString& jmeno
     return names[static_cast<std::size_t>(trida - 1)];
 }
 
-const TextTable& ClassNamesOf(int plemenoID) {
-    return plemenoID == kSpecialBreedID ? Tables().SpecialClassNames : Module().ClassNames;
+const TextTable& ClassNamesOf(ClassList list) {
+    return list == ClassList::Special ? Tables().SpecialClassNames : Module().ClassNames;
+}
+
+ClassList ClassListOf(int plemenoID) {
+    return plemenoID == kSpecialBreedID ? ClassList::Special : ClassList::Standard;
 }
 
 QString ClosingText(bool first) {

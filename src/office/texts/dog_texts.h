@@ -1,7 +1,8 @@
 #pragma once
 // How what is known of a dog is put into words, in every window and paper alike.
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
+#include "office/dogs/class_eligibility.h"
 #include "platform/values/date_value.h"
 
 #include <QString>
@@ -21,8 +22,10 @@ QString SexText(bool male);
 /// Name of the dog's class in one of the two tables. RangeError that names the dog when the table
 /// has no such slot.
 const QString& ClassName(int trida, const TextTable& names, const QString& jmeno);
-/// The table of class names that a breed has.
-const TextTable& ClassNamesOf(int plemenoID);
+/// The table of class names of a list; that of the ordinary one as the office has renamed it.
+const TextTable& ClassNamesOf(ClassList list);
+/// The class list that a breed has.
+ClassList ClassListOf(int plemenoID);
 /// "I" or "II".
 QString ClosingText(bool first);
 /// "Ano" or "Ne".

@@ -8,6 +8,7 @@ namespace {
 constexpr std::size_t kDepth = 1001;
 }
 
+// kept: history-position-stays
 void NodeHistory::Record(const QString& key) {
     if (moving_)
         return;
@@ -29,6 +30,7 @@ void NodeHistory::GoForward(const Show& show) {
     forwardEnabled_ = position_ >= 1 && !Entry(position_ - 1).isEmpty();
 }
 
+// kept: history-of-a-removed-node-ends
 void NodeHistory::ShowEntry(const Show& show) {
     {
         const QScopedValueRollback moving(moving_, true);

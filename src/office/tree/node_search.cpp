@@ -16,6 +16,7 @@ std::u16string LowerCase(const QString& text) {
 
 } // namespace
 
+// kept: search-text-is-a-pattern
 TreeNode* FindByText(const TreeNodes& nodes, const QString& text, int& position) {
     const WildcardPattern pattern(u'*' + LowerCase(text) + u'*');
     int at = position;

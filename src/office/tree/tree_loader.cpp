@@ -1,6 +1,6 @@
 #include "office/tree/tree_loader.h"
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "office/texts/dog_texts.h"
 #include "platform/values/errors.h"
 #include "store/data_module.h"
@@ -34,8 +34,8 @@ constexpr const char16_t* kSpecialClassCaptions[] = {
     u"Třída pracovní",
 };
 
-std::span<const char16_t* const> ClassCaptions(bool specialBreed) {
-    if (specialBreed)
+std::span<const char16_t* const> ClassCaptions(int plemenoID) {
+    if (plemenoID == kSpecialBreedID)
         return kSpecialClassCaptions;
     return kClassCaptions;
 }
@@ -64,7 +64,8 @@ std::span<const Row> RowsOf(const std::vector<Row>& rows, int Row::*number, int 
 /// Adds one breed after the other; the dogs of all breeds have been read beforehand.
 class BreedBuilder {
   public:
-    explicit BreedBuilder(TreeNodes& nodes) : nodes_(nodes), dogs_(TreeDogsByBreed()) {}
+    BreedBuilder(TreeNodes& nodes, bool withClasses)
+        : nodes_(nodes), withClasses_(withClasses), dogs_(TreeDogsByBreed()) {}
 
     void Add(TreeNode* ring, const Plemena& breed, const QString& text, bool inDetail);
 
@@ -72,11 +73,12 @@ class BreedBuilder {
     TreeNode* ParentOf(const TreeDog& dog, TreeNode* breed) const;
 
     TreeNodes& nodes_;
+    bool withClasses_;
     std::vector<TreeDog> dogs_; ///< by breed
 };
 
 TreeNode* BreedBuilder::ParentOf(const TreeDog& dog, TreeNode* breed) const {
-    if (!Module().ShowClassesOn)
+    if (!withClasses_)
         return breed;
     const NodeKey key = NodeKey::Class(breed->Id(), dog.Trida);
     if (TreeNode* classNode = nodes_.Find(key))
@@ -88,10 +90,9 @@ TreeNode* BreedBuilder::ParentOf(const TreeDog& dog, TreeNode* breed) const {
 
 void BreedBuilder::Add(TreeNode* ring, const Plemena& breed, const QString& text, bool inDetail) {
     TreeNode* node = nodes_.AddBreed(ring, breed.ID, text);
-    Module().SpecialBreed = breed.ID == kSpecialBreedID;
-    if (Module().ShowClassesOn) {
+    if (withClasses_) {
         int trida = 0;
-        for (const char16_t* caption : ClassCaptions(Module().SpecialBreed))
+        for (const char16_t* caption : ClassCaptions(breed.ID))
             nodes_.AddClass(node, ++trida, QString::fromUtf16(caption));
     }
     for (const TreeDog& dog : RowsOf(dogs_, &TreeDog::PlemenoID, breed.ID))
@@ -104,14 +105,15 @@ QString UnassignedRootText() {
     return u"Nezařazeno v kruhu"_s;
 }
 
-void LoadTree(TreeNodes& nodes) {
+// kept: two-halves-of-the-tree
+void LoadTree(TreeNodes& nodes, const ViewPreferences& look) {
     const TreeNodes::Rebuilding rebuilding(nodes);
     TreeNode* unassigned = nodes.AddUnassignedRoot(UnassignedRootText());
 
     const ReadRun run(TheDataModule().Conn1);
-    BreedBuilder builder(nodes);
+    BreedBuilder builder(nodes, look.showClasses);
     for (const Plemena& breed : UsedBreedsOutsideRings())
-        builder.Add(unassigned, breed, breed.Nazev, Module().DogDetailInTree);
+        builder.Add(unassigned, breed, breed.Nazev, look.dogDetailInTree);
 
     const std::vector<Plemena> breeds = BreedsByRing();
     for (const Kruhy& row : RingsByName()) {
@@ -121,6 +123,7 @@ void LoadTree(TreeNodes& nodes) {
     }
 }
 
+// kept: class-nodes-collapsed
 std::vector<TreeNode*> NodesToExpand(const TreeNodes& nodes, const QString& expandedItems) {
     std::vector<TreeNode*> found;
     for (const QString& piece : expandedItems.split(u'|'))

@@ -1,6 +1,7 @@
 #pragma once
 // Builds the main tree from the store.
 
+#include "app/view_preferences.h"
 #include "office/tree/tree_nodes.h"
 
 namespace lorvo {
@@ -8,11 +9,10 @@ namespace lorvo {
 /// What the node of the breeds outside all rings is called.
 QString UnassignedRootText();
 
-/// Rebuilds the nodes from the database; `ShowClassesOn` decides on the class level,
-/// `DogDetailInTree` on the texts of dogs outside the rings. Leaves `SpecialBreed` telling of the
-/// last breed. A dog whose class has no node raises Error, and so does the store; the tree then
-/// holds what was built before.
-void LoadTree(TreeNodes& nodes);
+/// Rebuilds the nodes from the database, with classes and with detail as `look` says. A dog whose
+/// class has no node raises Error, and so does the store; the tree then holds what was built
+/// before.
+void LoadTree(TreeNodes& nodes, const ViewPreferences& look = {});
 
 /// The nodes that the stored `expandedItems` (keys, each followed by "|") bring back expanded.
 /// Pieces that name no node are skipped, and class nodes are never among them.

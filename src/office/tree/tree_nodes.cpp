@@ -243,6 +243,7 @@ void TreeNodes::ClearDogBackgrounds() {
         observer_->Recoloured();
 }
 
+// kept: clearing-colours-takes-sexes
 void TreeNodes::ClearAllColours() {
     ForEach([](TreeNode& node) {
         node.colour = kBlack;

@@ -13,10 +13,6 @@ QDate ToQDate(DateValue value) {
     return QDate::fromJulianDay(value.Days() + kJulianDayOfZero);
 }
 
-QDateTime ToQDateTime(DateValue value) {
-    return {ToQDate(value), QTime::fromMSecsSinceStartOfDay(value.SecondOfDay() * 1000)};
-}
-
 DateValue FromQDate(QDate date) {
     if (!date.isValid())
         return {};

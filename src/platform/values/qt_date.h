@@ -9,8 +9,6 @@ namespace lorvo {
 
 /// The calendar day alone.
 QDate ToQDate(DateValue value);
-/// Day and time of day, in local time.
-QDateTime ToQDateTime(DateValue value);
 
 /// Midnight of the day. An invalid date gives the date value 0.
 DateValue FromQDate(QDate date);

@@ -53,6 +53,16 @@ class CardTest : public ::testing::Test {
         Run("INSERT INTO PsiVeVystavach VALUES (" + std::to_string(dog) + ", " +
             std::to_string(show) + ")");
     }
+    /// The dog 3 in the shows 1 for 300 and 2 for 200.
+    void AddDogInTwoShows() {
+        AddShow(1, "První", 0);
+        AddShow(2, "Druhá", 0);
+        SetFee(1, 2, 5, 2, 300);
+        SetFee(2, 2, 5, 2, 200);
+        AddDog(3, "Alík");
+        Enter(3, 1);
+        Enter(3, 2);
+    }
     void Compete(int dog, int competition) {
         Run("INSERT INTO Vazby_Souteze VALUES (" + std::to_string(dog) + ", " +
             std::to_string(competition) + ")");

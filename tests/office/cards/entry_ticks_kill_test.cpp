@@ -8,6 +8,7 @@
 #include "store/vazby_souteze.h"
 
 #include "office/cards/card_test.h"
+#include "office/cards/ticked_lines.h"
 #include "support/watched_disk.h"
 
 namespace lorvo {
@@ -15,22 +16,6 @@ namespace lorvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-CheckLine Line(const QString& key, LineIcon icon, bool checked) {
-    CheckLine line;
-    line.key = key;
-    line.icon = icon;
-    line.checked = checked;
-    return line;
-}
-
-/// Two shows and two competitions; `ticks` has an x for each ticked line.
-CheckLines Lines(std::string_view ticks) {
-    return {Line(u"V1"_s, LineIcon::Show, ticks[0] == 'x'),
-            Line(u"V20"_s, LineIcon::Show, ticks[1] == 'x'),
-            Line(u"k3"_s, LineIcon::Competition, ticks[2] == 'x'),
-            Line(u"k41"_s, LineIcon::Competition, ticks[3] == 'x')};
-}
 
 using EntryTicksKillTest = CardTest;
 

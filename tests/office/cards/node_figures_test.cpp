@@ -22,6 +22,7 @@ class NodeFiguresTest : public CardTest {
     }
 };
 
+// kept: ring-share-of-all-breeds
 TEST_F(NodeFiguresTest, ARingCountsUsedBreedsButItsShareIsOfAll) {
     AddRing();
     const RingFigures figures = FiguresOfRing(4);

@@ -72,13 +72,7 @@ TEST_F(OwnerCardTest, ListsTheDogsWithFeesInPlainNumbers) {
 }
 
 TEST_F(OwnerCardTest, SubtractsTheFeesOfAllShows) {
-    AddShow(1, "První", 0);
-    AddShow(2, "Druhá", 0);
-    SetFee(1, 2, 5, 2, 300);
-    SetFee(2, 2, 5, 2, 200);
-    AddDog(3, "Alík");
-    Enter(3, 1);
-    Enter(3, 2);
+    AddDogInTwoShows();
     FillOwnerDogs(card, 7);
     EXPECT_EQ(card.dogs[0].show, u"První"_s);
     EXPECT_EQ(card.dogs[0].price, u"500 Kč"_s);

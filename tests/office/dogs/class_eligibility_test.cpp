@@ -84,6 +84,7 @@ TEST(ClassEligibility, AnExactYear) {
     EXPECT_EQ(SpecialAge(Day(31, 3, 2004), Day(31, 3, 2005)), 13);
 }
 
+// kept: two-ways-to-count-months
 TEST(ClassEligibility, TheSpecialListClosesTheDayBeforeTheBirthday) {
     const DateValue born = Day(14, 5, 2004);
     EXPECT_EQ(Special(SpecialAge(born, Day(13, 5, 2005))), Classes{1});

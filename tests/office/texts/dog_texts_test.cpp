@@ -26,8 +26,8 @@ TEST_F(DogTextsTest, AFullNameKeepsItsBlankWhereAPartIsMissing) {
 }
 
 TEST_F(DogTextsTest, EachBreedHasItsTableOfClasses) {
-    EXPECT_EQ(ClassName(3, ClassNamesOf(12), {}), u"mladých");
-    EXPECT_EQ(ClassName(3, ClassNamesOf(kSpecialBreedID), {}), u"dospívajících");
+    EXPECT_EQ(ClassName(3, ClassNamesOf(ClassListOf(12)), {}), u"mladých");
+    EXPECT_EQ(ClassName(3, ClassNamesOf(ClassListOf(kSpecialBreedID)), {}), u"dospívajících");
     EXPECT_EQ(ClassName(20, Module().ClassNames, {}), u"");
 }
 

@@ -62,6 +62,7 @@ TEST_F(NodeHistoryTest, ANodeShownByAStepIsNotRecorded) {
     EXPECT_FALSE(history_.ForwardEnabled());
 }
 
+// kept: history-position-stays
 TEST_F(NodeHistoryTest, ThePositionStaysWhenANodeIsRecordedAfterAStepBack) {
     RecordAll({u"K1"_s, u"R2"_s, u"P3"_s});
     EXPECT_EQ(Back(), u"R2"_s);
@@ -84,6 +85,7 @@ TEST_F(NodeHistoryTest, TheOldestOfAThousandAndOneFallsOff) {
     EXPECT_EQ(oldest, u"P1"_s);
 }
 
+// kept: history-of-a-removed-node-ends
 TEST_F(NodeHistoryTest, AStepToANodeThatIsGoneRaisesAndRecordingGoesOn) {
     RecordAll({u"K1"_s, u"R2"_s});
     EXPECT_THROW(history_.GoBack([](const QString&) { throw Error("gone"); }), Error);

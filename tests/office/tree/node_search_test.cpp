@@ -57,6 +57,7 @@ TEST_F(NodeSearchTest, IgnoresLetterCaseInCzechToo) {
     EXPECT_EQ(Found(u"čUVAČ"_s), u"R2"_s);
 }
 
+// kept: search-text-is-a-pattern
 TEST_F(NodeSearchTest, TakesWildcardsInTheText) {
     EXPECT_EQ(Found(u"# b?r"_s), u"P1"_s);
     EXPECT_EQ(Found(u"[[]1]"_s), u"P2"_s);

@@ -21,6 +21,8 @@ namespace {
 /// The tree's lines by the plain walk, up to the dog at which it fails.
 class PlainWalk {
   public:
+    explicit PlainWalk(const ViewPreferences& look) : look_(look) {}
+
     QStringList Lines() {
         lines_ = {test::TreeLine(0, u"K0"_s, u"Nezařazeno v kruhu"_s)};
         failed_ = !Breeds("ID_Kruhu = 0 AND Pouzivat = true", false) || !Rings();
@@ -60,7 +62,7 @@ class PlainWalk {
         dogs.Open("SELECT PrvniPes, PrvniUzaverka, ID, Jmeno, Cislo, PlemenoID, PohlaviPes, Trida "
                   "FROM Psi WHERE Psi!PlemenoID = " +
                   Number(breed) + " ORDER BY PohlaviPes ASC, Trida ASC, Jmeno ASC");
-        const int classes = !Module().ShowClassesOn ? 0 : breed == kSpecialBreedID ? 4 : 8;
+        const int classes = !look_.showClasses ? 0 : breed == kSpecialBreedID ? 4 : 8;
         std::vector<QStringList> groups(static_cast<std::size_t>(classes) + 1);
         bool complete = true;
         for (; !dogs.Eof() && complete; dogs.MoveNext()) {
@@ -77,18 +79,18 @@ class PlainWalk {
         return complete;
     }
 
-    static QString DogLine(const RecordSet& dog, bool inRing) {
+    QString DogLine(const RecordSet& dog, bool inRing) const {
         QString text = dog.Field("Jmeno").ToText();
-        if (Module().DogDetailInTree && !inRing) {
+        if (look_.dogDetailInTree && !inRing) {
             text += dog.Field("PrvniUzaverka").ToBool() ? u" (I. uzávěrka"_s : u" (II. uzávěrka"_s;
             text += dog.Field("PrvniPes").ToBool() ? u", 1.pes majitele)"_s : u")"_s;
         }
         if (dog.Field("Cislo").ToInt() > 0)
             text = dog.Field("Cislo").ToText() + u' ' + text;
-        return test::TreeLine(Module().ShowClassesOn ? 3 : 2, u'P' + dog.Field("ID").ToText(),
-                              text);
+        return test::TreeLine(look_.showClasses ? 3 : 2, u'P' + dog.Field("ID").ToText(), text);
     }
 
+    ViewPreferences look_;
     QStringList lines_;
     bool failed_ = false;
 };
@@ -153,23 +155,22 @@ TEST(TreeLoaderProperty, EqualsThePlainWalkOnRandomShows) {
     for (unsigned seed = 1; seed <= 40; ++seed) {
         SCOPED_TRACE(seed);
         database.Execute(RandomShow(seed).Statements(seed % 4 == 0 ? 60 : 0));
-        Module() = {};
-        Module().ShowClassesOn = seed % 2 == 0;
-        Module().DogDetailInTree = seed % 3 == 0;
+        ViewPreferences look;
+        look.showClasses = seed % 2 == 0;
+        look.dogDetailInTree = seed % 3 == 0;
 
-        PlainWalk walk;
+        PlainWalk walk(look);
         const QStringList expected = walk.Lines();
         TreeNodes nodes;
         if (walk.Failed()) {
             ++failures;
-            EXPECT_THROW(LoadTree(nodes), Error);
+            EXPECT_THROW(LoadTree(nodes, look), Error);
         } else {
-            LoadTree(nodes);
+            LoadTree(nodes, look);
         }
         EXPECT_EQ(WithoutClassCaptions(test::TreeLines(nodes)), expected);
     }
     EXPECT_GT(failures, 3);
-    Module() = {};
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "office/tree/tree_loader.h"
 
-#include "app/module_values.h"
 #include "office/tree/tree_lines.h"
 #include "platform/values/errors.h"
 #include "store/data_module.h"
@@ -16,16 +15,14 @@ namespace {
 
 class TreeLoaderTest : public ::testing::Test {
   protected:
-    TreeLoaderTest() { Module() = {}; }
-    ~TreeLoaderTest() override { Module() = {}; }
-
     QStringList Load() {
-        LoadTree(nodes);
+        LoadTree(nodes, look);
         return test::TreeLines(nodes);
     }
 
     TempDatabase database;
     TreeNodes nodes;
+    ViewPreferences look;
 };
 
 TEST_F(TreeLoaderTest, ShowsTheUnassignedRootOfAnEmptyDatabase) {
@@ -82,7 +79,7 @@ TEST_F(TreeLoaderTest, OrdersMalesFirstThenByClassThenByName) {
 }
 
 TEST_F(TreeLoaderTest, ShowsAllClassesOfABreedWithoutDogs) {
-    Module().ShowClassesOn = true;
+    look.showClasses = true;
     database.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'A');"
                      "INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES"
                      " (1, 'Boxer', 0, -1), (949, 'Německý ovčák', 1, -1)");
@@ -95,26 +92,24 @@ TEST_F(TreeLoaderTest, ShowsAllClassesOfABreedWithoutDogs) {
                            u"    TR1|8 Třída veteránů"_s, u"K1 A"_s, u"  R949 Německý ovčák"_s,
                            u"    TR949|1 Třída dorostu"_s, u"    TR949|2 Třída mladých"_s,
                            u"    TR949|3 Třída dospívajících"_s, u"    TR949|4 Třída pracovní"_s}));
-    EXPECT_TRUE(Module().SpecialBreed);
 }
 
 TEST_F(TreeLoaderTest, PutsDogsUnderTheirClasses) {
-    Module().ShowClassesOn = true;
+    look.showClasses = true;
     database.Execute("INSERT INTO Plemena (ID, Nazev, Pouzivat) VALUES (1, 'Boxer', -1);"
                      "INSERT INTO Psi (ID, Jmeno, PlemenoID, Trida) VALUES (1, 'Alík', 1, 8)");
     Load();
     EXPECT_EQ(nodes.Get(u"P1"_s).parent->Key(), u"TR1|8"_s);
-    EXPECT_FALSE(Module().SpecialBreed);
 }
 
 TEST_F(TreeLoaderTest, StopsAtADogWhoseClassItsBreedLacks) {
-    Module().ShowClassesOn = true;
+    look.showClasses = true;
     database.Execute("INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'A'), (2, 'B');"
                      "INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES"
                      " (949, 'Ovčák', 1, -1), (2, 'Pudl', 2, -1);"
                      "INSERT INTO Psi (ID, Jmeno, PlemenoID, Trida) VALUES"
                      " (1, 'Alík', 949, 4), (2, 'Bára', 949, 5), (3, 'Cvrk', 949, 6)");
-    EXPECT_THROW(LoadTree(nodes), Error);
+    EXPECT_THROW(LoadTree(nodes, look), Error);
     EXPECT_NE(nodes.Find(u"P1"_s), nullptr);
     EXPECT_EQ(nodes.Find(u"P2"_s), nullptr);
     EXPECT_EQ(nodes.Last()->Key(), u"P1"_s);
@@ -129,7 +124,7 @@ TEST_F(TreeLoaderTest, TakesAnyClassNumberWithoutClassNodes) {
 }
 
 TEST_F(TreeLoaderTest, TellsClosingAndFirstDogInDetailModeOutsideRingsAlone) {
-    Module().DogDetailInTree = true;
+    look.dogDetailInTree = true;
     database.Execute(
         "INSERT INTO Kruhy (ID, Nazev) VALUES (1, 'A');"
         "INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES"
@@ -154,7 +149,7 @@ TEST_F(TreeLoaderTest, ForgetsColoursAndMovesAtAReload) {
 }
 
 TEST_F(TreeLoaderTest, ExpandsRingsAndBreedsThatWereStoredButNoClass) {
-    Module().ShowClassesOn = true;
+    look.showClasses = true;
     database.Execute(
         "INSERT INTO Kruhy (ID, Nazev) VALUES (3, 'A');"
         "INSERT INTO Plemena (ID, Nazev, ID_Kruhu, Pouzivat) VALUES (1, 'Boxer', 3, -1)");
@@ -166,7 +161,7 @@ TEST_F(TreeLoaderTest, ExpandsRingsAndBreedsThatWereStoredButNoClass) {
 
 TEST_F(TreeLoaderTest, LeavesTheRootWhenTheStoreFails) {
     database.Execute("DROP TABLE Psi");
-    EXPECT_THROW(LoadTree(nodes), StoreError);
+    EXPECT_THROW(LoadTree(nodes, look), StoreError);
     EXPECT_EQ(test::TreeLines(nodes), QStringList{u"K0 Nezařazeno v kruhu"_s});
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+// What the dog editor is opened for.
+
+namespace lorvo {
+
+struct DogTask {
+    bool adding = false; ///< a new dog, otherwise the one selected in the tree
+    int breedID = 0;     ///< the breed that the dog is stored with
+};
+
+} // namespace lorvo
