@@ -1,7 +1,6 @@
 // What the clerk waits for, up to the painted window, beside the bare limit.
 //   QT_QPA_PLATFORM=offscreen bench_desk [--benchmark_filter=...]
 
-#include "app/module_values.h"
 #include "bare_window.h"
 #include "bench_shows.h"
 #include "desktop/desktop_services.h"

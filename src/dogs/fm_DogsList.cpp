@@ -3,7 +3,6 @@
 #include "app/amount_texts.h"
 #include "app/common_routines.h"
 #include "app/main_window_services.h"
-#include "app/module_values.h"
 #include "dogs/frmDogListFilter.h"
 #include "dogs/totals_bar.h"
 #include "forms/command_collection.h"

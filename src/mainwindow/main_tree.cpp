@@ -1,7 +1,7 @@
 #include "mainwindow/main_tree.h"
 
 #include "app/common_routines.h"
-#include "app/module_values.h"
+#include "app/view_preferences.h"
 #include "forms/controls.h"
 #include "forms/light_palette.h"
 #include "mainwindow/node_delegate.h"

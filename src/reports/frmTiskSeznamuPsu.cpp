@@ -2,7 +2,6 @@
 
 #include "forms/controls.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 
 #include <QVBoxLayout>
 

@@ -9,7 +9,6 @@
 #include "office/numbers/catalogue_numbers.h"
 #include "payments/currency_list.h"
 #include "platform/failure_guard.h"
-#include "platform/platform.h"
 #include "setup/frmCisteniDB.h"
 #include "setup/frmWizard.h"
 #include "store/meny.h"

@@ -1,6 +1,5 @@
 #include "reports/frmTiskKatalog.h"
 
-#include "app/module_values.h"
 #include "store/psi.h"
 #include "support/recording_platform.h"
 #include "support/temp_database.h"

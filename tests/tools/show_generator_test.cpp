@@ -1,6 +1,6 @@
 #include "show/show_generator.h"
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "office/dogs/class_eligibility.h"
 #include "store/barvy.h"
 #include "store/data_module.h"

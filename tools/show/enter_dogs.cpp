@@ -1,6 +1,6 @@
 // Owners and their dogs.
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "office/dogs/class_eligibility.h"
 #include "show/show_names.h"
 #include "show/show_parts.h"

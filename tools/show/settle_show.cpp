@@ -1,6 +1,6 @@
 // Breeds, rings, shows with their fees, and the lists of codes.
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "platform/values/errors.h"
 #include "show/show_parts.h"
 #include "store/barvy.h"

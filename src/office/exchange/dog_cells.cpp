@@ -1,4 +1,4 @@
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "office/exchange/entry_reading.h"
 #include "office/exchange/entry_words.h"
 #include "office/exchange/folded_text.h"

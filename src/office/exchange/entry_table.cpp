@@ -1,6 +1,6 @@
 // Entries as a table that can be taken in again.
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "office/exchange/entry_fields.h"
 #include "office/exchange/office_lists.h"
 #include "office/texts/dog_texts.h"

@@ -1,6 +1,6 @@
 #include "office/fees/ledger.h"
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "store/psi_ve_vystavach.h"
 #include "store/uhrady.h"
 #include "store/vazby_souteze.h"

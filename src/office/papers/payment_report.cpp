@@ -1,7 +1,7 @@
 #include "office/papers/payment_report.h"
 
 #include "app/common_routines.h"
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "office/papers/document_typing.h"
 #include "office/papers/row_filler.h"
 #include "office/papers/run_progress.h"

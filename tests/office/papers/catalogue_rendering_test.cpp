@@ -1,6 +1,5 @@
 // The catalogue as it comes out on paper.
 
-#include "app/module_values.h"
 #include "office/papers/catalogue.h"
 #include "platform/docx/docx_word_processor.h"
 #include "support/office_program.h"

@@ -3,7 +3,7 @@
 
 #include "office/tree/tree_loader.h"
 
-#include "app/module_values.h"
+#include "app/constant_tables.h"
 #include "office/tree/tree_lines.h"
 #include "platform/values/errors.h"
 #include "store/data_module.h"
