@@ -1,6 +1,6 @@
 #include "dogs/dog_filter_choices.h"
 
-#include "app/constant_tables.h"
+#include "office/texts/dog_texts.h"
 #include "store/kruhy.h"
 #include "store/oceneni.h"
 #include "store/plemena.h"

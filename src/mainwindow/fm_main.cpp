@@ -7,7 +7,6 @@
 #include "forms/access_keys.h"
 #include "forms/controls.h"
 #include "forms/form_settings.h"
-#include "forms/messages.h"
 #include "forms/report_list.h"
 #include "mainwindow/about_panel.h"
 #include "mainwindow/disk_notice.h"

@@ -2,6 +2,7 @@
 
 #include "app/common_routines.h"
 #include "app/main_window_services.h"
+#include "app/module_values.h"
 #include "app/view_preferences.h"
 #include "forms/controls.h"
 #include "forms/messages.h"

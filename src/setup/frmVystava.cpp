@@ -18,20 +18,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Whether prices depend on the class is one setting of the installation, not of a show.
-const QString kIniFile = u"/Lorvosys.ini"_s;
 const QString kSection = u"Main"_s;
 const QString kIgnoreClasses = u"Ignorovat tridy"_s;
 
-bool IgnoresClasses(const Platform& platform = ThePlatform()) {
-    return ReadIniValue(kSection, kIgnoreClasses, platform.programFolder + kIniFile) == u"1";
+QString IniPath() {
+    return ThePlatform().programFolder + u"/Lorvosys.ini"_s;
+}
+
+bool IgnoresClasses() {
+    return ReadIniValue(kSection, kIgnoreClasses, IniPath()) == u"1";
 }
 
 /// False when the file could not be written and holds the other choice.
 bool StoreChoice(bool byClass) {
-    const Platform& platform = ThePlatform();
-    return platform.iniFiles->Write(kSection, kIgnoreClasses, byClass ? u"0"_s : u"1"_s,
-                                    platform.programFolder + kIniFile) ||
-           IgnoresClasses(platform) != byClass;
+    return ThePlatform().iniFiles->Write(kSection, kIgnoreClasses, byClass ? u"0"_s : u"1"_s,
+                                         IniPath()) ||
+           IgnoresClasses() != byClass;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "office/tree/tree_loader.h"
 
+#include "app/constant_tables.h"
 #include "office/tree/tree_lines.h"
 #include "platform/values/errors.h"
 #include "store/data_module.h"
