@@ -159,7 +159,7 @@ TEST_F(MainTreeTest, PutsTheSearchBackToTheStartOnHome) {
 
 TEST_F(MainTreeTest, EditsInPlaceOnlyWhatItIsToldTo) {
     host.SelectNode(u"K1"_s);
-    Tree().edit(Tree().currentIndex());
+    static_cast<QAbstractItemView&>(Tree()).edit(Tree().currentIndex());
     EXPECT_EQ(Editor(), nullptr);
     Tree().StartLabelEdit(&Node(u"K1"_s));
     EXPECT_NE(Editor(), nullptr);
