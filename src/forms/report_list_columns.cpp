@@ -96,8 +96,8 @@ int ReportList::SpareWidth(int column) const {
     return std::max(0, asked.width - std::max(HeadingWidth(column), asked.width * 3 / 5));
 }
 
-/// Takes what the list lacks from the columns, of each in proportion to what it can do without. A list
-/// that has to scroll nevertheless keeps its widths.
+/// Takes what the list lacks from the columns, of each in proportion to what it can do without. A
+/// list that has to scroll nevertheless keeps its widths.
 void ReportList::LetColumnsGiveWay() {
     std::vector<int> spare;
     int all = 0;
