@@ -1,5 +1,6 @@
 #include "office/texts/dog_texts.h"
 
+#include "app/module_values.h"
 #include "office/texts/colours.h"
 #include "platform/values/errors.h"
 #include "support/recording_platform.h"
