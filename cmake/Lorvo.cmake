@@ -31,3 +31,26 @@ function(lorvo_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 240)
 endfunction()
+
+# lorvo_walk(TARGET)
+# An entry of ctest for each kind of screen that the windows must be in order on.
+function(lorvo_walk target)
+  foreach(size 1366x768 1920x1080)
+    string(REPLACE "x" ";" sides ${size})
+    list(GET sides 0 width)
+    list(GET sides 1 height)
+    set(screens ${CMAKE_CURRENT_BINARY_DIR}/screen-${size}.json)
+    file(WRITE ${screens} "{\"screens\": [{\"name\": \"${size}\", \"x\": 0, \"y\": 0, "
+      "\"width\": ${width}, \"height\": ${height}}]}\n")
+    set(scales 1 1.5)
+    if(width GREATER 1366)
+      list(APPEND scales 2)
+    endif()
+    foreach(scale ${scales})
+      add_test(NAME ${target}_${size}_${scale} COMMAND ${target})
+      set_tests_properties(${target}_${size}_${scale} PROPERTIES
+        TIMEOUT 240
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen:configfile=${screens};QT_SCALE_FACTOR=${scale};LORVO_PICTURES=${PROJECT_BINARY_DIR}/pictures/${size}-${scale}")
+    endforeach()
+  endforeach()
+endfunction()

@@ -9,6 +9,8 @@ namespace lorvo {
 class AccessKeyStyle : public QProxyStyle {
     Q_OBJECT
   public:
+    using QProxyStyle::QProxyStyle;
+
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,

@@ -19,6 +19,7 @@ namespace {
 
 constexpr char kKeyProperty[] = "accessKey";
 constexpr char kWishProperty[] = "accessKeyWish";
+constexpr char kTargetProperty[] = "accessKeyTarget";
 
 /// Parts that other controls are made of, such as the arrows of a tab bar.
 bool IsPart(const QWidget& control) {
@@ -84,13 +85,17 @@ void TakeMark(QWidget& control) {
 }
 
 void Press(QWidget& control) {
+    const QPointer<QWidget> inside = control.property(kTargetProperty).value<QWidget*>();
+    if (inside && inside->isVisible())
+        return inside->setFocus(Qt::ShortcutFocusReason);
     auto* label = qobject_cast<QLabel*>(&control);
     QWidget* target = label && label->buddy() ? label->buddy() : &control;
-    if (target->focusPolicy() != Qt::NoFocus)
+    auto* tool = qobject_cast<QToolButton*>(&control);
+    // A command of a bar works on what has the keyboard, which goes on there afterwards.
+    if (!tool && target->focusPolicy() != Qt::NoFocus)
         target->setFocus(Qt::ShortcutFocusReason);
     if (auto* link = qobject_cast<LinkLabel*>(&control))
         Q_EMIT link->Clicked(Qt::LeftButton);
-    auto* tool = qobject_cast<QToolButton*>(&control);
     if (tool && tool->menu() && tool->popupMode() == QToolButton::InstantPopup)
         tool->showMenu();
     else if (auto* button = qobject_cast<QAbstractButton*>(&control))
@@ -169,6 +174,10 @@ void AccessKeys::RefreshLater() {
 
 QChar AccessKeyOf(const QWidget& control) {
     return control.property(kKeyProperty).toChar();
+}
+
+void LeadByAccessKey(QWidget& control, QWidget& target) {
+    control.setProperty(kTargetProperty, QVariant::fromValue(&target));
 }
 
 QString WithAccessKey(const QString& text, QChar key) {

@@ -1,6 +1,7 @@
 #include "forms/application.h"
 
 #include "forms/access_key_style.h"
+#include "forms/legible_style.h"
 #include "forms/wheel_guard.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -46,7 +47,7 @@ QString WhatBecameOfTheWork(const std::exception_ptr& failure) {
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
-    setStyle(new AccessKeyStyle);
+    setStyle(new AccessKeyStyle(new LegibleStyle));
     // Machines without Tahoma show its nearest relatives, which have all Czech letters.
     QFont::insertSubstitutions(u"Tahoma"_s, {u"Verdana"_s, u"DejaVu Sans"_s, u"Liberation Sans"_s});
     installEventFilter(new WheelGuard(this));

@@ -5,6 +5,7 @@
 #include "forms/box_hints.h"
 #include "forms/form_settings.h"
 #include "forms/label_edit_delegate.h"
+#include "forms/page_keys.h"
 #include "forms/report_list.h"
 #include "forms/scrolled_content.h"
 #include "platform/failure_guard.h"
@@ -14,6 +15,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QShowEvent>
+#include <QTabWidget>
 #include <algorithm>
 #include <vector>
 
@@ -77,6 +79,8 @@ void Form::ShowModally() {
     LoadFormSettings(*this, border_ == Border::Fixed);
     LimitTypedTexts();
     NameLists(*this);
+    for (QTabWidget* pages : findChildren<QTabWidget*>())
+        ChangePagesByKeys(*pages);
     Load();
     RethrowFailure();
     if (unloaded_)
@@ -96,6 +100,12 @@ void Form::LimitTypedTexts() {
             box->setMaxLength(LongestTypedText());
         TellItsLimit(*box);
     }
+}
+
+void Form::ShowBeginnings() {
+    for (QLineEdit* box : findChildren<QLineEdit*>())
+        if (!box->hasFocus() && !box->hasSelectedText())
+            box->home(false);
 }
 
 void Form::FitToScreen() {
@@ -139,7 +149,10 @@ void Form::showEvent(QShowEvent* event) {
     // The toolkit places the window by the size that it has only now.
     QDialog::showEvent(event);
     if (!event->spontaneous())
-        Guarded([this] { RestorePlace(*this); });
+        Guarded([this] {
+            RestorePlace(*this);
+            Later(this, [this] { ShowBeginnings(); });
+        });
 }
 
 void Form::done(int result) {

@@ -51,6 +51,8 @@ class Form : public QDialog {
     void ShowModally();
     void FitToScreen();
     void LimitTypedTexts();
+    /// Of texts that are longer than their boxes, but for the one that has the keyboard.
+    void ShowBeginnings();
     Border border_;
     int widening_ = 0;
     bool unloaded_ = false;

@@ -1,5 +1,6 @@
 #include "forms/label_edit_delegate.h"
 
+#include "forms/cut_text_tip.h"
 #include "platform/failure_guard.h"
 #include "store/text_width.h"
 
@@ -100,6 +101,14 @@ QSize LabelEditDelegate::sizeHint(const QStyleOptionViewItem& option,
                                   const QModelIndex& index) const {
     const QSize size = QStyledItemDelegate::sizeHint(option, index);
     return {size.width(), std::max(size.height(), option.fontMetrics.height() + kRowAir)};
+}
+
+bool LabelEditDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                  const QStyleOptionViewItem& option, const QModelIndex& index) {
+    return GuardedAnswer(false, [&] {
+        return ShowCutText(*event, *view, option, index) ||
+               QStyledItemDelegate::helpEvent(event, view, option, index);
+    });
 }
 
 void EndLabelEdits(QWidget& window) {

@@ -1,7 +1,9 @@
 #include "forms/scrolled_content.h"
 
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 
+#include <QApplication>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -53,6 +55,11 @@ void ScrollContent(QWidget& window) {
     while (column->count() > 1)
         MoveRow(*column, *rows);
     column->insertWidget(0, area, 1);
+    // The toolkit follows the keyboard only where it comes from within the area.
+    Connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
+        if (now && area->widget()->isAncestorOf(now))
+            area->ensureWidgetVisible(now);
+    });
 }
 
 } // namespace lorvo

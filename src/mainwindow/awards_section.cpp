@@ -21,6 +21,7 @@ AwardsSection::AwardsSection(QWidget* parent)
     lvwOceneni->SetCheckBoxes(true);
     lvwOceneni->SetLabelEdit(false);
     lvwOceneni->SetColumnWidths({360});
+    SetFirstControl(*lvwOceneni);
     auto* column = new QVBoxLayout(Content());
     column->addWidget(lvwOceneni, 1);
     Connect(lvwOceneni, &ReportList::ItemCheck, this, &AwardsSection::Tick);

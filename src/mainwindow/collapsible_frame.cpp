@@ -1,5 +1,6 @@
 #include "mainwindow/collapsible_frame.h"
 
+#include "forms/access_keys.h"
 #include "platform/failure_guard.h"
 
 #include <QEvent>
@@ -41,6 +42,10 @@ CollapsibleFrame::CollapsibleFrame(const char* name, const QString& title, int o
     font.setBold(true);
     header_->setFont(font);
     Connect(header_, &QToolButton::clicked, this, &CollapsibleFrame::Toggle);
+}
+
+void CollapsibleFrame::SetFirstControl(QWidget& control) {
+    LeadByAccessKey(*header_, control);
 }
 
 int CollapsibleFrame::Pixels(const QWidget& widget, int units) {

@@ -5,13 +5,12 @@
 #include "mainwindow/entries_section.h"
 #include "mainwindow/origin_section.h"
 #include "mainwindow/owner_section.h"
+#include "mainwindow/panel_area.h"
 #include "mainwindow/panel_builders.h"
 #include "platform/failure_guard.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QScrollArea>
-#include <QScrollBar>
 
 namespace lorvo {
 
@@ -21,27 +20,6 @@ namespace {
 
 /// Between two sections.
 constexpr int kGapUnits = 105;
-
-/// Scrolls up and down alone: it is never narrower than the sections and the scroll bar beside
-/// them. The keyboard goes to what lies in it and takes it along.
-class SectionsArea : public QScrollArea {
-  public:
-    explicit SectionsArea(QWidget* parent) : QScrollArea(parent) {
-        setObjectName(u"areaSections"_s);
-        setFrameShape(QFrame::NoFrame);
-        setWidgetResizable(true);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setFocusPolicy(Qt::NoFocus);
-    }
-
-    QSize minimumSizeHint() const override {
-        QSize least = QScrollArea::minimumSizeHint();
-        if (widget())
-            least.setWidth(widget()->minimumSizeHint().width() +
-                           verticalScrollBar()->sizeHint().width());
-        return least;
-    }
-};
 
 } // namespace
 
@@ -60,7 +38,7 @@ DogPanel::DogPanel(QWidget* parent)
 }
 
 QScrollArea* DogPanel::Sections() {
-    auto* area = new SectionsArea(this);
+    auto* area = new PanelArea(u"areaSections"_s, this);
     auto* sections = new QWidget(area);
     fraPuvod = new OriginSection(sections);
     fraMajitel = new OwnerSection(sections);

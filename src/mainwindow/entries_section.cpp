@@ -36,6 +36,7 @@ EntriesSection::EntriesSection(QWidget* parent)
     lvwSouteze->SetLabelEdit(false);
     lvwSouteze->SetColumnWidths({260, 90, 100, 60});
     lvwSouteze->SetIcons({ProgramIcon(u"show"_s), ProgramIcon(u"competition"_s)});
+    SetFirstControl(*lvwSouteze);
     auto* column = new QVBoxLayout(Content());
     column->addLayout(Values());
     column->addWidget(lvwSouteze, 1);

@@ -1,5 +1,6 @@
 #include "mainwindow/node_delegate.h"
 
+#include "forms/cut_text_tip.h"
 #include "platform/failure_guard.h"
 #include "store/text_width.h"
 
@@ -24,6 +25,14 @@ QWidget* NodeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
             line->setMaxLength(kLongestText);
         }
         return editor;
+    });
+}
+
+bool NodeDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index) {
+    return GuardedAnswer(false, [&] {
+        return ShowCutText(*event, *view, option, index) ||
+               QStyledItemDelegate::helpEvent(event, view, option, index);
     });
 }
 

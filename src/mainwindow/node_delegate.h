@@ -16,6 +16,9 @@ class NodeDelegate : public QStyledItemDelegate {
     /// A line that takes no more than a text field of the store holds.
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
+    /// A text that doesn't fit is shown whole under the mouse.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
 
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

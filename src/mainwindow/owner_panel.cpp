@@ -107,7 +107,7 @@ void OwnerPanel::ShowDogs(const std::vector<OwnerDogLine>& dogs) {
         row.key = dog.key;
         row.tag = dog.tag;
         for (const InkedText& text : CellsOf(dog))
-            row.cells.push_back({text.text, text.colour});
+            row.cells.push_back({text.text, text.colour, -1, text.spoken});
         rows.push_back(std::move(row));
     }
     lvwDogs->SetRows(std::move(rows));

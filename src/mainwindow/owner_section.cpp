@@ -39,6 +39,7 @@ OwnerSection::OwnerSection(QWidget* parent)
     : CollapsibleFrame("fraMajitel", u"Majitel"_s, kOpenUnits, Growth::Fixed, parent) {
     auto* column = new QVBoxLayout(Content());
     column->addLayout(Lines());
+    SetFirstControl(*name_);
     column->addStretch();
     // The lines came into the window after the pictures below them.
     const std::vector<QWidget*> inReadingOrder = {name_,   email_,  picPrev,

@@ -1,6 +1,7 @@
 #include "mainwindow/panel_builders.h"
 
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 #include "forms/report_list.h"
 #include "mainwindow/elided_link.h"
 
@@ -42,7 +43,7 @@ ReportRow RowOf(const CheckLine& line) {
     row.cells.push_back(
         {line.text, std::nullopt, static_cast<int>(line.icon) - 1, IconWord(line.icon)});
     for (const InkedText& text : line.subItems)
-        row.cells.push_back({text.text, text.colour});
+        row.cells.push_back({text.text, text.colour, -1, text.spoken});
     return row;
 }
 
@@ -71,7 +72,8 @@ void UpdateRow(ReportList& list, int position, const ReportRow& wanted) {
 } // namespace
 
 QLabel* PanelHeading(const QString& text, QWidget* panel) {
-    auto* heading = new QLabel(text, panel);
+    auto* heading = new ElidedLabel(panel);
+    heading->setText(text);
     heading->setFont(Bold(heading->font()));
     panel->setAccessibleName(text);
     return heading;

@@ -3,6 +3,7 @@
 #include "app/start_up.h"
 #include "forms/keyboard_menu.h"
 #include "forms/label_edit_delegate.h"
+#include "forms/light_palette.h"
 #include "platform/failure_guard.h"
 
 #include <QApplication>
@@ -23,6 +24,7 @@ BreedTree::BreedTree(const char* name, std::vector<BreedTreeModel::Column> colum
       delegate_(new LabelEditDelegate(*this)) {
     setObjectName(QString::fromLatin1(name));
     setModel(model_);
+    KeepLight(*this);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     delegate_->untouchedEdits = false;

@@ -133,6 +133,9 @@ QVariant BreedTreeModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case Qt::EditRole:
         return node.cells[columns_[static_cast<std::size_t>(index.column())].cell];
+    case Qt::AccessibleTextRole: // the colours of the first column say what no other one may
+        return data(index, Qt::DisplayRole).toString() +
+               (first && node.blue ? u", vlastní"_s : QString());
     case Qt::CheckStateRole:
         return first ? QVariant(node.checked ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::ForegroundRole:

@@ -5,6 +5,7 @@
 #include "support/recording_platform.h"
 
 #include <QTest>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -55,6 +56,33 @@ TEST_F(AccessKeysTest, ACaptionLeadsToItsField) {
     const QChar key = AccessKeyOf(*window.findChild<QLabel*>());
     QTest::keyClick(&window, static_cast<Qt::Key>(key.unicode()), Qt::AltModifier);
     EXPECT_TRUE(name->hasFocus());
+}
+
+TEST_F(AccessKeysTest, ACommandOfABarLeavesTheKeyboardWhereItIs) {
+    auto* command = new QToolButton(&window);
+    command->setText(u"Filtr"_s);
+    command->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    command->setFocusPolicy(Qt::TabFocus);
+    command->show();
+    int pressed = 0;
+    QObject::connect(command, &QToolButton::clicked, command, [&pressed] { ++pressed; });
+    name->setFocus();
+    QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(pressed, 1);
+    EXPECT_TRUE(name->hasFocus());
+}
+
+TEST_F(AccessKeysTest, AHeadingLeadsToWhatStandsBelowItAsLongAsThatIsInSight) {
+    LeadByAccessKey(*other, *name);
+    int pressed = 0;
+    QObject::connect(other, &QPushButton::clicked, other, [&pressed] { ++pressed; });
+    add->setFocus();
+    QTest::keyClick(&window, static_cast<Qt::Key>(AccessKeyOf(*other).unicode()), Qt::AltModifier);
+    EXPECT_TRUE(name->hasFocus());
+    EXPECT_EQ(pressed, 0);
+    name->hide();
+    QTest::keyClick(&window, static_cast<Qt::Key>(AccessKeyOf(*other).unicode()), Qt::AltModifier);
+    EXPECT_EQ(pressed, 1);
 }
 
 TEST_F(AccessKeysTest, TextsStayAsTheyAreAndTheLetterIsUnderlined) {

@@ -149,5 +149,21 @@ TEST_F(FormTest, AWindowMayBeOpenedAgain) {
     EXPECT_EQ(steps, oneRun + oneRun);
 }
 
+TEST_F(FormTest, LongTextsShowTheirBeginning) {
+    StepsForm form(steps);
+    auto* first = new QLineEdit(&form);
+    auto* second = new QLineEdit(&form);
+    for (QLineEdit* box : {first, second}) {
+        form.layout()->addWidget(box);
+        box->setText(u"bohuslava.nepomucka-krkoskovicova@chovatelskastanice.example"_s);
+    }
+    first->setFocus();
+    WhileOpen([&form] { OpenModal(form); },
+              [&](QWidget&) {
+                  EXPECT_TRUE(QTest::qWaitFor([&] { return second->cursorPosition() == 0; }));
+                  EXPECT_EQ(first->cursorPosition(), first->text().size());
+              });
+}
+
 } // namespace
 } // namespace lorvo

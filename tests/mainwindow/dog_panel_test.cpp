@@ -90,7 +90,7 @@ TEST_F(DogPanelTest, AnEmptyNoteIsBlankOnWhiteAndTheOwnersNameHasRoom) {
 TEST_F(DogPanelTest, LongTextsNeitherWidenThePanelNorLeaveBlankRoom) {
     Start();
     Show(u"P3"_s);
-    auto* area = Value(u"PK:"_s)->window()->findChild<QScrollArea*>();
+    auto* area = Value(u"PK:"_s)->window()->findChild<QScrollArea*>(u"areaSections"_s);
     const int before = area->window()->minimumSizeHint().width();
     Run("UPDATE Psi SET PK = '" + std::string(150, 'W') + "', ChovnaStanice = '" + Words(140) +
         "'");

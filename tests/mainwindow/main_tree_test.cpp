@@ -1,9 +1,11 @@
 #include "mainwindow/tree_host.h"
 
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QImage>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QToolTip>
 
 namespace lorvo::test {
 
@@ -50,6 +52,20 @@ TEST_F(MainTreeTest, SelectsByAPressOnTheOpeningSignToo) {
     QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, {8, text.y()});
     EXPECT_EQ(host.SelectedNode(), u"K1"_s);
     EXPECT_TRUE(IsExpanded(u"K1"_s));
+}
+
+TEST_F(MainTreeTest, ShowsTheWholeTextOfACutNodeUnderTheMouse) {
+    const auto tipOver = [this](const QString& key) {
+        const QPoint at = PlaceOf(key);
+        QHelpEvent event(QEvent::ToolTip, at, Tree().viewport()->mapToGlobal(at));
+        const bool shown = QCoreApplication::sendEvent(Tree().viewport(), &event);
+        return shown ? QToolTip::text() : QString();
+    };
+    const QString name = u"Kruh 01 – hala A, u západního vchodu za veterinární přejímkou"_s;
+    host.nodes.SetText(&Node(u"K1"_s), name);
+    host.resize(220, 400);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(tipOver(u"K1"_s), name);
 }
 
 TEST_F(MainTreeTest, FindsNoNodeRightOfItsText) {

@@ -97,6 +97,8 @@ TEST_F(BreedRegisterTest, ShowsBreedsWithTheirSubgroupsByName) {
         EXPECT_EQ(Data(pudl, Qt::BackgroundRole).value<QColor>(), QColor(255, 255, 255));
         EXPECT_EQ(Data(brown, Qt::ForegroundRole).value<QColor>(), QColor(0, 0, 255));
         EXPECT_EQ(Data(pudl, Qt::ForegroundRole).value<QColor>(), QColor(0, 0, 0));
+        EXPECT_EQ(Data(brown, Qt::AccessibleTextRole), u"Pudl hnědý (Orig), vlastní"_s);
+        EXPECT_EQ(Data(pudl, Qt::AccessibleTextRole), u"Pudl (Orig)"_s);
         EXPECT_EQ(Status(window), "Celkem 3 plemena, z toho 1 použito.");
     });
 }

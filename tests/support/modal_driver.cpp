@@ -33,4 +33,14 @@ void WhileOpen(const std::function<void()>& open, const std::function<void(QWidg
         std::rethrow_exception(failure);
 }
 
+void CloseWhatOpensAbove(QWidget& window) {
+    auto* watch = new QTimer(&window);
+    QObject::connect(watch, &QTimer::timeout, &window, [&window] {
+        QWidget* above = QApplication::activeModalWidget();
+        if (above && above->parentWidget() && above->parentWidget()->window() == &window)
+            above->close();
+    });
+    watch->start(0);
+}
+
 } // namespace lorvo::test

@@ -19,4 +19,7 @@ template<typename T> T& Control(const QWidget& window, const char* name) {
 /// still open afterwards is closed as by its close box. Fails the test when no window came.
 void WhileOpen(const std::function<void()>& open, const std::function<void(QWidget&)>& inside);
 
+/// From now on closes each modal window that opens above the window.
+void CloseWhatOpensAbove(QWidget& window);
+
 } // namespace lorvo::test

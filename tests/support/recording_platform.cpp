@@ -67,7 +67,8 @@ struct RecordingPlatform::Doubles {
                            const QString& title) override {
             owner_.messages.push_back({text, icon, buttons, title});
             if (owner_.expectedMessages_.empty()) {
-                ADD_FAILURE() << "nobody expected the message: " << text.toStdString();
+                EXPECT_TRUE(owner_.anyMessages)
+                    << "nobody expected the message: " << text.toStdString();
                 return HarmlessAnswer(buttons);
             }
             const ExpectedMessage expected = std::move(owner_.expectedMessages_.front());

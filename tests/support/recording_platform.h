@@ -40,6 +40,8 @@ class RecordingPlatform {
                        std::optional<MessageButtons> buttons = {},
                        std::optional<QString> title = {}, std::function<void()> whileOpen = {});
     std::vector<RecordedMessage> messages; ///< all that came
+    /// Whether messages that nobody expected are in order; they are answered so that no harm comes.
+    bool anyMessages = false;
 
     /// The next pop-up menu is answered by this number, 0 to leave it; `inspect` sees its entries.
     /// A number that the menu doesn't offer, or only greyed, fails the test.

@@ -14,6 +14,7 @@ namespace lorvo {
 struct InkedText {
     QString text;
     std::optional<QColor> colour;
+    QString spoken = {}; ///< what the colour says beside the text, for those who can't see it
 
     bool operator==(const InkedText&) const = default;
 };

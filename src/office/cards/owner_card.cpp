@@ -41,7 +41,7 @@ OwnerDogLine LineOf(const Psi& dog, const Account& account,
     OwnerDogLine line;
     line.key = NodeKey::Dog(dog.ID).ToText();
     line.tag = QString::number(dog.ID);
-    line.name = {dog.Jmeno, SexColour(dog.PohlaviPes)};
+    line.name = {dog.Jmeno, SexColour(dog.PohlaviPes), SexText(dog.PohlaviPes).toLower()};
     line.show = FirstShowName(account);
     line.closing = ClosingText(dog.PrvniUzaverka);
     line.firstDog = dog.PrvniPes ? YesNo(true) : QString();

@@ -1,5 +1,6 @@
 #include "office/tree/tree_model.h"
 
+#include "office/texts/dog_texts.h"
 #include "platform/failure_guard.h"
 
 #include <QColor>
@@ -23,6 +24,16 @@ const QFont& BoldFont() {
         return bold;
     }();
     return font;
+}
+
+/// What picture and colours say of a node, for those who can't see them.
+QString SpokenOf(const TreeNode& node) {
+    QString words;
+    if (node.IsDog() && node.colour != kBlack)
+        words += u", "_s + SexText(node.colour == kMaleText).toLower();
+    if (node.background != kWhite)
+        words += u", zvýrazněno"_s;
+    return words;
 }
 
 } // namespace
@@ -107,6 +118,8 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
         return QColor(node.colour);
     case Qt::BackgroundRole:
         return QColor(node.background);
+    case Qt::AccessibleTextRole:
+        return node.text + SpokenOf(node);
     case kKeyRole:
         return node.Key();
     case kTagRole:

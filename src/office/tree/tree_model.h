@@ -10,9 +10,9 @@
 
 namespace lorvo {
 
-/// Roles: text, colours, bold, picture; Qt::UserRole the key, Qt::UserRole + 1 the tag. Breeds and
-/// dogs can be dragged, their key being the drag's text. Only drags of this model's own nodes can
-/// be dropped.
+/// Roles: text, what is spoken of it, colours, bold, picture; Qt::UserRole the key, Qt::UserRole +
+/// 1 the tag. Breeds and dogs can be dragged, their key being the drag's text. Only drags of this
+/// model's own nodes can be dropped.
 class TreeModel : public QAbstractItemModel, private TreeObserver {
     Q_OBJECT
   public:

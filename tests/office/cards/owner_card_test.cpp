@@ -48,7 +48,7 @@ TEST_F(OwnerCardTest, ListsTheDogsWithFeesInPlainNumbers) {
     const OwnerDogLine& male = card.dogs[0];
     EXPECT_EQ(male.key, u"P4"_s);
     EXPECT_EQ(male.tag, u"4"_s);
-    EXPECT_EQ(male.name, (InkedText{u"Alík"_s, QColor(0, 0, 255)}));
+    EXPECT_EQ(male.name, (InkedText{u"Alík"_s, QColor(0, 0, 255), u"pes"_s}));
     EXPECT_EQ(male.show, u"Hlavní výstava"_s);
     EXPECT_EQ(male.closing, u"I"_s);
     EXPECT_EQ(male.firstDog, u"Ano"_s);
@@ -58,7 +58,7 @@ TEST_F(OwnerCardTest, ListsTheDogsWithFeesInPlainNumbers) {
     EXPECT_EQ(male.balance, (InkedText{u"50 Kč"_s, QColor(0, 255, 0)}));
     EXPECT_EQ(male.note, u"kouše"_s);
     const OwnerDogLine& bitch = card.dogs[1];
-    EXPECT_EQ(bitch.name, (InkedText{u"Bára"_s, QColor(255, 0, 0)}));
+    EXPECT_EQ(bitch.name, (InkedText{u"Bára"_s, QColor(255, 0, 0), u"fena"_s}));
     EXPECT_EQ(bitch.closing, u"II"_s);
     EXPECT_EQ(bitch.firstDog, QString());
     EXPECT_EQ(bitch.competitions, u"Dvojice, Šampion"_s);

@@ -45,6 +45,15 @@ TEST_F(TreeModelTest, ShowsTextKeyTagColoursAndWeight) {
     EXPECT_EQ(Data(breed, Qt::ForegroundRole).value<QColor>(), QColor(0, 0, 0));
 }
 
+TEST_F(TreeModelTest, SpeaksWhatColoursSay) {
+    EXPECT_EQ(Data(dog, Qt::AccessibleTextRole).toString(), u"Alík, pes"_s);
+    const TreeNode* bitch = nodes.AddDog(breed, 12, u"Bára"_s, false);
+    EXPECT_EQ(Data(bitch, Qt::AccessibleTextRole).toString(), u"Bára, fena"_s);
+    EXPECT_EQ(Data(breed, Qt::AccessibleTextRole).toString(), u"Boxer"_s);
+    nodes.SetBackground(dog, kHighlight);
+    EXPECT_EQ(Data(dog, Qt::AccessibleTextRole).toString(), u"Alík, pes, zvýrazněno"_s);
+}
+
 TEST_F(TreeModelTest, ShowsThePictureOfTheKind) {
     TreeModel::Icons icons;
     for (std::size_t i = 0; i < icons.size(); ++i) {

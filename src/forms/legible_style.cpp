@@ -1,0 +1,78 @@
+#include "forms/legible_style.h"
+
+#include "forms/legible_colour.h"
+
+#include <QStyleOption>
+#include <optional>
+
+namespace lorvo {
+
+namespace {
+
+/// What a row's text is drawn on while the row isn't selected.
+QColor GroundOf(const QStyleOptionViewItem& item) {
+    return item.backgroundBrush.style() == Qt::NoBrush ? item.palette.color(QPalette::Base)
+                                                       : item.backgroundBrush.color();
+}
+
+/// The colour that texts of the role stand on; nullopt for roles that other texts have.
+std::optional<QColor> GroundOf(QPalette::ColorRole role, const QPalette& palette) {
+    switch (role) {
+    case QPalette::WindowText:
+    case QPalette::Link:
+        return palette.color(QPalette::Window);
+    case QPalette::ButtonText:
+        return palette.color(QPalette::Button);
+    case QPalette::ToolTipText:
+        return palette.color(QPalette::ToolTipBase);
+    default:
+        return std::nullopt;
+    }
+}
+
+/// The selection bar's colour, darkened where text couldn't be read on it or on the lighter one
+/// that it has under the mouse.
+QColor BarFor(const QColor& text, QColor bar) {
+    constexpr int kUnderMouse = 110;
+    bar = LegibleOn(text, bar);
+    while (bar.value() > 0 && Contrast(text, bar) > Contrast(text, bar.lighter(kUnderMouse)) &&
+           Contrast(text, bar.lighter(kUnderMouse)) < kLegibleContrast)
+        bar = bar.darker(105);
+    return bar;
+}
+
+} // namespace
+
+void LegibleStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+        palette.setColor(group, QPalette::Highlight,
+                         BarFor(palette.color(group, QPalette::HighlightedText),
+                                palette.color(group, QPalette::Highlight)));
+}
+
+void LegibleStyle::drawControl(ControlElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (element != CE_ItemViewItem || !item)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionViewItem legible(*item);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+        legible.palette.setColor(
+            group, QPalette::Text,
+            LegibleOn(GroundOf(*item), item->palette.color(group, QPalette::Text)));
+    QProxyStyle::drawControl(element, &legible, painter, widget);
+}
+
+void LegibleStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                                const QPalette& palette, bool enabled, const QString& text,
+                                QPalette::ColorRole role) const {
+    const std::optional<QColor> ground = enabled ? GroundOf(role, palette) : std::nullopt;
+    if (!ground)
+        return QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+    QPalette legible(palette);
+    legible.setColor(role, LegibleOn(*ground, palette.color(role)));
+    QProxyStyle::drawItemText(painter, rect, flags, legible, enabled, text, role);
+}
+
+} // namespace lorvo

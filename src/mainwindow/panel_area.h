@@ -1,0 +1,18 @@
+#pragma once
+// Room for panels that are higher than their place.
+
+#include <QScrollArea>
+
+namespace lorvo {
+
+/// Scrolls up and down alone: it is never narrower than its content and the scroll bar beside it.
+/// The keyboard goes to what lies in it and takes it along.
+class PanelArea : public QScrollArea {
+    Q_OBJECT
+  public:
+    PanelArea(const QString& name, QWidget* parent);
+
+    QSize minimumSizeHint() const override;
+};
+
+} // namespace lorvo

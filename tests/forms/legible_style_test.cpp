@@ -1,0 +1,66 @@
+// Told colours on the screen: what is painted, and what is told to whoever asks.
+
+#include "forms/legible_colour.h"
+#include "forms/report_list.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QTest>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QColor kGrey(190, 190, 190);
+
+/// How far the farthest of the colours painted stands from white.
+double FarthestFromWhite(const QWidget& widget, const QRect& place) {
+    QImage picture(place.size() * 3, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(3);
+    const_cast<QWidget&>(widget).render(&picture, {}, place);
+    double farthest = 1;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            farthest = std::max(farthest, Contrast(picture.pixelColor(x, y), Qt::white));
+    return farthest;
+}
+
+TEST(LegibleStyle, APaleCellIsPaintedLegiblyAndKeepsItsToldColour) {
+    ReportList list("lvwCells", {u"Cena"_s}, nullptr);
+    list.SetRows({{u"C1"_s, {}, {{u"1 234 Kč"_s, kGrey}}}});
+    list.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    const QModelIndex cell = list.model()->index(0, 0);
+    EXPECT_EQ(cell.data(Qt::ForegroundRole).value<QColor>(), kGrey);
+    const double contrast =
+        FarthestFromWhite(*list.viewport(), list.visualRect(cell).adjusted(2, 2, -2, -2));
+    EXPECT_GE(contrast, kLegibleContrast - 0.05);
+    EXPECT_LT(contrast, 6) << "still a grey";
+}
+
+TEST(LegibleStyle, SoIsALabel) {
+    QLabel label(u"1 234 Kč"_s);
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::WindowText, QColor(0, 255, 0));
+    label.setPalette(palette);
+    label.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&label));
+    EXPECT_EQ(label.palette().color(label.foregroundRole()), QColor(0, 255, 0));
+    EXPECT_GE(FarthestFromWhite(label, label.rect()), kLegibleContrast - 0.05);
+}
+
+TEST(LegibleStyle, SelectedTextCanBeReadWithTheDesktopsOwnColours) {
+    const QPalette palette = QApplication::palette();
+    EXPECT_GE(
+        Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)),
+        kLegibleContrast);
+}
+
+} // namespace
+} // namespace lorvo

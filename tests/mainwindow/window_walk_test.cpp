@@ -1,0 +1,212 @@
+// Every window with a show's data in it, on whatever screen this process was given: nothing cut,
+// nothing off the screen, everything in reach of the keys and legible, in a light and in a dark
+// desktop, with common letters and with large ones.
+#include "dogs/frmDogListFilter.h"
+#include "dogs/frmPsiVSoutezi.h"
+#include "mainwindow/shell_fixture.h"
+#include "payments/frmEditCurrency.h"
+#include "setup/fm_classes.h"
+#include "setup/frmCisteniDB.h"
+#include "setup/frmNovePlemeno.h"
+#include "setup/frmSoutez.h"
+#include "setup/frmVystava.h"
+#include "setup/frmWizard.h"
+#include "support/desktop_look.h"
+#include "support/generated_show.h"
+#include "support/modal_driver.h"
+#include "support/window_keys.h"
+#include "support/window_pixels.h"
+#include "support/window_walk.h"
+
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+namespace lorvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using test::DesktopLook;
+
+const QString kWordyDog = u"P%1"_s.arg(test::kWordyDogID);
+
+template<class Window, class... Inputs> void OpenOwn(const Inputs&... inputs) {
+    Window window(inputs..., nullptr);
+    OpenModal(window);
+}
+
+/// Opens the window with that name: by the registry, or as the window above it does.
+void OpenNamed(const QString& name) {
+    if (CanOpen(name))
+        Open(name);
+    else if (name == u"fm_classes")
+        OpenOwn<fm_classes>();
+    else if (name == u"frmCisteniDB")
+        OpenOwn<frmCisteniDB>();
+    else if (name == u"frmDogListFilter")
+        OpenOwn<frmDogListFilter>();
+    else if (name == u"frmEditCurrency")
+        OpenOwn<frmEditCurrency>(1, [](bool) {});
+    else if (name == u"frmNovePlemeno")
+        OpenOwn<frmNovePlemeno>(kSpecialBreedID);
+    else if (name == u"frmPsiVSoutezi")
+        OpenOwn<frmPsiVSoutezi>(1);
+    else if (name == u"frmSoutez")
+        OpenOwn<frmSoutez>(1);
+    else if (name == u"frmVystava")
+        OpenOwn<frmVystava>(1);
+    else if (name == u"frmWizard")
+        OpenOwn<frmWizard>();
+    else
+        throw std::runtime_error("no way to open " + name.toStdString());
+}
+
+/// Whether confirming goes on within the window: to the next page, the next find, a payment.
+bool StaysOpen(const QString& name) {
+    return QStringList{u"frmWizard"_s, u"frmFind"_s, u"frmUhrady"_s}.contains(name);
+}
+
+class WalkOnAShow : public Shell {
+  protected:
+    void Begin(DesktopLook look) {
+        look_ = std::make_unique<test::WithDesktopLook>(look);
+        test::PutGeneratedShow(database_);
+        platform_.anyMessages = true;
+        Start();
+        Show(kWordyDog);
+        Module().CurrentDogID = test::kWordyDogID;
+        Module().CurrentOwner = test::kWordyOwnerID;
+    }
+    void TearDown() override {
+        Shell::TearDown();
+        look_.reset();
+    }
+
+    void Show(const QString& node) {
+        window_->SelectNode(node);
+        window_->ShowNodeInfo(node);
+    }
+    static void LookAt(QWidget& window, const QString& part, DesktopLook look) {
+        test::CheckOnTheScreen(window);
+        test::WalkWindow(window);
+        test::CheckLegible(window);
+        test::TakePicture(window, window.objectName() + part + test::NameOf(look));
+    }
+
+  private:
+    std::unique_ptr<test::WithDesktopLook> look_;
+};
+
+/// Whether the next page comes from wherever the keyboard is.
+void ExpectPagesByKeys(QWidget& window, QTabWidget& tabs) {
+    for (QWidget* field : tabs.currentWidget()->findChildren<QWidget*>())
+        if (field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus)) {
+            const int page = tabs.currentIndex();
+            field->setFocus();
+            QTest::keyClick(window.windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
+            EXPECT_NE(tabs.currentIndex(), page) << field->objectName().toStdString();
+            tabs.setCurrentIndex(page);
+        }
+}
+
+/// Looks at the window as it opens and at each of its further pages.
+void ForEachPage(QWidget& window, const std::function<void(const QString& page)>& look) {
+    look({});
+    auto* tabs = window.findChild<QTabWidget*>();
+    if (tabs)
+        ExpectPagesByKeys(window, *tabs);
+    for (int page = 1; tabs && page < tabs->count(); ++page) {
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), page);
+        look(u"-%1"_s.arg(page + 1));
+        ExpectPagesByKeys(window, *tabs);
+    }
+    auto* forward = window.findChild<QPushButton*>(u"cmdFwd"_s);
+    for (int page = 1; forward && page < 5; ++page) {
+        forward->click();
+        look(u"-%1"_s.arg(page + 1));
+    }
+}
+
+class WindowWalk : public WalkOnAShow,
+                   public ::testing::WithParamInterface<std::tuple<const char*, DesktopLook>> {
+  protected:
+    void ExpectDoneOrRefused(const QWidget& window) const {
+        EXPECT_TRUE(!window.isVisible() || !platform_.messages.empty() ||
+                    platform_.shownDocuments > 0 || !platform_.openedFiles.isEmpty() ||
+                    StaysOpen(Name()))
+            << "neither done nor refused aloud";
+    }
+    QString Name() const { return QString::fromLatin1(std::get<0>(GetParam())); }
+    DesktopLook Look() const { return std::get<1>(GetParam()); }
+};
+
+TEST_P(WindowWalk, OpensInOrderAndIsLeft) {
+    Begin(Look());
+    test::WhileOpen([this] { OpenNamed(Name()); },
+                    [this](QWidget& window) {
+                        ForEachPage(window,
+                                    [&](const QString& page) { LookAt(window, page, Look()); });
+                        test::FillByKeys(window);
+                        test::CheckOnTheScreen(window);
+                        QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+                        EXPECT_TRUE(!window.isVisible() || !platform_.messages.empty())
+                            << "Esc doesn't leave the window";
+                    });
+    EXPECT_FALSE(IsModalOpen());
+}
+
+TEST_P(WindowWalk, IsFilledAndConfirmed) {
+    Begin(Look());
+    test::WhileOpen([this] { OpenNamed(Name()); },
+                    [this](QWidget& window) {
+                        test::FillByKeys(window);
+                        test::CloseWhatOpensAbove(window);
+                        if (test::ConfirmByKeys(window))
+                            ExpectDoneOrRefused(window);
+                    });
+    EXPECT_FALSE(IsModalOpen());
+}
+
+std::string ParamName(const ::testing::TestParamInfo<WindowWalk::ParamType>& info) {
+    return std::string(std::get<0>(info.param)) + '_' +
+           test::NameOf(std::get<1>(info.param)).toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, WindowWalk,
+    ::testing::Combine(::testing::Values("fm_Colors", "fm_Dog", "fm_DogsList", "fm_Plemena",
+                                         "fm_Settings", "fm_Souteze", "fm_classes", "fmDiplom",
+                                         "frmCisteniDB", "frmDogListFilter", "frmEditCurrency",
+                                         "frmEditMan", "frmFind", "frmJmenoRozhodciho",
+                                         "frmNazevKruhu", "frmNovePlemeno", "frmOceneni",
+                                         "frmParents", "frmPlatba", "frmPrehledPlateb",
+                                         "frmPrehledPlemen", "frmPsiVSoutezi", "frmSoutez",
+                                         "frmTiskKatalog", "frmTiskPlateb", "frmTiskPosudku",
+                                         "frmTiskPozvanek", "frmTiskSeznamuPsu",
+                                         "frmTiskSeznamVystavovatelu", "frmUhrady", "frmVystava",
+                                         "frmVystavovatele", "frmVystavy", "frmWizard"),
+                       ::testing::Values(DesktopLook::Light, DesktopLook::DarkAndLarge)),
+    ParamName);
+
+class PanelWalk : public WalkOnAShow,
+                  public ::testing::WithParamInterface<std::tuple<const char*, DesktopLook>> {};
+
+TEST_P(PanelWalk, IsInOrder) {
+    const auto [key, look] = GetParam();
+    Setting(u"Sys\\ShowClasses"_s) = u"1"_s;
+    Begin(look);
+    const QString node = QString::fromLatin1(key);
+    Show(node);
+    LookAt(*window_, u'-' + QString(node).replace(u'|', u'-'), look);
+}
+
+INSTANTIATE_TEST_SUITE_P(Nodes, PanelWalk,
+                         ::testing::Combine(::testing::Values("K0", "K1", "R949", "TR949|2", "P1"),
+                                            ::testing::Values(DesktopLook::Light,
+                                                              DesktopLook::DarkAndLarge)));
+
+} // namespace
+} // namespace lorvo
