@@ -20,6 +20,7 @@ CheckPage::CheckPage(const ShowAccess& show, QWidget* parent)
     column->addWidget(CaptionFor(txtNalez, u"&Nález"_s, this));
     column->addWidget(txtNalez);
     column->addLayout(ButtonRow({cmdCheck}));
+    setTabOrder(txtNalez, cmdCheck);
     Connect(cmdCheck, &QPushButton::clicked, this, &CheckPage::Check);
 }
 

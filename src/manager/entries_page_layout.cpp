@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <vector>
 
 namespace lorvo {
 
@@ -70,6 +71,11 @@ void EntriesPage::LayOut() {
     column->addWidget(lvwLines, 1);
     column->addWidget(lblCounts);
     column->addLayout(ButtonRow({cmdTake, cmdRest}));
+    const std::vector<QWidget*> inReadingOrder{cmdFile,      cmdTemplate, cmbEncoding,
+                                               cmbSeparator, cmbShow,     cmdColumns,
+                                               lvwLines,     cmdTake,     cmdRest};
+    for (std::size_t i = 1; i < inReadingOrder.size(); ++i)
+        setTabOrder(inReadingOrder[i - 1], inReadingOrder[i]);
 }
 
 void EntriesPage::ConnectControls() {

@@ -23,17 +23,20 @@ constexpr int kGridColumns = 2;
 frmSloupce::frmSloupce(const std::vector<QStringList>& rows, const ColumnChoice& columns,
                        QWidget* parent)
     : Form("frmSloupce", u"Sloupce"_s, Border::Sizable, parent) {
-    auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
-    auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
+    // Made in reading order, which Tab follows.
+    QWidget* firstLines = FirstLines(rows);
     auto* area = Named(new QScrollArea(this), u"scrSloupce"_s);
     area->setWidget(FieldGrid(rows.empty() ? QStringList() : rows.front(), columns));
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
+    auto* cmdOK = Named(new QPushButton(u"OK"_s, this), u"cmdOK"_s);
+    auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(FirstLines(rows));
+    column->addWidget(firstLines);
     column->addWidget(area, 1);
     column->addLayout(ButtonRow({cmdOK, cmdCancel}));
     resize(900, 620);
+    cmbField.front()->setFocus();
     Connect(cmdOK, &QPushButton::clicked, this, &frmSloupce::Accept);
     Connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }

@@ -101,6 +101,7 @@ void ListsPage::ShowRows() {
     delete rows_;
     rows_ = list;
     column->insertWidget(1, list, 10);
+    setTabOrder(lvwSeznamy, list);
     totals_->setText(TotalsText(table_));
 }
 

@@ -1,6 +1,7 @@
 // What each task of the desk costs in keys, on the real windows and without a click. Letters of
-// texts aren't counted: they are the same in every program. The limits are what the same tasks cost
-// in keys and clicks together when they were first counted; docs/keyboard.md has the table.
+// texts aren't counted: they are the same in every program. The limits of the first three tasks
+// are what they cost in keys and clicks together when they were first counted, those of the others
+// what they cost now; docs/keyboard.md has the table.
 
 #include "e2e/desk_fixture.h"
 #include "store/kruhy.h"

@@ -118,6 +118,31 @@ TEST_F(EntriesPageTest, AChosenColumnHoldsAndIsRememberedForHeadingsLikeThese) {
     EXPECT_EQ(Control<ReportList>(next, "lvwLines").CellText(0, 1), u"nová"_s);
 }
 
+TEST_F(EntriesPageTest, TabGoesAsThePageReads) {
+    OpenEntries(kEntries);
+    Control<QPushButton>(window, "cmdFile").setFocus();
+    QStringList passed;
+    for (int i = 0; i < 8; ++i) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        passed << window.focusWidget()->objectName();
+    }
+    EXPECT_EQ(
+        passed.join(u' '),
+        u"cmdTemplate cmbEncoding cmbSeparator cmbShow cmdColumns lvwLines cmdTake cmdRest"_s);
+}
+
+TEST_F(EntriesPageTest, TabGoesFromTheFirstLinesThroughTheFieldsToTheButtons) {
+    OpenEntries(kEntries);
+    WhileOpen([this] { Press("cmdColumns"); },
+              [](QWidget& columns) {
+                  EXPECT_EQ(columns.focusWidget()->objectName(), u"cmbField(0)"_s);
+                  QTest::keyClick(columns.focusWidget(), Qt::Key_Backtab);
+                  EXPECT_EQ(columns.focusWidget()->objectName(), u"lvwFirstLines"_s);
+                  QTest::keyClick(columns.focusWidget(), Qt::Key_Backtab);
+                  EXPECT_EQ(columns.focusWidget()->objectName(), u"cmdCancel"_s);
+              });
+}
+
 TEST_F(EntriesPageTest, BesideLorvoNothingIsTaken) {
     OpenEntries(kEntries);
     const ProgramLock lorvo(platform.ProgramFolder());
