@@ -46,8 +46,8 @@ class AccessKeys : public QObject {
 
 /// The letter that leads to the control, a null character for none.
 QChar AccessKeyOf(const QWidget& control);
-/// The control's letter leads the keyboard to the target instead of pressing the control, as long as
-/// the target is in sight.
+/// The control's letter leads the keyboard to the target instead of pressing the control, as long
+/// as the target is in sight.
 void LeadByAccessKey(QWidget& control, QWidget& target);
 /// The text with an ampersand before the letter, for whoever draws it.
 QString WithAccessKey(const QString& text, QChar key);

@@ -21,8 +21,8 @@ class CollapsibleFrame : public QFrame {
 
     /// The widget below the header that takes the section's layout.
     QWidget* Content() const { return content_; }
-    /// The letter of the header leads to this control of the content; where the section is collapsed
-    /// it opens it.
+    /// The letter of the header leads to this control of the content; where the section is
+    /// collapsed it opens it.
     void SetFirstControl(QWidget& control);
     /// Collapses or opens in steps, each of them painted, before it returns.
     void Toggle();
