@@ -12,6 +12,7 @@
 #include "mainwindow/main_tree.h"
 #include "mainwindow/node_title.h"
 #include "mainwindow/owner_panel.h"
+#include "mainwindow/panel_area.h"
 #include "mainwindow/panel_builders.h"
 #include "mainwindow/ring_panel.h"
 #include "mainwindow/status_panels.h"
@@ -104,7 +105,7 @@ void NodePanels::Refresh() {
 const TreeNode* NodePanels::NodeOnShow() const {
     const std::initializer_list<const QWidget*> ofNodes = {
         picKruhInfo, picPlemenoInfo, picTridaInfo, picPesInfo, picMajitelInfo};
-    return std::ranges::count(ofNodes, stack_->currentWidget()) ? nodes_.Find(onShow_) : nullptr;
+    return std::ranges::count(ofNodes, InFront()) ? nodes_.Find(onShow_) : nullptr;
 }
 
 void NodePanels::ShowNode(const TreeNode& node) {
@@ -181,7 +182,7 @@ void NodePanels::ShowOwner() {
 }
 
 bool NodePanels::IsOwnerOnShow() const {
-    return stack_->currentWidget() == picMajitelInfo;
+    return InFront() == picMajitelInfo;
 }
 
 void NodePanels::RefillOwnerDogs() {
@@ -253,11 +254,19 @@ void NodePanels::SetPicture(const QIcon& icon) {
 }
 
 void NodePanels::AddPanel(QWidget* panel) {
-    stack_->addWidget(panel);
+    auto* area = new PanelArea(u"area."_s + panel->objectName(), stack_);
+    area->setWidget(panel);
+    stack_->addWidget(area);
+}
+
+QWidget* NodePanels::InFront() const {
+    return static_cast<const QScrollArea*>(stack_->currentWidget())->widget();
 }
 
 void NodePanels::BringToFront(QWidget* panel) {
-    stack_->setCurrentWidget(panel);
+    for (int page = 0; page < stack_->count(); ++page)
+        if (static_cast<const QScrollArea*>(stack_->widget(page))->widget() == panel)
+            stack_->setCurrentIndex(page);
 }
 
 void NodePanels::HidePanels() {

@@ -69,6 +69,7 @@ class NodePanels : public QWidget {
     /// A null icon clears the picture.
     void SetPicture(const QIcon& icon);
     /// Takes in a panel of the main window's own, not in front.
+    /// A panel scrolls where its place is too low for it.
     void AddPanel(QWidget* panel);
     void BringToFront(QWidget* panel);
     void HidePanels();
@@ -87,6 +88,7 @@ class NodePanels : public QWidget {
     void ShowClass(const TreeNode& node);
     void ShowDog(int psiID);
     void MarkPath(const TreeNode& node);
+    QWidget* InFront() const;
     void NoteCurrent();
     void Empty();
     void EmptyWithoutNode();

@@ -13,6 +13,15 @@ class PanelArea : public QScrollArea {
     PanelArea(const QString& name, QWidget* parent);
 
     QSize minimumSizeHint() const override;
+
+  protected:
+    bool event(QEvent* event) override;
+
+  private:
+    /// Lets the layout around know when the content needs another width.
+    void TellLeastWidth();
+
+    int toldWidth_ = -1;
 };
 
 } // namespace lorvo

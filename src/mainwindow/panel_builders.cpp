@@ -1,6 +1,7 @@
 #include "mainwindow/panel_builders.h"
 
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 #include "forms/report_list.h"
 #include "mainwindow/elided_link.h"
 
@@ -71,7 +72,8 @@ void UpdateRow(ReportList& list, int position, const ReportRow& wanted) {
 } // namespace
 
 QLabel* PanelHeading(const QString& text, QWidget* panel) {
-    auto* heading = new QLabel(text, panel);
+    auto* heading = new ElidedLabel(panel);
+    heading->setText(text);
     heading->setFont(Bold(heading->font()));
     panel->setAccessibleName(text);
     return heading;

@@ -3,7 +3,8 @@
 // desktop, with common letters and with large ones.
 #include "dogs/frmDogListFilter.h"
 #include "dogs/frmPsiVSoutezi.h"
-#include "mainwindow/shell_fixture.h"
+#include "mainwindow/fm_main_fixture.h"
+#include "mainwindow/tree_search.h"
 #include "payments/frmEditCurrency.h"
 #include "setup/fm_classes.h"
 #include "setup/frmCisteniDB.h"
@@ -21,6 +22,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -37,8 +39,16 @@ template<class Window, class... Inputs> void OpenOwn(const Inputs&... inputs) {
     OpenModal(window);
 }
 
+WindowInput InputOf(const QString& name, TreeSearch& search) {
+    if (name == u"fm_Dog")
+        return DogTask{false, kSpecialBreedID};
+    if (name == u"frmFind")
+        return &search;
+    return {};
+}
+
 /// Opens the window with that name: by the registry, or as the window above it does.
-void OpenNamed(const QString& name) {
+void OpenNamed(const QString& name, TreeSearch& search) {
     if (name == u"fm_classes")
         OpenOwn<fm_classes>();
     else if (name == u"frmCisteniDB")
@@ -58,7 +68,7 @@ void OpenNamed(const QString& name) {
     else if (name == u"frmWizard")
         OpenOwn<frmWizard>();
     else
-        Open(name);
+        Open(name, InputOf(name, search));
 }
 
 /// Whether confirming goes on within the window: to the next page, the next find, a payment.
@@ -66,7 +76,7 @@ bool StaysOpen(const QString& name) {
     return QStringList{u"frmWizard"_s, u"frmFind"_s, u"frmUhrady"_s}.contains(name);
 }
 
-class WalkOnAShow : public Shell {
+class WalkOnAShow : public MainWindowTest {
   protected:
     void Begin(DesktopLook look) {
         look_ = std::make_unique<test::WithDesktopLook>(look);
@@ -78,7 +88,7 @@ class WalkOnAShow : public Shell {
         Module().CurrentOwner = test::kWordyOwnerID;
     }
     void TearDown() override {
-        Shell::TearDown();
+        MainWindowTest::TearDown();
         look_.reset();
     }
 
@@ -139,11 +149,13 @@ class WindowWalk : public WalkOnAShow,
     }
     QString Name() const { return QString::fromLatin1(std::get<0>(GetParam())); }
     DesktopLook Look() const { return std::get<1>(GetParam()); }
+
+    TreeSearch search_;
 };
 
 TEST_P(WindowWalk, OpensInOrderAndIsLeft) {
     Begin(Look());
-    test::WhileOpen([this] { OpenNamed(Name()); },
+    test::WhileOpen([this] { OpenNamed(Name(), search_); },
                     [this](QWidget& window) {
                         ForEachPage(window,
                                     [&](const QString& page) { LookAt(window, page, Look()); });
@@ -158,7 +170,7 @@ TEST_P(WindowWalk, OpensInOrderAndIsLeft) {
 
 TEST_P(WindowWalk, IsFilledAndConfirmed) {
     Begin(Look());
-    test::WhileOpen([this] { OpenNamed(Name()); },
+    test::WhileOpen([this] { OpenNamed(Name(), search_); },
                     [this](QWidget& window) {
                         test::FillByKeys(window);
                         test::CloseWhatOpensAbove(window);
@@ -169,9 +181,14 @@ TEST_P(WindowWalk, IsFilledAndConfirmed) {
 }
 
 std::string ParamName(const ::testing::TestParamInfo<WindowWalk::ParamType>& info) {
-    return std::string(std::get<0>(info.param)) + '_' +
-           test::NameOf(std::get<1>(info.param)).toStdString();
+    std::string name = std::string(std::get<0>(info.param)) + '_' +
+                       test::NameOf(std::get<1>(info.param)).toStdString();
+    std::ranges::replace(name, '|', '_');
+    return name;
 }
+
+const auto kLooks = ::testing::Values(DesktopLook::Light, DesktopLook::Dark,
+                                      DesktopLook::LightAndLarge, DesktopLook::DarkAndLarge);
 
 INSTANTIATE_TEST_SUITE_P(
     Windows, WindowWalk,
@@ -186,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(
                                          "frmTiskPozvanek", "frmTiskSeznamuPsu",
                                          "frmTiskSeznamVystavovatelu", "frmUhrady", "frmVystava",
                                          "frmVystavovatele", "frmVystavy", "frmWizard"),
-                       ::testing::Values(DesktopLook::Light, DesktopLook::DarkAndLarge)),
+                       kLooks),
     ParamName);
 
 class PanelWalk : public WalkOnAShow,
@@ -203,8 +220,8 @@ TEST_P(PanelWalk, IsInOrder) {
 
 INSTANTIATE_TEST_SUITE_P(Nodes, PanelWalk,
                          ::testing::Combine(::testing::Values("K0", "K1", "R949", "TR949|2", "P1"),
-                                            ::testing::Values(DesktopLook::Light,
-                                                              DesktopLook::DarkAndLarge)));
+                                            kLooks),
+                         ParamName);
 
 } // namespace
 } // namespace lorvo

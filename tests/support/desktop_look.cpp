@@ -29,14 +29,25 @@ QPalette DarkPalette() {
 } // namespace
 
 QString NameOf(DesktopLook look) {
-    return look == DesktopLook::Light ? u"light"_s : u"dark_large"_s;
+    switch (look) {
+    case DesktopLook::Light:
+        return u"light"_s;
+    case DesktopLook::Dark:
+        return u"dark"_s;
+    case DesktopLook::LightAndLarge:
+        return u"light_large"_s;
+    case DesktopLook::DarkAndLarge:
+        break;
+    }
+    return u"dark_large"_s;
 }
 
 WithDesktopLook::WithDesktopLook(DesktopLook look)
     : palette_(QApplication::palette()), font_(QApplication::font()) {
-    if (look == DesktopLook::Light)
+    if (look == DesktopLook::Dark || look == DesktopLook::DarkAndLarge)
+        QApplication::setPalette(DarkPalette());
+    if (look == DesktopLook::Light || look == DesktopLook::Dark)
         return;
-    QApplication::setPalette(DarkPalette());
     QFont large = font_;
     large.setPointSizeF(font_.pointSizeF() * kLargeLetters);
     QApplication::setFont(large);

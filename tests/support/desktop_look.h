@@ -7,8 +7,9 @@
 
 namespace lorvo::test {
 
-enum class DesktopLook { Light, DarkAndLarge };
-/// "light", "dark_large"; part of a file's name.
+/// Common letters, or large ones.
+enum class DesktopLook { Light, Dark, LightAndLarge, DarkAndLarge };
+/// "light", "dark", "light_large", "dark_large"; part of a file's name.
 QString NameOf(DesktopLook look);
 
 /// Gives the application the palette and the size of letters for the lifetime of the object.
