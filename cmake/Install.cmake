@@ -24,6 +24,13 @@ endif()
 set(data_folder ${CMAKE_INSTALL_DATADIR}/lorvo)
 set(program_folder ${CMAKE_INSTALL_LIBEXECDIR}/lorvo)
 install(TARGETS Lorvo LorvoSpravce RUNTIME DESTINATION ${program_folder})
+# Beyond the symbols, a package keeps nothing that no start reads.
+foreach(name Lorvo LorvoSpravce)
+  install(CODE "if(CMAKE_INSTALL_DO_STRIP)
+    execute_process(COMMAND \"${CMAKE_STRIP}\" --remove-section=.comment --remove-section=.note
+      \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${program_folder}/${name}\" COMMAND_ERROR_IS_FATAL ANY)
+  endif()")
+endforeach()
 install(FILES ${LORVO_DELIVERED} DESTINATION ${data_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/Šablony DESTINATION ${data_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${data_folder}/Licence RENAME Lorvo.txt)
@@ -61,3 +68,4 @@ add_custom_target(compressed_texts ALL DEPENDS
 install(FILES ${compressed}/lorvo.1.gz ${compressed}/lorvo-spravce.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${compressed}/changelog.gz packaging/linux/copyright README.md CHANGELOG.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lorvo)
+install(FILES packaging/linux/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME lorvo)

@@ -4,9 +4,11 @@
 # The first use makes FOLDER/base; each use works on a copy of it that is thrown away.
 #   commands  runs ./test.sh and ./run.sh on a clone of the committed state
 #   package LORVO.deb
-#             installs the package by apt, starts it on a virtual display, takes its picture,
-#             updates it to a higher version over changed data and removes it; the data must
-#             stay byte for byte
+#             installs the package by apt, asks whether every shared library came with it, starts
+#             it as two clerks on a virtual display, takes pictures, updates it to a higher version
+#             over changed data and removes it; the data must stay byte for byte
+#   archive LORVO.tar.gz LIBRARY...
+#             unpacks the archive, installs the packages of its libraries, starts it from there
 set -euo pipefail
 here=$(cd "$(dirname "$0")/.." && pwd)
 mkdir -p "$1"
@@ -51,8 +53,16 @@ prove_commands() {
 
 prove_package() {
   cp "$1" "$root/root/lorvo.deb"
-  cp "$here/tools/prove_package.sh" "$root/root/"
+  cp "$here"/tools/{bare_desk,prove_package}.sh "$root/root/"
   in_root bash /root/prove_package.sh
+  cp "$root"/root/*.png "$bare/"
+}
+
+prove_archive() {
+  cp "$1" "$root/root/lorvo.tar.gz"
+  shift
+  cp "$here"/tools/{bare_desk,prove_archive}.sh "$root/root/"
+  in_root bash /root/prove_archive.sh "$@"
   cp "$root"/root/*.png "$bare/"
 }
 

@@ -1,21 +1,11 @@
 #!/usr/bin/env bash
 # The life of the Debian package on a bare machine, see bare_debian.sh: lorvo.deb lies beside this
 # script. For a machine that is thrown away: it installs and removes packages.
-set -euo pipefail
-cd "$(dirname "$0")"
-export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
-folder=$HOME/Lorvo
+here=$(cd "$(dirname "$0")" && pwd)
+# shellcheck source=tools/bare_desk.sh
+. "$here/bare_desk.sh"
+cd "$here"
 
-# start_lorvo PICTURE: as the desktop's menu starts it; closed as a session's end closes it.
-start_lorvo() {
-  xvfb-run -a -s '-screen 0 1280x800x24' bash -c '
-    lorvo & program=$!
-    window=$(timeout 60 xdotool search --sync --onlyvisible --pid $program --name Lorvo | head -n 1)
-    sleep 3
-    scrot --overwrite "$1"
-    kill $program
-    wait $program' bash "$1"
-}
 # The same package as a higher version brings it: other data and templates to begin with.
 make_higher() {
   rm -rf higher
@@ -31,22 +21,30 @@ sums() { (cd "$folder" && sha256sum data.mdb Lorvo.settings Šablony/Diplomy.htm
 
 apt-get -q update
 apt-get -q install -y --no-install-recommends ./lorvo.deb
-apt-get -q install -y --no-install-recommends xvfb xauth xdotool scrot sqlite3 fonts-dejavu-core
+check_libraries /usr/libexec/lorvo/*
 lorvo --version
-start_lorvo "$PWD/installed.png"
-[ -e "$folder/data.mdb" ]
-lorvo-spravce kontrola
-lorvo-spravce seznam plemena "$PWD/plemena.xlsx"
-[ -s plemena.xlsx ]
+install_display
+useradd --create-home pokladna
+useradd --create-home katalog
+folder=/home/pokladna/Lorvo
 
-sqlite3 "$folder/data.mdb" "INSERT INTO Kruhy (Nazev) VALUES ('Kruh pořadatelky')"
+start pokladna "$here/installed.png" lorvo
+[ -e "$folder/data.mdb" ] || fail "no data was made"
+start katalog "$here/second-clerk.png" lorvo
+cmp "$folder/data.mdb" /home/katalog/Lorvo/data.mdb || fail "two clerks do not begin alike"
+start pokladna "$here/own-folder.png" lorvo '/home/pokladna/Výstava psů 2026'
+as pokladna lorvo-spravce kontrola
+as pokladna lorvo-spravce seznam plemena plemena.xlsx
+[ -s /home/pokladna/plemena.xlsx ] || fail "no spreadsheet was made"
+
+as pokladna sqlite3 "$folder/data.mdb" "INSERT INTO Kruhy (Nazev) VALUES ('Kruh pořadatelky')"
 echo '<html>moje</html>' > "$folder/Šablony/Diplomy.html"
 before=$(sums)
 make_higher
 apt-get -q install -y ./higher.deb
 dpkg-query -W -f '${Version}\n' lorvo
-[ "$(sums)" = "$before" ] || { echo "FAILED: the update touched the clerk's files"; exit 1; }
-start_lorvo "$PWD/updated.png"
+[ "$(sums)" = "$before" ] || fail "the update touched the clerk's files"
+start pokladna "$here/updated.png" lorvo
 [ "$(sqlite3 "$folder/data.mdb" 'SELECT Nazev FROM Kruhy')" = "Kruh pořadatelky" ]
 grep -q moje "$folder/Šablony/Diplomy.html"
 grep -q nová "$folder/Šablony/Platby.html"
@@ -54,6 +52,8 @@ for program in Lorvo LorvoSpravce; do cmp "$folder/$program" "/usr/libexec/lorvo
 
 before=$(sums)
 apt-get -q purge -y lorvo
-[ ! -e /usr/bin/lorvo ] && [ ! -L /usr/bin/lorvo-spravce ] && [ ! -e /usr/libexec/lorvo ] && [ ! -e /usr/share/lorvo ]
-[ "$(sums)" = "$before" ] || { echo "FAILED: the removal touched the clerk's files"; exit 1; }
+for path in /usr/bin/lorvo /usr/bin/lorvo-spravce /usr/libexec/lorvo /usr/share/lorvo; do
+  [ ! -e "$path" ] && [ ! -L "$path" ] || fail "$path is left"
+done
+[ "$(sums)" = "$before" ] || fail "the removal touched the clerk's files"
 echo "Installed, started, updated, removed; the clerk's files are there byte for byte."

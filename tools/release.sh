@@ -8,7 +8,6 @@ set -euo pipefail
 tag=$1
 out=$(mkdir -p "$2" && cd "$2" && pwd)
 here=$(cd "$(dirname "$0")/.." && pwd)
-export LC_ALL=C.UTF-8
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -29,7 +28,7 @@ git archive --prefix "lorvo-$version/" HEAD | gzip --best --no-name > "$out/lorv
   cmake --preset package
 )
 cmake --build --preset package --parallel
-(cd build/package && cpack)
+(cd build/package && LC_ALL=C.UTF-8 cpack) # it reads the names of files by the locale
 cp build/package/lorvo_*.deb build/package/lorvo-*.tar.gz "$out"
 
 if [ -n "${3:-}" ]; then

@@ -83,5 +83,28 @@ expect "a file that can't be written" \
   "Lorvo nelze spustit: soubor $folder/Lorvo.chm nelze zapsat. Zkontrolujte práva ke složce a volné místo na disku." \
   "$(start)"
 
+rmdir "$folder/Lorvo.chm.nový"
+expect "an option that is none" \
+  "Lorvo nelze spustit: přepínač -x není znám. Použití: lorvo [SLOŽKA]" "$(start -x)"
+expect "a clerk without a home" \
+  "Lorvo nelze spustit: domovská složka není známa. Zvolte složku: lorvo SLOŽKA" \
+  "$(unset HOME; start)"
+expect "a clerk without a home names a folder" "started 2 in $other" "$(unset HOME; start "$other")"
+ln -s "$work/disk-not-there/data.mdb" "$work/linked"
+mkdir "$work/far"
+mv "$work/linked" "$work/far/data.mdb"
+expect "data on a disk that isn't there" "started 2 in $work/far" "$(start "$work/far")"
+expect "the link to it" "$work/disk-not-there/data.mdb" "$(readlink "$work/far/data.mdb")"
+
+# The icon pressed twice: the later start waits until the earlier one has put all in place.
+twice="$work/twice"
+mkdir -p "$twice/Šablony/Dodané"
+exec 8< "$twice/Šablony/Dodané"
+flock 8
+expect "a start beside another one" "" "$(timeout 1 "$work/usr/bin/lorvo" "$twice" 8<&-; ls "$twice" | grep -v Šablony)"
+flock -u 8
+printf '#!/bin/sh\n[ -e /proc/self/fd/9 ] && echo holds || echo free\n' > "$work/usr/libexec/lorvo/Lorvo"
+expect "the launcher's lock after the program's start" "free" "$(start "$twice")"
+
 [ $faults -eq 0 ] && echo "The launcher holds."
 exit $faults

@@ -6,6 +6,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=tools/windows/folders.sh
 . "$here/folders.sh" "$1"
 stage=$3
+export LC_ALL=C.UTF-8 # by which makensis reads the names of files
 
 # What the uninstaller removes, by name: all that is staged but the clerk's own.
 removed=$(mktemp)
