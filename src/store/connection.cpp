@@ -4,6 +4,7 @@
 #include "store/connection_internals.h"
 #include "store/database_file.h"
 #include "store/engine_failure.h"
+#include "store/leftover_journal.h"
 #include "store/lock_wait.h"
 #include "store/show_file.h"
 #include "store/sql_functions.h"
@@ -75,6 +76,7 @@ void Connection::Open(const QString& path) {
     DatabasePointer database;
     try {
         RequireShow(path);
+        SetForeignLogAside(path);
         database = OpenForWork(path);
         Schema schema = ReadSchema(*database);
         StartWriting(*database);

@@ -4,6 +4,7 @@
 #include "platform/whole_file.h"
 #include "store/database_file.h"
 #include "store/engine_failure.h"
+#include "store/leftover_journal.h"
 
 #include <QFile>
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -105,6 +106,7 @@ void RequireWholeDatabase(const QString& path) {
 void CopyDatabase(const QString& source, const QString& target) {
     if (QFile::exists(target))
         throw StoreError(AboutFile(target, u"soubor toho jména už je"_s));
+    SetForeignLogAside(source);
     try {
         const DatabaseFigures figures = CopyAll(source, target);
         RequireWholeDatabase(target);

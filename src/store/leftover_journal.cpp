@@ -2,6 +2,7 @@
 
 #include "platform/file_failure.h"
 #include "platform/values/errors.h"
+#include "platform/whole_file.h"
 #include "store/database_file.h"
 #include "store/journal_pages.h"
 
@@ -27,6 +28,19 @@ QString LogOf(const QString& path) {
 
 QString RollbackOf(const QString& path) {
     return path + u"-journal"_s;
+}
+
+/// A file says in its header that it has a log, from before the log is begun until it is gone.
+bool SaysItHasLog(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = file.read(kVersions + 1);
+    return start.size() > kVersions && start[kVersions] == '\2';
+}
+
+bool HasLogOfItsOwn(const QString& path) {
+    return QFileInfo(LogOf(path)).size() > 0 && SaysItHasLog(path);
 }
 
 QByteArray ReadWhole(const QString& path) {
@@ -68,14 +82,22 @@ void RequireNoneMissing(const QByteArray& content, const JournalPages& journal, 
 } // namespace
 
 bool HasLeftoverJournal(const QString& path) {
-    return QFileInfo(LogOf(path)).size() > 0 || QFileInfo(RollbackOf(path)).size() > 0;
+    return HasLogOfItsOwn(path) || QFileInfo(RollbackOf(path)).size() > 0;
+}
+
+void SetForeignLogAside(const QString& path) {
+    if (QFileInfo(LogOf(path)).size() == 0 || SaysItHasLog(path))
+        return;
+    RenameOver(LogOf(path), path + u".cizí žurnál"_s);
+    QFile::remove(path + u"-shm"_s);
 }
 
 QByteArray CompletedContent(const QString& path) {
     QByteArray content = ReadWhole(path);
     for (const auto& [journalPath, read] :
          {std::pair(RollbackOf(path), &PagesOfRollback), std::pair(LogOf(path), &PagesOfLog)}) {
-        if (QFileInfo(journalPath).size() == 0)
+        const bool isForeign = journalPath == LogOf(path) && !SaysItHasLog(path);
+        if (isForeign || QFileInfo(journalPath).size() == 0)
             continue;
         const JournalPages journal = read(ReadWhole(journalPath));
         if (journal.pageSize == 0)

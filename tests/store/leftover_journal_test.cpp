@@ -3,6 +3,7 @@
 
 #include "platform/values/errors.h"
 #include "store/damaged_dogs.h"
+#include "store/database_copy.h"
 #include "store/leftover_journal.h"
 #include "store/store_test.h"
 
@@ -94,6 +95,31 @@ TEST_F(LeftoverJournalTest, ALogIsTakenUp) {
     EXPECT_EQ(module.rsPsi.RecordCount(), 50);
     module.Conn1.Close();
     EXPECT_EQ(Contents().size(), 1U);
+}
+
+/// What a clerk does who puts a copy back by hand after a crash.
+TEST_F(LeftoverJournalTest, ALogStaysAwayFromTheFileThatTookItsFilesPlace) {
+    LeaveLog(50);
+    QFile::remove(Path());
+    TempDatabase::CopyTo(folder.path());
+    const QByteArray log = Contents().at(u"data.mdb-wal"_s);
+    DataModule module;
+    module.Conn1.Open(Path());
+    module.rsPsi.Open("SELECT * FROM Psi");
+    EXPECT_EQ(module.rsPsi.RecordCount(), 0);
+    module.Conn1.Close();
+    RequireWholeDatabase(Path());
+    EXPECT_EQ(Contents().size(), 2U);
+    EXPECT_EQ(Contents().at(u"data.mdb.cizí žurnál"_s), log);
+}
+
+TEST_F(LeftoverJournalTest, ACopyOfSuchAFileHasNothingOfTheLog) {
+    LeaveLog(50);
+    QFile::remove(Path());
+    TempDatabase::CopyTo(folder.path());
+    const QString copy = folder.filePath(u"kopie.mdb"_s);
+    CopyDatabase(Path(), copy);
+    EXPECT_EQ(FiguresOfDatabase(copy).dogs, 0);
 }
 
 TEST_F(LeftoverJournalTest, AFileCutBesideItsLogIsRefusedUntouched) {
