@@ -42,12 +42,9 @@ void TellVersion() {
                           '\n');
 }
 
-int SayThatItRuns() {
-    lorvo::Platform& platform = lorvo::ThePlatform();
-    platform.messages->Show(u"Lorvo už nad složkou „%1“ běží. Přepněte se do jeho okna."_s.arg(
-                                QDir::toNativeSeparators(platform.programFolder)),
-                            lorvo::MessageIcon::Information, lorvo::MessageButtons::Ok, u"Lorvo"_s);
-    return 1;
+QString ItRuns() {
+    return u"Lorvo už nad složkou „%1“ běží. Přepněte se do jeho okna."_s.arg(
+        QDir::toNativeSeparators(lorvo::ThePlatform().programFolder));
 }
 
 } // namespace
@@ -65,7 +62,7 @@ int main(int argc, char** argv) {
 
     const lorvo::ProgramLock desk(lorvo::ThePlatform().programFolder);
     if (!desk.IsMine())
-        return SayThatItRuns();
+        return application.Tell(ItRuns(), lorvo::MessageIcon::Information);
     std::unique_ptr<lorvo::fm_main> mainWindow;
     return application.Run([&mainWindow] {
         OpenDatabaseOrNameACopy();

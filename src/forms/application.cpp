@@ -73,9 +73,18 @@ int Application::Run(const std::function<void()>& start) {
     const std::exception_ptr failure = TakeFailure();
     if (!failure)
         return code;
-    ThePlatform().messages->Show(started ? FailureText(failure) + WhatBecameOfTheWork(failure)
-                                         : FailureText(failure),
-                                 MessageIcon::Stop, MessageButtons::Ok, u"Lorvo"_s);
+    return Tell(started ? FailureText(failure) + WhatBecameOfTheWork(failure)
+                        : FailureText(failure),
+                MessageIcon::Stop);
+}
+
+int Application::Tell(const QString& text, MessageIcon icon) {
+    Later(this, [&] {
+        ThePlatform().messages->Show(text, icon, MessageButtons::Ok, u"Lorvo"_s);
+        exit(1);
+    });
+    removePostedEvents(this, QEvent::Quit); // of windows that closed while the failure rose
+    exec();
     return 1;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 // The application object, which shows the failure that ended the program.
 
+#include "platform/message_boxes.h"
+
 #include <QApplication>
 #include <functional>
 
@@ -19,6 +21,10 @@ class Application : public QApplication {
     /// shown in the platform's error box; after the start, together with what became of the work.
     /// Returns the exit code: 1 after a failure.
     int Run(const std::function<void()>& start);
+
+    /// Shows a message by itself, before or after the work: inside the event loop, so that a
+    /// request to end ends it as it ends the work. Returns the exit code of such a program, 1.
+    int Tell(const QString& text, MessageIcon icon);
 };
 
 } // namespace lorvo

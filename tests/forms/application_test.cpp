@@ -1,12 +1,15 @@
 #include "forms/application.h"
 
 #include "platform/failure_guard.h"
+#include "platform/platform.h"
 #include "platform/values/errors.h"
 #include "support/recording_platform.h"
 
+#include <QDialog>
 #include <QFont>
 #include <QTimer>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace lorvo {
 
@@ -50,6 +53,33 @@ TEST(ApplicationTest, AnUneventfulRunEndsWithItsOwnCode) {
     EXPECT_EQ(TheApplication().Run(
                   [] { QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); }); }),
               0);
+}
+
+/// Boxes in which a request to end comes in; says whether it ended them.
+class BoxesAtTheEnd : public MessageBoxes {
+  public:
+    explicit BoxesAtTheEnd(bool& ended) : ended_(&ended) {}
+    MessageAnswer Show(const QString&, MessageIcon, MessageButtons, const QString&) override {
+        QDialog box;
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QTimer::singleShot(20000, &box, [&box] { box.done(7); });
+        *ended_ = box.exec() != 7;
+        return MessageAnswer::Ok;
+    }
+
+  private:
+    bool* ended_;
+};
+
+TEST(ApplicationTest, ARequestToEndEndsAMessageBeforeAndAfterTheWork) {
+    test::RecordingPlatform platform;
+    bool ended = false;
+    ThePlatform().messages = std::make_unique<BoxesAtTheEnd>(ended);
+    EXPECT_EQ(TheApplication().Tell(u"Lorvo už běží."_s, MessageIcon::Information), 1);
+    EXPECT_TRUE(ended);
+    ended = false;
+    EXPECT_EQ(TheApplication().Run([] { throw StoreError("Soubor data.mdb chybí."); }), 1);
+    EXPECT_TRUE(ended);
 }
 
 TEST(ApplicationTest, TahomaIsShownByAFontThatHasCzechLetters) {
