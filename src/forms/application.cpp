@@ -85,6 +85,7 @@ int Application::Tell(const QString& text, MessageIcon icon) {
     });
     removePostedEvents(this, QEvent::Quit); // of windows that closed while the failure rose
     exec();
+    static_cast<void>(TakeFailure()); // what failed beside the last message is told by nobody
     return 1;
 }
 
