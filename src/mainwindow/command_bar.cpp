@@ -82,7 +82,7 @@ void MainCommandBar::ReturnFromBreeds(const RegisterResult& result) {
     MainWindowServices& mainWindow = TheMainWindow();
     if (result.changed) {
         mainWindow.LoadData();
-        target_.SelectNodeOnShow();
+        target_.RefreshNodeOnShow();
     }
     if (result.jumpTo <= 0)
         return;

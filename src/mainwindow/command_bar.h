@@ -17,9 +17,9 @@ class CommandTarget {
     virtual void AddDog() = 0;
     virtual void ShowAbout() = 0;
     virtual void FocusTree() = 0;
-    /// Selects the node whose panel stands in front, which a rebuild of the tree has left
-    /// unselected, and draws panel and path afresh.
-    virtual void SelectNodeOnShow() = 0;
+    /// Makes the node whose panel stands in front visible in the rebuilt tree, which selects none,
+    /// and draws panel and path afresh.
+    virtual void RefreshNodeOnShow() = 0;
     virtual void SetHelpPointer(bool on) = 0;
 };
 

@@ -79,7 +79,7 @@ class fm_main : public QMainWindow,
     void AddDog() override;
     void ShowAbout() override;
     void FocusTree() override;
-    void SelectNodeOnShow() override;
+    void RefreshNodeOnShow() override;
     void SetHelpPointer(bool on) override;
 
     ViewPreferences look_;

@@ -77,11 +77,11 @@ void fm_main::FocusTree() {
     tvwMain->setFocus();
 }
 
-void fm_main::SelectNodeOnShow() {
+void fm_main::RefreshNodeOnShow() {
     const TreeNode* node = picDetails->NodeOnShow();
     if (!node)
         return;
-    tvwMain->SelectNode(node);
+    tvwMain->EnsureVisible(node);
     picDetails->Refresh();
 }
 

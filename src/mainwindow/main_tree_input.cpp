@@ -67,7 +67,7 @@ void MainTree::BringCurrentInSight() {
 bool MainTree::GoesToFirstNode(const QKeyEvent& event) const {
     const TreeNode* current = TreeModel::NodeAt(currentIndex());
     const bool isKey = event.key() == Qt::Key_Home || event.key() == Qt::Key_Down;
-    return isKey && !SelectedNode() && (!current || current == nodes_.First());
+    return isKey && nodes_.First() && !SelectedNode() && (!current || current == nodes_.First());
 }
 
 MainTree::Signal MainTree::SignalOf(const QKeyEvent& event) {

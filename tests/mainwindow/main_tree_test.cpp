@@ -112,6 +112,16 @@ TEST_F(MainTreeTest, GoesToTheFirstNodeByHomeOrDownWhenNothingIsSelected) {
     }
 }
 
+TEST_F(MainTreeTest, FindsNothingToGoToInATreeThatWasHiddenWhole) {
+    Load("DELETE FROM Psi");
+    Choose({}, 602);
+    ASSERT_EQ(host.nodes.First(), nullptr);
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Up, Qt::Key_End}) {
+        Press(key);
+        EXPECT_EQ(host.SelectedNode(), QString());
+    }
+}
+
 TEST_F(MainTreeTest, TheKeyboardStaysWhereItStoodAfterAReload) {
     host.SelectNode(u"P1"_s);
     Load();
