@@ -17,6 +17,15 @@ template<typename Option> Option Marked(const QStyleOption* option, const QWidge
     return marked;
 }
 
+/// Where the line under a letter runs, for a text of one line in that place.
+QRect BelowLetter(const QPainter& painter, const QRect& place, const QString& text,
+                  qsizetype letter) {
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int left = place.left() + metrics.horizontalAdvance(text.left(letter));
+    const int top = place.top() + metrics.ascent() + 1;
+    return {left, top, metrics.horizontalAdvance(text.at(letter)), metrics.descent()};
+}
+
 } // namespace
 
 void AccessKeyStyle::drawControl(ControlElement element, const QStyleOption* option,
@@ -47,10 +56,23 @@ void AccessKeyStyle::drawItemText(QPainter* painter, const QRect& rect, int flag
         painter->device() && painter->device()->devType() == QInternal::Widget
             ? qobject_cast<const QLabel*>(static_cast<const QWidget*>(painter->device()))
             : nullptr;
+    QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
     const QChar key = label && text == label->text() ? AccessKeyOf(*label) : QChar();
-    const QString marked = WithAccessKey(text, key);
-    QProxyStyle::drawItemText(painter, rect, marked == text ? flags : flags | Qt::TextShowMnemonic,
-                              palette, enabled, marked, role);
+    const qsizetype letter = PlaceOfAccessKey(text, key);
+    if (letter < 0)
+        return;
+    // A letter that is marked in the text stands alone for the toolkit, farther from its neighbour
+    // than in the text that the label has been measured by, and the text's end would be cut.
+    painter->save();
+    painter->setClipRect(
+        BelowLetter(*painter, itemTextRect(painter->fontMetrics(), rect, flags, enabled, text),
+                    text, letter),
+        Qt::IntersectClip);
+    QFont underlined = painter->font();
+    underlined.setUnderline(true);
+    painter->setFont(underlined);
+    QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+    painter->restore();
 }
 
 } // namespace lorvo

@@ -180,8 +180,12 @@ void LeadByAccessKey(QWidget& control, QWidget& target) {
     control.setProperty(kTargetProperty, QVariant::fromValue(&target));
 }
 
+qsizetype PlaceOfAccessKey(const QString& text, QChar key) {
+    return key.isNull() ? -1 : text.indexOf(key, 0, Qt::CaseInsensitive);
+}
+
 QString WithAccessKey(const QString& text, QChar key) {
-    const qsizetype place = key.isNull() ? -1 : text.indexOf(key, 0, Qt::CaseInsensitive);
+    const qsizetype place = PlaceOfAccessKey(text, key);
     return place < 0 ? text : QString(text).insert(place, u'&');
 }
 

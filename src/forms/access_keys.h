@@ -49,6 +49,8 @@ QChar AccessKeyOf(const QWidget& control);
 /// The control's letter leads the keyboard to the target instead of pressing the control, as long
 /// as the target is in sight.
 void LeadByAccessKey(QWidget& control, QWidget& target);
+/// Where in the text the letter is marked; -1 for nowhere.
+qsizetype PlaceOfAccessKey(const QString& text, QChar key);
 /// The text with an ampersand before the letter, for whoever draws it.
 QString WithAccessKey(const QString& text, QChar key);
 

@@ -2,12 +2,12 @@
 #include "forms/keyboard_menu.h"
 #include "forms/label_edit_delegate.h"
 #include "forms/report_list_model.h"
+#include "forms/scrolled_content.h"
 #include "platform/failure_guard.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScrollArea>
 
 namespace lorvo {
 
@@ -92,14 +92,7 @@ void ReportList::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
 
 void ReportList::scrollTo(const QModelIndex& index, ScrollHint hint) {
     QTreeView::scrollTo(index, hint);
-    const QRect row = visualRect(index) & viewport()->rect();
-    for (QWidget* above = parentWidget(); above; above = above->parentWidget()) {
-        auto* area = qobject_cast<QScrollArea*>(above);
-        if (!area || !area->widget()->isAncestorOf(this))
-            continue;
-        const QPoint place = viewport()->mapTo(area->widget(), row.center());
-        area->ensureVisible(place.x(), place.y(), 0, row.height());
-    }
+    ScrollAround(*this, index);
 }
 
 } // namespace lorvo

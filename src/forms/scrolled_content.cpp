@@ -3,6 +3,7 @@
 #include "forms/controls.h"
 #include "platform/failure_guard.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -24,6 +25,16 @@ class ContentArea : public QScrollArea {
         return widget()->sizeHint() + QSize(bar, bar);
     }
 };
+
+/// Of a control that is higher than the place, the beginning.
+void BringInSight(QScrollArea& area, QWidget& control) {
+    area.ensureWidgetVisible(&control);
+    if (control.height() <= area.viewport()->height())
+        return;
+    area.verticalScrollBar()->setValue(control.mapTo(area.widget(), QPoint()).y());
+    if (const auto* list = qobject_cast<QAbstractItemView*>(&control))
+        ScrollAround(*list, list->currentIndex());
+}
 
 void MoveRow(QVBoxLayout& from, QVBoxLayout& to) {
     const int stretch = from.stretch(0);
@@ -58,8 +69,21 @@ void ScrollContent(QWidget& window) {
     // The toolkit follows the keyboard only where it comes from within the area.
     Connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
         if (now && area->widget()->isAncestorOf(now))
-            area->ensureWidgetVisible(now);
+            BringInSight(*area, *now);
     });
+}
+
+void ScrollAround(const QAbstractItemView& list, const QModelIndex& index) {
+    const QRect row = list.visualRect(index) & list.viewport()->rect();
+    if (row.isEmpty())
+        return;
+    for (QWidget* above = list.parentWidget(); above; above = above->parentWidget()) {
+        auto* area = qobject_cast<QScrollArea*>(above);
+        if (!area || !area->widget()->isAncestorOf(&list))
+            continue;
+        const QPoint place = list.viewport()->mapTo(area->widget(), row.center());
+        area->ensureVisible(place.x(), place.y(), 0, row.height());
+    }
 }
 
 } // namespace lorvo

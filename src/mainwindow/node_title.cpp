@@ -1,6 +1,7 @@
 #include "mainwindow/node_title.h"
 
 #include "forms/controls.h"
+#include "forms/wrapped_label.h"
 #include "mainwindow/panel_builders.h"
 #include "platform/failure_guard.h"
 
@@ -15,9 +16,7 @@ namespace {
 constexpr int kPictureSize = 32;
 
 QLabel* TitleLabel(QWidget* parent) {
-    auto* label = Named(new QLabel(parent), u"lblItemTitle"_s);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
+    auto* label = Named(new WrappedLabel(parent), u"lblItemTitle"_s);
     TakeGivenWidth(*label);
     QFont large = label->font();
     large.setPointSizeF(large.pointSizeF() * 1.4);

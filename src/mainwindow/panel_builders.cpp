@@ -3,9 +3,12 @@
 #include "forms/controls.h"
 #include "forms/elided_label.h"
 #include "forms/report_list.h"
+#include "forms/wrapped_label.h"
 #include "mainwindow/elided_link.h"
 
+#include <QApplication>
 #include <algorithm>
+#include <memory>
 
 namespace lorvo {
 
@@ -21,6 +24,11 @@ constexpr int kColumns = 3;
 QFont Bold(QFont font) {
     font.setBold(true);
     return font;
+}
+
+/// What a column of values keeps however narrow the panel: room for a date.
+int LeastValueWidth() {
+    return QFontMetrics(Bold(QApplication::font())).horizontalAdvance(u"30.12.2000"_s);
 }
 
 /// What the picture of a line says.
@@ -89,11 +97,21 @@ void TakeGivenWidth(QLabel& label) {
     label.setSizePolicy(policy);
 }
 
+QLabel* ValueGrid::Caption(const QString& text) const {
+    auto* caption = new QLabel(text);
+    caption->setWordWrap(captionsWrap_ && text.contains(u' '));
+    return caption;
+}
+
 ValueGrid::ValueGrid(int pairs, const QStringList& widestCaptions)
-    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(pairs), 0) {
+    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(pairs), 0),
+      captionsWrap_(!widestCaptions.isEmpty()) {
     for (int pair = 0; pair < pairs; ++pair) {
-        const int width = QLabel(widestCaptions.value(pair)).sizeHint().width();
-        grid_->setColumnMinimumWidth(pair * kColumns, width);
+        const std::unique_ptr<QLabel> widest(Caption(widestCaptions.value(pair)));
+        grid_->setColumnMinimumWidth(pair * kColumns, widest->minimumSizeHint().width());
+        grid_->addItem(new QSpacerItem(widest->sizeHint().width(), 0, QSizePolicy::Preferred), 0,
+                       pair * kColumns);
+        grid_->setColumnMinimumWidth(pair * kColumns + 1, LeastValueWidth());
         grid_->setColumnStretch(pair * kColumns + 1, 1);
         if (pair + 1 < pairs)
             grid_->setColumnMinimumWidth(pair * kColumns + 2, kPairGap);
@@ -102,7 +120,7 @@ ValueGrid::ValueGrid(int pairs, const QStringList& widestCaptions)
 
 void ValueGrid::Place(int pair, const QString& caption, QWidget* value, Qt::Alignment alignment) {
     const int row = nextRow_[static_cast<std::size_t>(pair)]++;
-    grid_->addWidget(new QLabel(caption), row, pair * kColumns, Qt::AlignTop);
+    grid_->addWidget(Caption(caption), row, pair * kColumns, Qt::AlignTop);
     grid_->addWidget(value, row, pair * kColumns + 1, alignment);
 }
 
@@ -125,10 +143,9 @@ void ValueGrid::AddRow(int pair, QLayout* row) {
 }
 
 QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name) {
-    QLabel* value = ValueLabel(caption, nullptr);
-    value->setObjectName(name);
+    QLabel* value = Named(new WrappedLabel(nullptr), name);
+    value->setAccessibleName(caption);
     value->setFont(Bold(value->font()));
-    value->setWordWrap(true);
     TakeGivenWidth(*value);
     Add(pair, caption, value);
     return value;

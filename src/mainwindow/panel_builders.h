@@ -26,7 +26,8 @@ QLabel* PanelHeading(const QString& text, QWidget* panel);
 /// aligned. The values share what width the captions leave.
 class ValueGrid {
   public:
-    /// The captions of a pair get at least the width of its caption in `widestCaptions`.
+    /// The captions of a pair get at least the width of its caption in `widestCaptions`; where the
+    /// panel is too narrow for that, captions of several words are wrapped.
     explicit ValueGrid(int pairs, const QStringList& widestCaptions = {});
 
     /// Puts the next pair below the one before it in column `pair`. A value without a name of its
@@ -48,10 +49,12 @@ class ValueGrid {
     QGridLayout* Layout() const { return grid_; }
 
   private:
+    QLabel* Caption(const QString& text) const;
     void Place(int pair, const QString& caption, QWidget* value, Qt::Alignment alignment);
 
     QGridLayout* grid_;
     std::vector<int> nextRow_;
+    bool captionsWrap_;
 };
 
 /// Sets text and colour; without a colour the label has the window's own.

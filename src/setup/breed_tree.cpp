@@ -4,6 +4,7 @@
 #include "forms/keyboard_menu.h"
 #include "forms/label_edit_delegate.h"
 #include "forms/light_palette.h"
+#include "forms/scrolled_content.h"
 #include "platform/failure_guard.h"
 
 #include <QApplication>
@@ -153,6 +154,11 @@ void BreedTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
     QTreeView::drawRow(painter, option, index);
     if (gridLines_)
         PaintGridLines(*painter, *this, option.rect);
+}
+
+void BreedTree::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    QTreeView::scrollTo(index, hint);
+    ScrollAround(*this, index);
 }
 
 } // namespace lorvo

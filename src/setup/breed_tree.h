@@ -23,6 +23,7 @@ class BreedTree : public QTreeView {
     void SelectNode(const BreedNode& node);
     /// Grid lines by the preference.
     void FollowGridPreference();
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
   Q_SIGNALS:
     void DeletePressed();

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QGroupBox>
 #include <QHash>
 #include <QHeaderView>
 #include <QImage>
@@ -127,6 +128,18 @@ QRect PlaceOf(const QWidget& widget) {
     return widget.rect().adjusted(frame, frame, -frame, -frame);
 }
 
+/// Where a frame's heading stands.
+QRect PlaceOfTitle(const QGroupBox& frame) {
+    QStyleOptionGroupBox option;
+    option.initFrom(&frame);
+    option.text = frame.title();
+    option.lineWidth = 1;
+    option.textAlignment = frame.alignment();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    return frame.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel,
+                                         &frame);
+}
+
 /// The text that the widget shows of itself.
 QString TextOf(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
@@ -152,6 +165,8 @@ void CheckLegible(QWidget& window) {
             LookAtCells(inspection, *view);
         if (const auto* header = qobject_cast<const QHeaderView*>(widget))
             LookAtHeadings(inspection, *header);
+        if (const auto* frame = qobject_cast<const QGroupBox*>(widget))
+            inspection.Look(*frame, PlaceOfTitle(*frame), frame->title());
         if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
             for (int tab = 0; tab < tabs->count(); ++tab)
                 inspection.Look(*tabs, tabs->tabRect(tab), tabs->tabText(tab));

@@ -2,6 +2,7 @@
 
 #include "forms/access_keys.h"
 #include "forms/elided_label.h"
+#include "forms/wrapped_label.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -139,6 +140,9 @@ void CheckTextFits(const QWidget& widget) {
     if (!(label && !label->text().isEmpty()) && !(button && !button->text().isEmpty()))
         return;
     if (label && label->wordWrap()) {
+        EXPECT_TRUE(qobject_cast<const WrappedLabel*>(label) ||
+                    label->width() >= label->minimumSizeHint().width())
+            << Describe(widget) << " is cut within a word";
         EXPECT_GE(label->height(), label->heightForWidth(label->width()))
             << Describe(widget) << " is cut";
         return;

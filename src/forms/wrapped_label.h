@@ -1,0 +1,24 @@
+#pragma once
+// Texts of users on as many lines as they need.
+
+#include <QLabel>
+
+namespace lorvo {
+
+/// A label of plain text that breaks between words, and within a word that is wider than the place,
+/// so that every letter of it is seen.
+class WrappedLabel : public QLabel {
+    Q_OBJECT
+  public:
+    explicit WrappedLabel(QWidget* parent);
+
+    int heightForWidth(int width) const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    bool HasWordWiderThan(int width) const;
+};
+
+} // namespace lorvo
