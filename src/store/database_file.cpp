@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 #include <QtEndian>
+#include <sqlite3.h>
 
 namespace lorvo {
 
@@ -83,6 +84,23 @@ void RequireFile(const QFileInfo& info, const QString& path) {
                          " Vraťte na jeho místo kopii, například ze složky Zálohy.");
 }
 
+/// What the engine takes for the path of a file and its journal: bytes on the disks of POSIX
+/// systems, letters on Windows.
+bool IsTooLong(const QString& path) {
+    constexpr int kJournal = 8; // "-journal"
+#ifdef Q_OS_WIN
+    return path.size() + kJournal >= 260;
+#else
+    return path.toUtf8().size() + kJournal > sqlite3_vfs_find(nullptr)->mxPathname;
+#endif
+}
+
+void RequireShortPath(const QFileInfo& info, const QString& path) {
+    if (IsTooLong(info.absoluteFilePath()))
+        throw StoreError(AboutFile(path, u"cesta k souboru je příliš dlouhá"_s) +
+                         " Přesuňte program do složky s kratší cestou.");
+}
+
 } // namespace
 
 std::string AboutFile(const QString& path, const QString& reason) {
@@ -92,6 +110,7 @@ std::string AboutFile(const QString& path, const QString& reason) {
 void RequireDatabaseFile(const QString& path) {
     const QFileInfo info(path);
     RequireFile(info, path);
+    RequireShortPath(info, path);
     const QByteArray header = ReadHeader(path);
     if (!header.startsWith(kMagic) && !kMagic.startsWith(header))
         throw StoreError(AboutFile(path, u"soubor není databáze programu Lorvo"_s));

@@ -197,11 +197,37 @@ TEST_F(ConnectionTest, ClosesWhileAnotherProgramReads) {
 }
 
 TEST_F(ConnectionTest, OpensInAFolderWithBlanksAccentsAndPercentSigns) {
-    const QString folder = database.Folder() + u"/Výstava 100 % #1?"_s;
-    QDir().mkpath(folder);
+    // A question mark is in no name on Windows.
+    const QString name = QDir::separator() == u'/' ? u"Výstava 100 % #1?"_s : u"Výstava 100 % #1"_s;
+    const QString folder = database.Folder() + u'/' + name;
+    ASSERT_TRUE(QDir().mkpath(folder));
     Connection connection;
     connection.Open(TempDatabase::CopyTo(folder));
     EXPECT_TRUE(connection.IsOpen());
+}
+
+/// A folder below `folder` whose path has that length, made.
+QString FolderOfLength(QString folder, qsizetype length) {
+    while (folder.size() < length) {
+        const qsizetype left = length - folder.size();
+        folder += u'/' + QString(left > 101 ? 99 : left - 1, u'd');
+    }
+    QDir().mkpath(folder);
+    return folder;
+}
+
+TEST_F(ConnectionTest, OpensAtTheEndOfTheLongestPathAndNamesALongerOne) {
+    const qsizetype longest = QDir::separator() == u'/' ? 504 : 251;
+    const qsizetype name = QStringView(u"/data.mdb").size();
+    Connection connection;
+    connection.Open(TempDatabase::CopyTo(FolderOfLength(database.Folder(), longest - name)));
+    EXPECT_TRUE(connection.IsOpen());
+    connection.Close();
+    const QString path =
+        TempDatabase::CopyTo(FolderOfLength(database.Folder(), longest - name + 1));
+    const std::string failure = FailureOf([&] { connection.Open(path); });
+    EXPECT_NE(failure.find("cesta k souboru je příliš dlouhá"), std::string::npos) << failure;
+    EXPECT_NE(failure.find(QDir::toNativeSeparators(path).toStdString()), std::string::npos);
 }
 
 TEST_F(ConnectionTest, ADatabaseThatLacksATableOpensAndFailsWhereItIsAskedFor) {
