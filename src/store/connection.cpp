@@ -4,6 +4,7 @@
 #include "store/connection_internals.h"
 #include "store/database_file.h"
 #include "store/engine_failure.h"
+#include "store/file_in_place.h"
 #include "store/leftover_journal.h"
 #include "store/lock_wait.h"
 #include "store/show_file.h"
@@ -60,6 +61,16 @@ void StopWriting(SQLite::Database& database) {
     }
 }
 
+/// Shuts the connection. Its log would be taken for that of the file that came in the place of its
+/// own.
+void LeaveLostFile(DatabasePointer& database, const QString& path, bool isSaved) {
+    LeaveFileAlone(database->getHandle());
+    if (!isSaved)
+        SaveLostFile(*database, path);
+    database.reset();
+    SetLogAside(path);
+}
+
 } // namespace
 
 Connection::Connection() : impl_(std::make_unique<Impl>()) {}
@@ -96,13 +107,16 @@ void Connection::Close() {
     if (!IsOpen())
         return;
     // Whatever happens on the way, the connection is shut at the end.
-    const auto database = std::move(impl_->database);
+    auto database = std::move(impl_->database);
     impl_->cache.Clear();
     impl_->readRuns = impl_->editRuns = impl_->editsSinceCommit = 0;
+    const bool isSaved = !std::exchange(impl_->lostFile, {}).empty();
     try {
         if (!sqlite3_get_autocommit(database->getHandle()))
             database->exec("COMMIT");
-        if (!IsFileLeftAlone(database->getHandle()))
+        if (!IsFileInPlace(*database))
+            LeaveLostFile(database, impl_->path, isSaved);
+        else if (!IsFileLeftAlone(database->getHandle()))
             StopWriting(*database);
     } catch (const SQLite::Exception& failure) {
         ThrowFailure(failure, impl_->path);

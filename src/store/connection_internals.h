@@ -19,15 +19,20 @@ struct Connection::Impl {
     int editRuns = 0;
     int editsSinceCommit = 0;
     bool isWhole = false; ///< the edits under way wait for one commit, however many they are
+    std::string lostFile; ///< what became of a file that isn't in its place any more
 
     /// All raise StoreError; also when the connection is shut.
     sqlite3* Handle() const;
     CachedStatement Prepare(const StatementTokens& statement);
     CachedStatement PrepareNative(const std::string& sql);
+    /// Called before each edit. Raises DiskError when the file isn't in its place any more; what
+    /// was written before is saved first.
+    void BeforeEdit();
     /// Called behind each edit: puts it on disk, unless a run of edits shares commits.
     void EditDone();
     /// Counts one more of `runs`, readRuns or editRuns.
     void BeginRun(int& runs);
+    void RequireFileInPlace();
     /// Commits what is open and begins what the runs under way need.
     void RenewTransaction();
 };

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <functional>
 #include <sqlite3.h>
 
 namespace lorvo {
@@ -63,16 +64,20 @@ void CopyPages(SQLite::Database& target, SQLite::Database& source) {
         throw SQLite::Exception(target.getHandle(), code);
 }
 
-/// Returns the figures of the original at the moment that the copy shows.
-DatabaseFigures CopyAll(const QString& sourcePath, const QString& targetPath) {
-    SQLite::Database source = Opened(sourcePath, SQLite::OPEN_READONLY);
+void CopyTo(const QString& targetPath, SQLite::Database& source) {
     SQLite::Database target = Opened(targetPath, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    source.exec("BEGIN");
-    const DatabaseFigures figures = Figures(source);
     CopyPages(target, source);
     // The copy stands alone: without a log beside it when it is opened where nothing can be
     // written.
     target.exec("PRAGMA journal_mode=DELETE");
+}
+
+/// Returns the figures of the original at the moment that the copy shows.
+DatabaseFigures CopyAll(const QString& sourcePath, const QString& targetPath) {
+    SQLite::Database source = Opened(sourcePath, SQLite::OPEN_READONLY);
+    source.exec("BEGIN");
+    const DatabaseFigures figures = Figures(source);
+    CopyTo(targetPath, source);
     return figures;
 }
 
@@ -85,6 +90,25 @@ void SyncFile(const QString& path) {
 void RemoveWithJournals(const QString& path) {
     for (const QString& ending : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
         QFile::remove(path + ending);
+}
+
+void RequireNoFile(const QString& target) {
+    if (QFile::exists(target))
+        throw StoreError(AboutFile(target, u"soubor toho jména už je"_s));
+}
+
+/// Runs `copy`, which writes `target`, and syncs that; failures of the engine are told of `about`.
+void MakeWhole(const QString& about, const QString& target, const std::function<void()>& copy) {
+    try {
+        copy();
+        SyncFile(target);
+    } catch (const SQLite::Exception& failure) {
+        RemoveWithJournals(target);
+        ThrowFailure(failure, about);
+    } catch (...) {
+        RemoveWithJournals(target);
+        throw;
+    }
 }
 
 } // namespace
@@ -104,22 +128,22 @@ void RequireWholeDatabase(const QString& path) {
 }
 
 void CopyDatabase(const QString& source, const QString& target) {
-    if (QFile::exists(target))
-        throw StoreError(AboutFile(target, u"soubor toho jména už je"_s));
+    RequireNoFile(target);
     SetForeignLogAside(source);
-    try {
+    MakeWhole(source, target, [&] {
         const DatabaseFigures figures = CopyAll(source, target);
         RequireWholeDatabase(target);
         if (FiguresOfDatabase(target) != figures)
             throw StoreError(AboutFile(target, u"kopie se neshoduje s originálem"_s));
-        SyncFile(target);
-    } catch (const SQLite::Exception& failure) {
-        RemoveWithJournals(target);
-        ThrowFailure(failure, source);
-    } catch (...) {
-        RemoveWithJournals(target);
-        throw;
-    }
+    });
+}
+
+void CopyOpenDatabase(SQLite::Database& source, const QString& target) {
+    RequireNoFile(target);
+    MakeWhole(target, target, [&] {
+        CopyTo(target, source);
+        RequireWholeDatabase(target);
+    });
 }
 
 std::map<int, QString> RowsOfDatabase(const QString& path, std::string_view table) {

@@ -1,14 +1,18 @@
 #pragma once
 // Whole database files beside the one that is open: copying, checking and comparing them. Every
-// routine has connections of its own, so that it may run on a thread of its own; files are read as
-// they stand at one moment, whatever is written meanwhile. All raise StoreError that names the
-// file.
+// routine but one has connections of its own, so that it may run on a thread of its own; files are
+// read as they stand at one moment, whatever is written meanwhile. All raise StoreError that names
+// the file.
 
 #include "platform/values/money.h"
 
 #include <QString>
 #include <map>
 #include <string_view>
+
+namespace SQLite {
+class Database;
+}
 
 namespace lorvo {
 
@@ -33,6 +37,9 @@ void RequireWholeDatabase(const QString& path);
 /// copy against the original (full check, figures) and syncs it. What it had begun is removed when
 /// it fails.
 void CopyDatabase(const QString& source, const QString& target);
+
+/// The same for what a connection knows whose file may have gone, on that connection itself.
+void CopyOpenDatabase(SQLite::Database& source, const QString& target);
 
 /// Rows of a table by ID, each with its fields as one text.
 std::map<int, QString> RowsOfDatabase(const QString& path, std::string_view table);

@@ -86,7 +86,12 @@ bool HasLeftoverJournal(const QString& path) {
 }
 
 void SetForeignLogAside(const QString& path) {
-    if (QFileInfo(LogOf(path)).size() == 0 || SaysItHasLog(path))
+    if (!SaysItHasLog(path))
+        SetLogAside(path);
+}
+
+void SetLogAside(const QString& path) {
+    if (QFileInfo(LogOf(path)).size() == 0)
         return;
     RenameOver(LogOf(path), path + u".cizí žurnál"_s);
     QFile::remove(path + u"-shm"_s);

@@ -14,6 +14,8 @@ bool HasLeftoverJournal(const QString& path);
 /// hand, as by a copy of it: the engine would work pages into the file that belong to another.
 /// Raises PlatformError when it can't; nothing where the log is the file's own.
 void SetForeignLogAside(const QString& path);
+/// The same for any log.
+void SetLogAside(const QString& path);
 
 /// The file's content as the engine will have it once it has worked the leftover journal in.
 /// CorruptStoreError when a page that is in use stands neither in the file nor in the journal,

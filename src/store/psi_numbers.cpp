@@ -12,6 +12,7 @@ namespace lorvo {
 
 void SetDogNumber(int psiID, int cislo) {
     Connection::Impl& store = TheDataModule().Conn1.Internals();
+    store.BeforeEdit();
     const CachedStatement update = store.PrepareNative("UPDATE Psi SET Cislo = ?1 WHERE ID = ?2");
     BindAll(update, {cislo, psiID});
     Execute(update);

@@ -177,6 +177,7 @@ void RecordSet::Open(std::string_view statement) {
             state_->translation = translation;
             state_->Read(prepared);
         } else {
+            inside.BeforeEdit();
             Execute(prepared);
         }
     } catch (const CorruptStoreError&) {
@@ -252,6 +253,7 @@ void RecordSet::Update() {
     state_->edit = Edit::None; // a failed edit is given up
     if (edit == Edit::None)
         return;
+    state_->connection.Internals().BeforeEdit();
     if (edit == Edit::Insert)
         state_->WriteInsert();
     else

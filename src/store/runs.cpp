@@ -3,6 +3,7 @@
 #include "platform/values/errors.h"
 #include "store/connection_internals.h"
 #include "store/engine_failure.h"
+#include "store/file_in_place.h"
 #include "store/lock_wait.h"
 
 #include <sqlite3.h>
@@ -35,14 +36,30 @@ void Commit(sqlite3* handle) {
 
 } // namespace
 
+void Connection::Impl::RequireFileInPlace() {
+    Handle();
+    if (lostFile.empty() && !IsFileInPlace(*database))
+        lostFile = SaveLostFile(*database, path);
+    if (!lostFile.empty())
+        throw DiskError(lostFile);
+}
+
+// A run looks once for each of its commits.
+void Connection::Impl::BeforeEdit() {
+    if (editRuns == 0)
+        RequireFileInPlace();
+}
+
 void Connection::Impl::RenewTransaction() {
     sqlite3* const handle = Handle();
     editsSinceCommit = 0;
     if (!sqlite3_get_autocommit(handle)) // the engine ends one itself on some failures
         Commit(handle);
-    if (editRuns > 0)
+    if (editRuns > 0) {
+        RequireFileInPlace();
         Run(handle, "BEGIN IMMEDIATE");
-    else if (readRuns > 0)
+    }
+    if (editRuns == 0 && readRuns > 0)
         Run(handle, "BEGIN");
 }
 
