@@ -7,8 +7,8 @@
 namespace lorvo {
 
 /// Raises StoreError when the file is missing, empty, a folder, at the end of too long a path, no
-/// database at all, shorter than it says itself (CorruptStoreError) or not writable, each with a message that names it, the reason
-/// and what to do. Only reads.
+/// database at all, shorter than it says itself (CorruptStoreError) or not writable, each with a
+/// message that names it, the reason and what to do. Only reads.
 void RequireDatabaseFile(const QString& path);
 
 /// A message about the file, naming it.
