@@ -9,8 +9,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <algorithm>
 #include <set>
+#include <sqlite3.h>
 
 namespace lorvo {
 
@@ -19,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Fields of the file's header, by their places.
-constexpr qsizetype kVersions = 18; ///< of writing and reading; 2 asks for a write-ahead log
+constexpr int kVersions = 18; ///< of writing and reading; 2 asks for a write-ahead log
 constexpr qsizetype kFirstFreeTrunk = 32;
 
 QString LogOf(const QString& path) {
@@ -30,13 +32,24 @@ QString RollbackOf(const QString& path) {
     return path + u"-journal"_s;
 }
 
+/// The first bytes of a file, none where there are fewer. Read by the engine: on POSIX systems a
+/// program that opens and closes a file beside it gives up all locks that the engine has on it.
+QByteArray StartOf(const QString& path, int length) {
+    try {
+        const SQLite::Database database(path.toStdString(), SQLite::OPEN_READONLY);
+        sqlite3_file* file = nullptr;
+        sqlite3_file_control(database.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+        QByteArray start(length, '\0');
+        const bool isRead = file->pMethods->xRead(file, start.data(), length, 0) == SQLITE_OK;
+        return isRead ? start : QByteArray();
+    } catch (const SQLite::Exception&) { // it can't be opened
+        return {};
+    }
+}
+
 /// A file says in its header that it has a log, from before the log is begun until it is gone.
 bool SaysItHasLog(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray start = file.read(kVersions + 1);
-    return start.size() > kVersions && start[kVersions] == '\2';
+    return StartOf(path, kVersions + 1).endsWith('\2');
 }
 
 bool HasLogOfItsOwn(const QString& path) {

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <fcntl.h>
 #include <map>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -44,6 +45,18 @@ class LeftoverJournalTest : public ::testing::Test {
         int status = 0;
         waitpid(child, &status, 0);
         ASSERT_EQ(status, 0);
+    }
+
+    /// Whether another program sees that the file is in use.
+    void ExpectInUseForOthers() const {
+        KilledAfter([&] {
+            const int file = open(Path().toUtf8().constData(), O_RDWR);
+            struct flock lock = {};
+            lock.l_type = F_WRLCK;
+            lock.l_whence = SEEK_SET;
+            if (fcntl(file, F_GETLK, &lock) != 0 || lock.l_type == F_UNLCK)
+                _exit(1);
+        });
     }
 
     void LeaveLog(int dogs) {
@@ -120,6 +133,16 @@ TEST_F(LeftoverJournalTest, ACopyOfSuchAFileHasNothingOfTheLog) {
     const QString copy = folder.filePath(u"kopie.mdb"_s);
     CopyDatabase(Path(), copy);
     EXPECT_EQ(FiguresOfDatabase(copy).dogs, 0);
+}
+
+/// A program that closes a file which nobody else seems to use takes its log away.
+TEST_F(LeftoverJournalTest, ACopyLeavesTheOpenFileInUse) {
+    LeaveLog(50);
+    DataModule module;
+    module.Conn1.Open(Path());
+    ExpectInUseForOthers();
+    CopyDatabase(Path(), folder.filePath(u"kopie.mdb"_s));
+    ExpectInUseForOthers();
 }
 
 TEST_F(LeftoverJournalTest, AFileCutBesideItsLogIsRefusedUntouched) {
