@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing. Usage: install_packages.sh
-#   run|test|papers|release|windows
+#   run|test|coverage|papers|release|windows
 # "run" is what building and starting the program takes, "test" adds what its tests and
-# measurements take, "papers" what looking at the papers takes, "release" the packages for Linux,
+# measurements take, "coverage" what counting their lines takes beside, "papers" what looking at the papers takes, "release" the packages for Linux,
 # "windows" what the build for Windows and its proof under Wine take. Quick when nothing is missing:
 # it then asks the package database alone.
 set -euo pipefail
@@ -17,7 +17,10 @@ packages=(
   qt6-translations-l10n # Czech texts of the toolkit's own menus
   fonts-dejavu-core
 )
-if [ "${1:-run}" = test ]; then
+if [ "${1:-run}" = coverage ]; then
+  packages+=(gcovr)
+fi
+if [ "${1:-run}" = test ] || [ "${1:-run}" = coverage ]; then
   packages+=(clang-format-14 libgtest-dev libgmock-dev libbenchmark-dev libreoffice-writer-nogui poppler-utils)
   packages+=(fonts-liberation fonts-urw-base35) # with DejaVu the three sets that papers are laid out with
 fi

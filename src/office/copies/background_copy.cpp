@@ -4,6 +4,8 @@
 #include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 
+#include <algorithm>
+
 namespace lorvo {
 
 using namespace Qt::StringLiterals;
@@ -12,9 +14,9 @@ namespace {
 
 CopyOutcome Failed(const Error& failure, bool isDamaged, const QString& folder, DateValue now) {
     CopyOutcome outcome{QString::fromUtf8(failure.what()), isDamaged, {}, 0};
-    if (const auto good = NewestGoodCopy(folder)) {
+    if (const auto good = NewestGoodCopy(folder, now)) {
         outcome.newestGood = good->path.section(u'/', -1);
-        outcome.daysOld = now.Days() - good->moment.Days();
+        outcome.daysOld = std::max(0, now.Days() - good->moment.Days());
     }
     return outcome;
 }

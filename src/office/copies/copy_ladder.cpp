@@ -60,9 +60,11 @@ std::vector<std::size_t> CopiesToDrop(const std::vector<AgedCopy>& copies, DateV
     GroupKeeper days;
     GroupKeeper months;
     int fullest = -1;
+    std::size_t before = 0;
     for (std::size_t i = 0; i < copies.size(); ++i) {
         const auto& [moment, rows] = copies[i];
-        if (i < kNewestKept || rows > fullest)
+        const bool isAhead = now < moment;
+        if (isAhead || before++ < kNewestKept || rows > fullest)
             kept.insert(i);
         fullest = std::max(fullest, rows);
         if (now.Days() - moment.Days() < kDaysKept)

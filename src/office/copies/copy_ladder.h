@@ -22,7 +22,8 @@ struct AgedCopy {
 /// Positions of the copies that may go, of copies from the newest to the oldest. The last ten stay,
 /// one of each day for two weeks, one of each month for a year; of a day or month the fullest, of
 /// equal ones the newest. A copy that is fuller than all newer ones stays whatever its age: it is
-/// what a clerk will look for when data has been lost.
+/// what a clerk will look for when data has been lost. So does one ahead of `now`, without a place
+/// among the ten: the clock was wrong when it was made, or is now.
 std::vector<std::size_t> CopiesToDrop(const std::vector<AgedCopy>& copies, DateValue now);
 
 } // namespace lorvo

@@ -148,8 +148,11 @@ std::vector<ShowCopy> ListCopies(const QString& programFolder, bool checked) {
     return copies;
 }
 
-std::optional<ShowCopy> NewestGoodCopy(const QString& programFolder) {
-    for (ShowCopy& copy : ListCopies(programFolder, true))
+std::optional<ShowCopy> NewestGoodCopy(const QString& programFolder, DateValue now) {
+    std::vector<ShowCopy> copies = ListCopies(programFolder, true);
+    std::ranges::stable_partition(copies,
+                                  [now](const ShowCopy& copy) { return copy.moment <= now; });
+    for (ShowCopy& copy : copies)
         if (copy.fault.isEmpty())
             return std::move(copy);
     return std::nullopt;

@@ -31,8 +31,9 @@ struct ShowCopy {
 
 /// The newest first. With `checked` each is checked whole, else only its figures are read.
 std::vector<ShowCopy> ListCopies(const QString& programFolder, bool checked);
-/// The newest one whose check finds nothing.
-[[nodiscard]] std::optional<ShowCopy> NewestGoodCopy(const QString& programFolder);
+/// The newest one whose check finds nothing. One ahead of `now` counts as older than all others: it
+/// is from before the clock was set back.
+[[nodiscard]] std::optional<ShowCopy> NewestGoodCopy(const QString& programFolder, DateValue now);
 
 /// What came, went and changed from one database file to another, in sentences.
 QStringList CompareDatabases(const QString& earlier, const QString& later);

@@ -45,6 +45,13 @@ TEST(CopyLadder, OneOfEachDayForTwoWeeksAndOneOfEachMonthForAYear) {
     EXPECT_TRUE(std::ranges::find(dropped, 799u) != dropped.end());
 }
 
+TEST(CopyLadder, CopiesAheadOfTheClockTakeNoPlaceFromNewOnes) {
+    std::vector<AgedCopy> copies(12, {kNow.PlusDays(365), 5});
+    for (const AgedCopy& copy : Copies(std::vector<int>(12, 5), 0))
+        copies.push_back(copy);
+    EXPECT_EQ(CopiesToDrop(copies, kNow), (Positions{22, 23}));
+}
+
 TEST(CopyLadder, AFullCopyNeverGivesWayToEmptierOnes) {
     std::vector<int> rows(20, 0);
     rows[15] = 400;

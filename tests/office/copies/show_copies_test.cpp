@@ -124,7 +124,7 @@ TEST_F(ShowCopiesTest, ADamagedCopyIsRefusedAndNothingChanges) {
     EXPECT_THROW(PutCopyBack(Folder(), copy, now), StoreError);
     EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 2);
     EXPECT_FALSE(ListCopies(Folder(), true).front().fault.isEmpty());
-    EXPECT_FALSE(NewestGoodCopy(Folder()));
+    EXPECT_FALSE(NewestGoodCopy(Folder(), now));
 }
 
 TEST_F(ShowCopiesTest, APutBackThatCanNotCopyThePresentStateLeavesEverythingAsItWas) {
@@ -151,6 +151,22 @@ TEST_F(ShowCopiesTest, DamageNamesTheNewestGoodCopy) {
     EXPECT_EQ(outcome.newestGood, u"data 2027-05-15 08.00.00.mdb"_s);
     EXPECT_EQ(outcome.daysOld, 3);
     EXPECT_EQ(Files().size(), 1);
+}
+
+TEST_F(ShowCopiesTest, AClockSetBackMakesNoOldCopyTheNewest) {
+    AddOwner("Eva");
+    Copy();
+    AddOwner("Jan");
+    now = now.PlusDays(-400);
+    MakeCopy(Folder(), now);
+    EXPECT_EQ(Files().size(), 2);
+    TheDataModule().Conn1.Close();
+    Damage(DatabasePath(Folder()));
+    const CopyOutcome outcome = TryCopy(Folder(), now.PlusDays(1));
+    EXPECT_EQ(outcome.newestGood, u"data 2026-04-10 08.00.00.mdb"_s);
+    EXPECT_EQ(outcome.daysOld, 1);
+    const CopyOutcome earlier = TryCopy(Folder(), now.PlusDays(-1));
+    EXPECT_EQ(earlier.daysOld, 0);
 }
 
 TEST_F(ShowCopiesTest, NobodyWaitsForACopyInTheBackground) {
