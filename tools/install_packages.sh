@@ -2,9 +2,9 @@
 # Installs the Debian packages that are missing. Usage: install_packages.sh
 #   run|test|coverage|papers|release|windows
 # "run" is what building and starting the program takes, "test" adds what its tests and
-# measurements take, "coverage" what counting their lines takes beside, "papers" what looking at the papers takes, "release" the packages for Linux,
-# "windows" what the build for Windows and its proof under Wine take. Quick when nothing is missing:
-# it then asks the package database alone.
+# measurements take, "coverage" what counting the lines takes that they run, "papers" what looking
+# at the papers takes, "release" the packages for Linux, "windows" what the build for Windows and
+# its proof under Wine take. Quick when nothing is missing: it then asks the package database alone.
 set -euo pipefail
 
 packages=(
