@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Cross-compiles for 64-bit Windows what Lorvo links: ICU, Qt, SQLite, SQLiteCpp, libzip, libxlsxwriter
-# and GoogleTest, from the source packages of the Debian system it runs on. Once, 25 to 50 minutes.
+# Cross-compiles for 64-bit Windows what Lorvo links: ICU, Qt, SQLite, SQLiteCpp, libzip, libxlsxwriter,
+# GoogleTest and the benchmark library, from the source packages of the Debian system it runs on.
+# Once, 25 to 50 minutes.
 #   prefix.sh FOLDER [STEP...]   FOLDER outside the repository; or set LORVO_WINDOWS
 # Without a step all run in order. A finished step is marked in FOLDER/done and not run again;
 # remove its mark to repeat it. Each step writes FOLDER/log/STEP.log.
@@ -10,8 +11,8 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$here/folders.sh" "${1:-}"
 shift $(($# > 0))
 
-all_steps=(packages sources icu qt sqlite sqlitecpp libzip libxlsxwriter googletest runtime)
-sources=(qt6-base icu sqlite3 sqlitecpp libzip libxlsxwriter googletest)
+all_steps=(packages sources icu qt sqlite sqlitecpp libzip libxlsxwriter googletest benchmark runtime)
+sources=(qt6-base icu sqlite3 sqlitecpp libzip libxlsxwriter googletest benchmark)
 jobs=${JOBS:-$(nproc)}
 target=x86_64-w64-mingw32
 
@@ -139,6 +140,11 @@ step_libxlsxwriter() {
 
 step_googletest() {
   cross_build googletest -DBUILD_SHARED_LIBS=OFF -DBUILD_GMOCK=ON
+}
+
+step_benchmark() {
+  cross_build benchmark -DGIT_VERSION=0.0.0 -DBUILD_SHARED_LIBS=OFF -DBENCHMARK_ENABLE_TESTING=OFF \
+    -DBENCHMARK_ENABLE_WERROR=OFF -DBENCHMARK_INSTALL_DOCS=OFF
 }
 
 # The compiler's own DLLs beside the others, all without symbols: libstdc++ alone brings 20 MB.
