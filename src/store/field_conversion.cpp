@@ -58,6 +58,10 @@ QString ReadText(sqlite3_stmt* statement, int column) {
     return QString::fromUtf8(text, sqlite3_column_bytes(statement, column));
 }
 
+std::string NoNumber(const QString& text) {
+    return '"' + text.toStdString() + "\" není číslo";
+}
+
 Value ReadNumber(qint64 number, FieldType type) {
     switch (type) {
     case FieldType::Boolean:
@@ -91,14 +95,14 @@ Value ReadCell(sqlite3_stmt* statement, int position, FieldType type) {
             return ReadDate(ReadText(statement, position));
         if (type == FieldType::Text || type == FieldType::Unknown)
             return ReadText(statement, position);
-        throw StoreError("\"" + ReadText(statement, position).toStdString() + "\" není číslo");
+        throw StoreError(NoNumber(ReadText(statement, position)));
     default:
         throw StoreError("v souboru je hodnota jiného druhu");
     }
 }
 
-std::string AboutCell(sqlite3_stmt* statement, const ResultColumn& column, const char* reason) {
-    const char* path = sqlite3_db_filename(sqlite3_db_handle(statement), "main");
+std::string AboutCell(sqlite3* database, const ResultColumn& column, const char* reason) {
+    const char* path = sqlite3_db_filename(database, "main");
     const QString table = column.table.empty()
                               ? QString()
                               : u"tabulka %1, "_s.arg(QString::fromStdString(column.table));
@@ -147,8 +151,23 @@ Value ReadStored(sqlite3_stmt* statement, int position, const ResultColumn& colu
     try {
         return ReadCell(statement, position, column.type);
     } catch (const Error& error) {
-        throw StoreError(AboutCell(statement, column, error.what()));
+        throw StoreError(AboutCell(sqlite3_db_handle(statement), column, error.what()));
     }
+}
+
+Value ReadAsItStands(sqlite3_stmt* statement, int position, const ResultColumn& column) {
+    const bool isText = sqlite3_column_type(statement, position) == SQLITE_TEXT;
+    return isText && column.type == FieldType::Currency ? Value(ReadText(statement, position))
+                                                        : ReadStored(statement, position, column);
+}
+
+const QString* StrayText(const Value& value, const ResultColumn& column) {
+    return column.type == FieldType::Currency ? std::get_if<QString>(&value.Data()) : nullptr;
+}
+
+void RequireAmount(sqlite3* database, const Value& value, const ResultColumn& column) {
+    if (const QString* text = StrayText(value, column))
+        throw StoreError(AboutCell(database, column, NoNumber(*text).c_str()));
 }
 
 } // namespace lorvo

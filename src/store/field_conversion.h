@@ -6,6 +6,7 @@
 
 #include <string>
 
+struct sqlite3;
 struct sqlite3_stmt;
 
 namespace lorvo {
@@ -21,5 +22,14 @@ int BindStored(sqlite3_stmt* statement, int index, const Value& value);
 /// Cell number `position` of the statement's current row; StoreError names file, table and field
 /// when the file holds something that the field's type can't be.
 Value ReadStored(sqlite3_stmt* statement, int position, const ResultColumn& column);
+
+/// The same, but a text where an amount should be is given as the text that it is.
+Value ReadAsItStands(sqlite3_stmt* statement, int position, const ResultColumn& column);
+
+/// The text in a field of amounts, which a file can hold and the program never writes; null for
+/// every other value.
+const QString* StrayText(const Value& value, const ResultColumn& column);
+/// Raises the StoreError of ReadStored when the value is such a text.
+void RequireAmount(sqlite3* database, const Value& value, const ResultColumn& column);
 
 } // namespace lorvo

@@ -17,7 +17,7 @@ std::vector<Value> ReadRow(const CachedStatement& statement, const Translation& 
     std::vector<Value> row;
     row.reserve(translation.columns.size());
     for (const ResultColumn& column : translation.columns)
-        row.push_back(ReadStored(statement.Handle(), static_cast<int>(row.size()), column));
+        row.push_back(ReadAsItStands(statement.Handle(), static_cast<int>(row.size()), column));
     return row;
 }
 
@@ -87,6 +87,16 @@ struct RecordSet::State {
             if (IsNamed(columns[i], field))
                 return i;
         Fail("neznámé pole " + std::string(field) + '.');
+    }
+
+    const Value& CellAt(std::size_t position) const {
+        const Value& value = CurrentRow()[position];
+        try {
+            RequireAmount(connection.Internals().Handle(), value, translation->columns[position]);
+        } catch (const StoreError& error) {
+            Fail(error.what());
+        }
+        return value;
     }
 
     void StartEdit(Edit kind, std::vector<Value> row) {
@@ -221,15 +231,20 @@ void RecordSet::MoveNext() {
 }
 
 const Value& RecordSet::Field(std::string_view name) const {
-    const std::size_t position = state_->PositionOf(name);
-    return state_->CurrentRow()[position];
+    return state_->CellAt(state_->PositionOf(name));
 }
 
 const Value& RecordSet::Field(int position) const {
-    const std::vector<Value>& row = state_->CurrentRow();
-    if (position < 0 || static_cast<std::size_t>(position) >= row.size())
+    const std::size_t count = state_->CurrentRow().size();
+    if (position < 0 || static_cast<std::size_t>(position) >= count)
         state_->Fail("pole číslo " + std::to_string(position) + " neexistuje.");
-    return row[static_cast<std::size_t>(position)];
+    return state_->CellAt(static_cast<std::size_t>(position));
+}
+
+bool RecordSet::IsNumeric(std::string_view amount) const {
+    const std::size_t position = state_->PositionOf(amount);
+    const Value& value = state_->CurrentRow()[position];
+    return !value.IsNull() && !StrayText(value, state_->translation->columns[position]);
 }
 
 void RecordSet::AddNew() {

@@ -35,9 +35,11 @@ class RecordSet {
 
     /// Field of the current row, by name in any letter case (the first of that name; a join's
     /// other ones by "Table.Field") or by position from 0. StoreError for a field or a row that is
-    /// not there.
+    /// not there, and for an amount that is no number in the file.
     const Value& Field(std::string_view name) const;
     const Value& Field(int position) const;
+    /// Whether a field of amounts holds one: neither Null nor a text that got into the file.
+    bool IsNumeric(std::string_view amount) const;
 
     /// Starts a new row; its fields are assigned with Set and stored by Update. Only a set opened
     /// by a plain SELECT of one table takes rows and changes.

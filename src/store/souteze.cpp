@@ -14,7 +14,8 @@ Souteze ReadSouteze(const RecordSet& row) {
     Souteze competition;
     competition.ID = row.Field("ID").ToInt();
     competition.Nazev = row.Field("Nazev").ToText();
-    competition.Cena = ToOptionalCurrency(row.Field("Cena"));
+    if (row.IsNumeric("Cena"))
+        competition.Cena = row.Field("Cena").ToCurrency();
     competition.Parova = row.Field("Parova").ToBool();
     competition.NazevPar1 = row.Field("NazevPar1").ToText();
     competition.NazevPar2 = row.Field("NazevPar2").ToText();

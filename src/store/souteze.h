@@ -14,7 +14,7 @@ namespace lorvo {
 struct Souteze {
     int ID = 0;
     QString Nazev;
-    std::optional<Currency> Cena; ///< per dog, in the main currency; nullopt when Null
+    std::optional<Currency> Cena; ///< per dog, in the main currency; nullopt when it is no number
     bool Parova = false;
     QString NazevPar1;
     QString NazevPar2;

@@ -134,11 +134,11 @@ TEST_F(BadFileTest, ACellThatIsNotOfItsTypeNamesTheField) {
     Connection connection;
     connection.Open(Path());
     RecordSet set(connection, "Uhrady", RecordSet::Lock::Updatable);
-    const auto failureOf = [&](const char* statement) {
-        return FailureOf([&] { set.Open(statement); });
-    };
     const auto expectNamed = [&](const char* statement, const char* field) {
-        const std::string failure = failureOf(statement);
+        const std::string failure = FailureOf([&] {
+            set.Open(statement);
+            set.Field(field);
+        });
         EXPECT_NE(failure.find(ShownPath()), std::string::npos) << failure;
         EXPECT_NE(failure.find(std::string("tabulka Uhrady, pole ") + field), std::string::npos)
             << failure;

@@ -186,6 +186,14 @@ TEST_F(RecordSetTest, StoresAmountsExactlyFromTextAndFromNumbers) {
     EXPECT_TRUE(module.rsSouteze.Field("Cena").IsNull());
 }
 
+TEST_F(RecordSetTest, AnAmountThatIsATextInTheFileFailsOnlyWhereItIsRead) {
+    database.Execute("INSERT INTO Vystavy (Nazev, PoplatkyIClass1D1) VALUES ('a', 'zdarma')");
+    module.rsVystavy.Open("SELECT * FROM Vystavy");
+    EXPECT_EQ(module.rsVystavy.Field("Nazev"), Value(u"a"_s));
+    EXPECT_FALSE(module.rsVystavy.IsNumeric("PoplatkyIClass1D1"));
+    EXPECT_THROW(module.rsVystavy.Field("PoplatkyIClass1D1"), StoreError);
+}
+
 TEST_F(RecordSetTest, NamesTheFieldThatAValueDoesNotFit) {
     struct Case {
         const char* field;

@@ -37,6 +37,18 @@ TEST_F(SoutezeTest, AStoredCompetitionReadsBackWhole) {
     EXPECT_EQ(Competitions().size(), 1u);
 }
 
+TEST_F(SoutezeTest, APriceThatIsNoNumberIsNone) {
+    const int ID = InsertCompetition(Named("a"));
+    InsertCompetition(Named("b"));
+    for (const char* price : {"'zdarma'", "''", "NULL"}) {
+        database.Execute(std::string("UPDATE Souteze SET Cena = ") + price + " WHERE ID = 1");
+        EXPECT_EQ(Competitions().size(), 2u);
+        EXPECT_FALSE(CompetitionByID(ID).value().Cena) << price;
+    }
+    RenameCompetition(ID, Text("c"));
+    EXPECT_EQ(CompetitionByID(ID).value().Nazev, Text("c"));
+}
+
 TEST_F(SoutezeTest, CompetitionsComeByIDOrByName) {
     InsertCompetition(Named("Žák"));
     InsertCompetition(Named("Chlapec"));
