@@ -16,6 +16,7 @@
 #include "store/psi_oceneni.h"
 #include "store/psi_ve_vystavach.h"
 #include "store/souteze.h"
+#include "store/uhrady.h"
 #include "store/vystavy.h"
 
 namespace lorvo {
@@ -95,11 +96,22 @@ void AddShowLines(DogCard& card) {
     }
 }
 
-void FillEnteredShows(DogCard& card, const Psi& dog, const Account& account) {
-    for (const Account::Entry& entered : account.shows) {
-        CheckLine& line = ExistingLine(card.shows, u"V%1"_s.arg(entered.ID));
+QString FeeText(std::optional<Currency> fee) {
+    return WithMainCurrency(fee ? PlainAmount(*fee) : QString());
+}
+
+void TickEnteredShows(DogCard& card, const Psi& dog) {
+    for (const int showID : ShowsOfDog(dog.ID)) {
+        CheckLine& line = ExistingLine(card.shows, u"V%1"_s.arg(showID));
+        line.subItems[kPrice].text = FeeText(FeeOf(dog, showID, kDogCardRules.fees));
         line.checked = true;
-        line.subItems[kPrice].text = PriceText(entered.price);
+    }
+}
+
+void FillEnteredShows(DogCard& card, const Psi& dog) {
+    for (CheckLine& line : card.shows) {
+        if (!line.checked)
+            continue;
         line.subItems[kClosing].text = ClosingText(dog.PrvniUzaverka) + u". uzávěrka"_s;
         line.subItems[kFirstDog].text = YesNo(dog.PrvniPes);
     }
@@ -110,8 +122,7 @@ void FillOtherShows(DogCard& card, const Psi& dog) {
         CheckLine& line = ExistingLine(card.shows, u"V%1"_s.arg(showID));
         if (line.checked)
             continue;
-        const std::optional<Currency> fee = FeeOf(dog, showID, FeeClassRule::AsStored);
-        line.subItems[kPrice] = {WithMainCurrency(fee ? PlainAmount(*fee) : QString()),
+        line.subItems[kPrice] = {FeeText(FeeOf(dog, showID, FeeClassRule::AsStored)),
                                  kIdlePriceColour};
     }
 }
@@ -161,10 +172,12 @@ void FillNeighbours(DogCard& card, int ownerID) {
 }
 
 void FillMoney(DogCard& card, const Psi& dog) {
+    // What was paid and ticked stays on show where a fee that nobody has filled fails in the sums.
+    card.Uhrazeno = AmountText(PaidForDog(dog.ID));
+    TickEnteredShows(card, dog);
     const std::vector<Souteze> competitions = CompetitionsByName();
     const Account account = AccountOf(dog, kDogCardRules, competitions);
-    card.Uhrazeno = AmountText(account.paid);
-    FillEnteredShows(card, dog, account);
+    FillEnteredShows(card, dog);
     FillOtherShows(card, dog);
     AddCompetitionLines(card, competitions, account);
     card.Uzaverka = dog.PrvniUzaverka ? u"První"_s : u"Druhá"_s;

@@ -213,6 +213,18 @@ TEST_F(DogCardTest, AClassWithoutAFeeColumnFails) {
     EXPECT_THROW(Fill(3), StoreError);
 }
 
+TEST_F(DogCardTest, AFeeThatNobodyHasFilledFailsBelowTheTickOfItsShow) {
+    Run("INSERT INTO Vystavy (ID, Nazev) VALUES (1, 'Hlavní výstava')");
+    AddDog(3, "Alík");
+    Enter(3, 1);
+    Pay(3, 50);
+    EXPECT_THROW(Fill(3), StoreError);
+    EXPECT_EQ(Ticked(card.shows), u"V1"_s);
+    EXPECT_EQ(SubItem(u"V1"_s, 1), u" Kč"_s);
+    EXPECT_EQ(card.Uhrazeno, u" 50,00 Kč"_s);
+    EXPECT_EQ(card.Rozdil.text, QString());
+}
+
 TEST_F(DogCardTest, CompetitionsStandBehindTheShowsByNameAndCountWhenEntered) {
     AddShow(1, "Hlavní výstava", 300);
     Run("INSERT INTO Souteze (ID, Nazev, Cena) VALUES (1, 'Šampion', 1500000), "
