@@ -18,6 +18,11 @@ CommandToolBar::CommandToolBar(const QString& name, QWidget* parent) : QToolBar(
     Connect(qApp, &QApplication::focusChanged, this, &CommandToolBar::NoteFocus);
 }
 
+// The buttons go after it; one that has the keyboard then still tells that it leaves.
+CommandToolBar::~CommandToolBar() {
+    qApp->disconnect(this);
+}
+
 void CommandToolBar::actionEvent(QActionEvent* event) {
     QToolBar::actionEvent(event);
     auto* button = qobject_cast<QToolButton*>(widgetForAction(event->action()));

@@ -15,6 +15,7 @@ class CommandToolBar : public QToolBar {
     Q_OBJECT
   public:
     CommandToolBar(const QString& name, QWidget* parent);
+    ~CommandToolBar() override;
 
     /// Gives the keyboard back to what had it before the bar; nothing when the bar hasn't got it.
     void LeaveBar();

@@ -34,7 +34,7 @@ DatabasePointer OpenForWork(const QString& path) {
     LeaveFileAlone(database->getHandle()); // until it is found whole
     sqlite3_db_config(database->getHandle(), SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     database->exec("PRAGMA cell_size_check = ON");
-    database->exec("PRAGMA cache_size = -8000"); // kilobytes: a whole show stays in memory
+    database->exec("PRAGMA cache_size = -16000"); // kilobytes: a world show stays in memory whole
     return database;
 }
 

@@ -45,7 +45,7 @@ TEST(Termination, AFileThatMayNotGrowDoesNotEndTheProgram) {
     EXPECT_EXIT(
         {
             std::raise(SIGXFSZ);
-            std::exit(7);
+            std::_Exit(7);
         },
         ::testing::ExitedWithCode(7), "");
 }
