@@ -33,11 +33,11 @@ double Contrast(const QColor& one, const QColor& other) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor LegibleOn(const QColor& ground, const QColor& ink) {
+QColor LegibleOn(const QColor& ground, const QColor& ink, double contrast) {
     const QColor black(Qt::black), white(Qt::white);
     const QColor& end = Contrast(ground, black) > Contrast(ground, white) ? black : white;
     for (int step = 0; step < kSteps; ++step)
-        if (const QColor mixed = Mixed(ink, end, step); Contrast(ground, mixed) >= kLegibleContrast)
+        if (const QColor mixed = Mixed(ink, end, step); Contrast(ground, mixed) >= contrast)
             return mixed;
     return end;
 }

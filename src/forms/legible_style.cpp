@@ -2,6 +2,7 @@
 
 #include "forms/legible_colour.h"
 
+#include <QPainter>
 #include <QStyleOption>
 #include <optional>
 
@@ -41,6 +42,33 @@ QColor BarFor(const QColor& text, QColor bar) {
     return bar;
 }
 
+/// Stands out from the window and from what is raised in it, pages and buttons.
+QColor OutlineColour(const QPalette& palette) {
+    constexpr int kRaised = 150;
+    const QColor window = palette.color(QPalette::Window);
+    const QColor raised = palette.color(QPalette::Button).lighter(kRaised);
+    return LegibleOn(window, LegibleOn(raised, window.darker(140), kOutlineContrast),
+                     kOutlineContrast);
+}
+
+/// Draws what `draw` draws along the edge of the option's place. What has the keyboard has the
+/// desktop's own mark of it.
+template<class Draw> void Outline(QPainter& painter, const QStyleOption& option, const Draw& draw) {
+    if (!(option.state & QStyle::State_Enabled) || (option.state & QStyle::State_HasFocus))
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(OutlineColour(option.palette));
+    draw(painter, QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
+void DrawField(QPainter& painter, const QRectF& box) {
+    constexpr double kCorner = 2;
+    painter.drawRoundedRect(box, kCorner, kCorner);
+}
+
 } // namespace
 
 void LegibleStyle::polish(QPalette& palette) {
@@ -49,6 +77,25 @@ void LegibleStyle::polish(QPalette& palette) {
         palette.setColor(group, QPalette::Highlight,
                          BarFor(palette.color(group, QPalette::HighlightedText),
                                 palette.color(group, QPalette::Highlight)));
+}
+
+void LegibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_IndicatorCheckBox)
+        Outline(*painter, *option, [](QPainter& p, const QRectF& box) { p.drawRect(box); });
+    else if (element == PE_IndicatorRadioButton)
+        Outline(*painter, *option, [](QPainter& p, const QRectF& box) { p.drawEllipse(box); });
+    else if (element == PE_FrameLineEdit)
+        Outline(*painter, *option, DrawField);
+}
+
+void LegibleStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if ((control == CC_ComboBox || control == CC_SpinBox) &&
+        option->rect.size() == (widget ? widget->size() : QSize()))
+        Outline(*painter, *option, DrawField);
 }
 
 void LegibleStyle::drawControl(ControlElement element, const QStyleOption* option,

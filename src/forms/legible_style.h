@@ -1,5 +1,6 @@
 #pragma once
-// Draws texts so that they can be read, whatever colour they are told to have.
+// Draws texts so that they can be read, whatever colour they are told to have, and boxes so that
+// they can be seen.
 
 #include <QProxyStyle>
 
@@ -7,6 +8,7 @@ namespace lorvo {
 
 /// The desktop's style, with the colours of texts in lists, trees and labels darkened or lightened
 /// where they stand too near to their ground. What a text is told stays as it is for whoever asks.
+/// Empty boxes, ticks and their like have outlines that stand out, in a dark desktop too.
 class LegibleStyle : public QProxyStyle {
     Q_OBJECT
   public:
@@ -16,6 +18,10 @@ class LegibleStyle : public QProxyStyle {
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
 
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,

@@ -5,12 +5,23 @@
 
 namespace lorvo {
 
-namespace {
+WrappedLabel::WrappedLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+}
+
+QString WrappedLabel::Breakable(int) const {
+    return text();
+}
+
+bool WrappedLabel::BreaksItself(int width) const {
+    return width > 0 && (minimumSizeHint().width() > width || Breakable(width) != text());
+}
 
 /// The text with a line break wherever its place ends.
-QString BrokenText(const QLabel& label, int width) {
-    const QString text = label.text();
-    QTextLayout layout(text, label.font());
+QString WrappedLabel::Broken(int width) const {
+    const QString whole = Breakable(width);
+    QTextLayout layout(whole, font());
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
@@ -20,36 +31,25 @@ QString BrokenText(const QLabel& label, int width) {
         line.setLineWidth(width);
         if (line.textStart() > 0)
             broken += u'\n';
-        broken += QStringView(text).mid(line.textStart(), line.textLength());
+        broken += QStringView(whole).mid(line.textStart(), line.textLength());
     }
     layout.endLayout();
     return broken;
 }
 
-} // namespace
-
-WrappedLabel::WrappedLabel(QWidget* parent) : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
-    setWordWrap(true);
-}
-
-bool WrappedLabel::HasWordWiderThan(int width) const {
-    return width > 0 && minimumSizeHint().width() > width;
-}
-
 int WrappedLabel::heightForWidth(int width) const {
-    if (!HasWordWiderThan(width))
+    if (!BreaksItself(width))
         return QLabel::heightForWidth(width);
-    const auto lines = static_cast<int>(BrokenText(*this, width).count(u'\n')) + 1;
+    const auto lines = static_cast<int>(Broken(width).count(u'\n')) + 1;
     return lines * fontMetrics().lineSpacing();
 }
 
 void WrappedLabel::paintEvent(QPaintEvent* event) {
-    if (!HasWordWiderThan(width()))
+    if (!BreaksItself(width()))
         return QLabel::paintEvent(event);
     QStylePainter painter(this);
     painter.drawItemText(rect(), static_cast<int>(alignment()), palette(), isEnabled(),
-                         BrokenText(*this, width()), foregroundRole());
+                         Broken(width()), foregroundRole());
 }
 
 } // namespace lorvo

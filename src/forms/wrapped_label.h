@@ -6,7 +6,7 @@
 namespace lorvo {
 
 /// A label of plain text that breaks between words, and within a word that is wider than the place,
-/// so that every letter of it is seen.
+/// so that every letter of it is seen. The text itself stays as it is.
 class WrappedLabel : public QLabel {
     Q_OBJECT
   public:
@@ -17,8 +17,12 @@ class WrappedLabel : public QLabel {
   protected:
     void paintEvent(QPaintEvent* event) override;
 
+    /// The text with no-break spaces where it mustn't be broken in a place of that width.
+    virtual QString Breakable(int width) const;
+
   private:
-    bool HasWordWiderThan(int width) const;
+    bool BreaksItself(int width) const;
+    QString Broken(int width) const;
 };
 
 } // namespace lorvo

@@ -50,6 +50,7 @@ void AboutPanel::LayOut() {
     large.setBold(true);
     lbl_About->setFont(large);
     auto* lines = new QVBoxLayout(this);
+    Label9->setWordWrap(true);
     for (QWidget* line : std::initializer_list<QWidget*>{lbl_About, lbl_Ver, lbl_copyright})
         lines->addWidget(line);
     lines->addSpacing(fontMetrics().height());

@@ -86,7 +86,8 @@ void fm_main::MakeSplitter() {
     vbuSplit->setChildrenCollapsible(false);
     vbuSplit->setStretchFactor(0, 0);
     vbuSplit->setStretchFactor(1, 1);
-    PlaceSplitter(*vbuSplit, kDesignedTreeWidth);
+    // On a small screen tree and panels share what there is.
+    PlaceSplitter(*vbuSplit, kDesignedTreeWidth * width() / kDesignedSize.width());
     setCentralWidget(vbuSplit);
     tvwMain->setFocus();
     Connect(tvwMain, &MainTree::NodeClick, cmdBar, &MainCommandBar::NodeClicked);

@@ -5,21 +5,16 @@
 #include "forms/report_list.h"
 #include "forms/wrapped_label.h"
 #include "mainwindow/elided_link.h"
+#include "mainwindow/pairs_layout.h"
 
 #include <QApplication>
 #include <algorithm>
-#include <memory>
 
 namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Blank columns between the pairs of a grid.
-constexpr int kPairGap = 24;
-/// Columns of a pair: caption, value, gap.
-constexpr int kColumns = 3;
 
 QFont Bold(QFont font) {
     font.setBold(true);
@@ -97,35 +92,19 @@ void TakeGivenWidth(QLabel& label) {
     label.setSizePolicy(policy);
 }
 
-QLabel* ValueGrid::Caption(const QString& text) const {
-    auto* caption = new QLabel(text);
-    caption->setWordWrap(captionsWrap_ && text.contains(u' '));
-    return caption;
+ValueGrid::ValueGrid(int pairs, const QStringList& widestCaptions) {
+    std::vector<int> captions;
+    for (int pair = 0; pair < pairs; ++pair)
+        captions.push_back(QLabel(widestCaptions.value(pair)).sizeHint().width());
+    pairs_ = new PairsLayout(std::move(captions), LeastValueWidth());
 }
 
-ValueGrid::ValueGrid(int pairs, const QStringList& widestCaptions)
-    : grid_(new QGridLayout), nextRow_(static_cast<std::size_t>(pairs), 0),
-      captionsWrap_(!widestCaptions.isEmpty()) {
-    for (int pair = 0; pair < pairs; ++pair) {
-        const std::unique_ptr<QLabel> widest(Caption(widestCaptions.value(pair)));
-        grid_->setColumnMinimumWidth(pair * kColumns, widest->minimumSizeHint().width());
-        grid_->addItem(new QSpacerItem(widest->sizeHint().width(), 0, QSizePolicy::Preferred), 0,
-                       pair * kColumns);
-        grid_->setColumnMinimumWidth(pair * kColumns + 1, LeastValueWidth());
-        grid_->setColumnStretch(pair * kColumns + 1, 1);
-        if (pair + 1 < pairs)
-            grid_->setColumnMinimumWidth(pair * kColumns + 2, kPairGap);
-    }
-}
-
-void ValueGrid::Place(int pair, const QString& caption, QWidget* value, Qt::Alignment alignment) {
-    const int row = nextRow_[static_cast<std::size_t>(pair)]++;
-    grid_->addWidget(Caption(caption), row, pair * kColumns, Qt::AlignTop);
-    grid_->addWidget(value, row, pair * kColumns + 1, alignment);
+QLayout* ValueGrid::Layout() const {
+    return pairs_;
 }
 
 void ValueGrid::Add(int pair, const QString& caption, QWidget* value) {
-    Place(pair, caption, value, Qt::AlignTop);
+    pairs_->AddLine(pair, new QLabel(caption), value, Qt::AlignTop);
 }
 
 LinkLabel* ValueGrid::AddLink(int pair, const QString& caption) {
@@ -133,13 +112,12 @@ LinkLabel* ValueGrid::AddLink(int pair, const QString& caption) {
     link->setAccessibleName(caption);
     link->setFont(Bold(link->font()));
     TakeGivenWidth(*link);
-    Place(pair, caption, link, Qt::AlignTop | Qt::AlignLeft);
+    pairs_->AddLine(pair, new QLabel(caption), link, Qt::AlignTop | Qt::AlignLeft);
     return link;
 }
 
 void ValueGrid::AddRow(int pair, QLayout* row) {
-    const int position = nextRow_[static_cast<std::size_t>(pair)]++;
-    grid_->addLayout(row, position, pair * kColumns, 1, 2);
+    pairs_->AddAcross(pair, row);
 }
 
 QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name) {

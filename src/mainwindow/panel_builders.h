@@ -3,13 +3,15 @@
 
 #include "office/cards/card_line.h"
 
-#include <QGridLayout>
 #include <QLabel>
 #include <QStringList>
+
+class QLayout;
 
 namespace lorvo {
 
 class LinkLabel;
+class PairsLayout;
 class ReportList;
 
 /// The widest captions in the sections of the dog panel, whose columns stand in line.
@@ -22,12 +24,11 @@ void TakeGivenWidth(QLabel& label);
 /// A panel's heading; `text` is the panel's accessible name too.
 QLabel* PanelHeading(const QString& text, QWidget* panel);
 
-/// Pairs of caption and value, several pairs side by side, all captions and all values of a pair
-/// aligned. The values share what width the captions leave.
+/// Pairs of caption and value, several pairs side by side where there is room, all captions and all
+/// values of a pair aligned. The values share what width the captions leave.
 class ValueGrid {
   public:
-    /// The captions of a pair get at least the width of its caption in `widestCaptions`; where the
-    /// panel is too narrow for that, captions of several words are wrapped.
+    /// The captions of a pair get at least the width of its caption in `widestCaptions`.
     explicit ValueGrid(int pairs, const QStringList& widestCaptions = {});
 
     /// Puts the next pair below the one before it in column `pair`. A value without a name of its
@@ -46,15 +47,10 @@ class ValueGrid {
     void AddRow(int pair, QLayout* row);
 
     /// For a layout to take over; the grid must not be used after its layout is gone.
-    QGridLayout* Layout() const { return grid_; }
+    QLayout* Layout() const;
 
   private:
-    QLabel* Caption(const QString& text) const;
-    void Place(int pair, const QString& caption, QWidget* value, Qt::Alignment alignment);
-
-    QGridLayout* grid_;
-    std::vector<int> nextRow_;
-    bool captionsWrap_;
+    PairsLayout* pairs_;
 };
 
 /// Sets text and colour; without a colour the label has the window's own.

@@ -4,6 +4,7 @@
 #include "forms/controls.h"
 #include "support/recording_platform.h"
 
+#include <QImage>
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -56,6 +57,28 @@ TEST_F(AccessKeysTest, ACaptionLeadsToItsField) {
     const QChar key = AccessKeyOf(*window.findChild<QLabel*>());
     QTest::keyClick(&window, static_cast<Qt::Key>(key.unicode()), Qt::AltModifier);
     EXPECT_TRUE(name->hasFocus());
+}
+
+TEST_F(AccessKeysTest, TheMarkOfALetterMakesNoTextWider) {
+    auto& marked = *window.findChild<QLabel*>();
+    marked.setText(u"Telefon"_s);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(AccessKeyOf(marked), u'T');
+    QLabel plain(marked.text());
+    const QSize size = plain.sizeHint() + QSize(20, 0);
+    const auto endOfInk = [size](QLabel& label) {
+        QImage picture(size * 8, QImage::Format_RGB32);
+        picture.setDevicePixelRatio(8);
+        picture.fill(Qt::white);
+        label.resize(size);
+        label.render(&picture, {}, {}, QWidget::DrawChildren);
+        int end = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = end; x < picture.width(); ++x)
+                end = picture.pixelColor(x, y) != Qt::white ? x : end;
+        return end;
+    };
+    EXPECT_EQ(endOfInk(marked), endOfInk(plain));
 }
 
 TEST_F(AccessKeysTest, ACommandOfABarLeavesTheKeyboardWhereItIs) {

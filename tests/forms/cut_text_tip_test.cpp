@@ -30,5 +30,20 @@ TEST(CutTextTip, ACellThatIsTooNarrowShowsItsWholeTextUnderTheMouse) {
     EXPECT_EQ(TipOver(list, 0, 0), name);
 }
 
+// The one shown last fades away when there is none to show.
+TEST(CutTextTip, ACellWithRoomForItsTextShowsNone) {
+    ReportList list("lvwCells", {u"Jméno"_s, u"Město"_s}, nullptr);
+    list.SetRows({{u"P1"_s, {}, {{u"Alík"_s}, {u"Brno"_s}}}});
+    list.DrawColumn(0, 90);
+    list.resize(300, 100);
+    list.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    for (const int column : {0, 1}) {
+        QToolTip::showText(list.mapToGlobal(QPoint()), u"Xaver"_s);
+        TipOver(list, 0, column);
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); })) << column;
+    }
+}
+
 } // namespace
 } // namespace lorvo

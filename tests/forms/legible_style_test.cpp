@@ -4,8 +4,13 @@
 #include "forms/report_list.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
 #include <QTest>
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -41,6 +46,32 @@ TEST(LegibleStyle, APaleCellIsPaintedLegiblyAndKeepsItsToldColour) {
         FarthestFromWhite(*list.viewport(), list.visualRect(cell).adjusted(2, 2, -2, -2));
     EXPECT_GE(contrast, kLegibleContrast - 0.05);
     EXPECT_LT(contrast, 6) << "still a grey";
+}
+
+/// How far the outline stands from the window's ground in a dark desktop.
+template<class Box> double OutlineInTheDark() {
+    Box box;
+    QPalette dark(QColor(53, 53, 53), QColor(35, 35, 35));
+    dark.setColor(QPalette::Base, QColor(42, 42, 42));
+    box.setPalette(dark);
+    box.resize(60, 24);
+    QImage picture(box.size() * 3, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(3);
+    picture.fill(dark.color(QPalette::Window));
+    box.render(&picture);
+    double farthest = 1;
+    for (int x = 0; x < 20; ++x)
+        farthest = std::max(farthest, Contrast(picture.pixelColor(x, picture.height() / 2),
+                                               dark.color(QPalette::Window)));
+    return farthest;
+}
+
+TEST(LegibleStyle, EmptyBoxesStandOutInTheDark) {
+    EXPECT_GE(OutlineInTheDark<QCheckBox>(), kOutlineContrast - 0.05);
+    EXPECT_GE(OutlineInTheDark<QRadioButton>(), kOutlineContrast - 0.05);
+    EXPECT_GE(OutlineInTheDark<QLineEdit>(), kOutlineContrast - 0.05);
+    EXPECT_GE(OutlineInTheDark<QDateEdit>(), kOutlineContrast - 0.05);
+    EXPECT_GE(OutlineInTheDark<QComboBox>(), kOutlineContrast - 0.05);
 }
 
 TEST(LegibleStyle, SoIsALabel) {

@@ -2,10 +2,12 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/form_settings.h"
+#include "forms/report_list.h"
 #include "platform/failure_guard.h"
 #include "support/modal_driver.h"
 #include "support/recording_platform.h"
 
+#include <QHeaderView>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTest>
@@ -59,6 +61,38 @@ TEST_F(ScreenFitTest, ContentThatIsTooHighScrollsAboveTheButtons) {
             EXPECT_FALSE(last.visibleRegion().isEmpty());
         });
     }
+}
+
+TEST_F(ScreenFitTest, WhatGetsTheKeyboardComesInSightHoweverItGotIt) {
+    LongForm form(Form::Border::Fixed, 60);
+    Open(form, [](QWidget& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        for (const char* name : {"txtbox(59)", "txtbox(0)", "txtbox(30)"}) {
+            auto& box = test::Control<QLineEdit>(window, name);
+            EXPECT_TRUE(box.visibleRegion().isEmpty()) << name;
+            box.setFocus();
+            EXPECT_EQ(box.visibleRegion().boundingRect().size(), box.size()) << name;
+        }
+    });
+}
+
+TEST_F(ScreenFitTest, OfAListThatIsHigherThanItsPlaceTheBeginningComesInSightAndThenEachRow) {
+    LongForm form(Form::Border::Fixed, 20);
+    auto* list = new ReportList("lvwLong", {u"Jméno"_s}, &form);
+    list->setMinimumHeight(3000);
+    for (int row = 0; row < 100; ++row)
+        list->AddRow({QString::number(row), {}, {{u"Alík"_s}}});
+    static_cast<QVBoxLayout*>(form.layout())->insertWidget(20, list);
+    Open(form, [list](QWidget& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        list->setFocus();
+        EXPECT_FALSE(list->header()->viewport()->visibleRegion().isEmpty());
+        const QModelIndex last = list->model()->index(99, 0);
+        EXPECT_FALSE(list->viewport()->visibleRegion().contains(list->visualRect(last).center()));
+        for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End})
+            QTest::keyClick(list, key);
+        EXPECT_TRUE(list->viewport()->visibleRegion().contains(list->visualRect(last).center()));
+    });
 }
 
 TEST_F(ScreenFitTest, AWindowThatFitsStaysAsItWasDesigned) {

@@ -66,6 +66,10 @@ TEST_F(MainTreeTest, ShowsTheWholeTextOfACutNodeUnderTheMouse) {
     host.resize(220, 400);
     QCoreApplication::processEvents();
     EXPECT_EQ(tipOver(u"K1"_s), name);
+    host.resize(900, 400);
+    QCoreApplication::processEvents();
+    tipOver(u"K1"_s);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); })) << "nothing is cut";
 }
 
 TEST_F(MainTreeTest, FindsNoNodeRightOfItsText) {

@@ -15,13 +15,10 @@
 #include "support/desktop_look.h"
 #include "support/generated_show.h"
 #include "support/modal_driver.h"
-#include "support/spoken_cells.h"
 #include "support/window_keys.h"
+#include "support/window_look.h"
 #include "support/window_pixels.h"
-#include "support/window_walk.h"
 
-#include <QPushButton>
-#include <QTabWidget>
 #include <QTest>
 #include <algorithm>
 
@@ -102,55 +99,10 @@ class WalkOnAShow : public MainWindowTest {
         window_->SelectNode(node);
         window_->ShowNodeInfo(node);
     }
-    static void LookAt(QWidget& window, const QString& part, DesktopLook look) {
-        Settle();
-        test::CheckOnTheScreen(window);
-        test::WalkWindow(window);
-        test::CheckLegible(window);
-        test::CheckSpokenCells(window);
-        test::TakePicture(window, window.objectName() + part + u'-' + test::NameOf(look));
-    }
 
   private:
-    /// What a layout asks of the one around it comes a round of the event loop later.
-    static void Settle() {
-        for (int round = 0; round < 6; ++round)
-            QCoreApplication::processEvents();
-    }
-
     std::unique_ptr<test::WithDesktopLook> look_;
 };
-
-/// Whether the next page comes from wherever the keyboard is.
-void ExpectPagesByKeys(QWidget& window, QTabWidget& tabs) {
-    for (QWidget* field : tabs.currentWidget()->findChildren<QWidget*>())
-        if (field->isVisible() && field->isEnabled() && (field->focusPolicy() & Qt::TabFocus)) {
-            const int page = tabs.currentIndex();
-            field->setFocus();
-            QTest::keyClick(window.windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
-            EXPECT_NE(tabs.currentIndex(), page) << field->objectName().toStdString();
-            tabs.setCurrentIndex(page);
-        }
-}
-
-/// Looks at the window as it opens and at each of its further pages.
-void ForEachPage(QWidget& window, const std::function<void(const QString& page)>& look) {
-    look({});
-    auto* tabs = window.findChild<QTabWidget*>();
-    if (tabs)
-        ExpectPagesByKeys(window, *tabs);
-    for (int page = 1; tabs && page < tabs->count(); ++page) {
-        QTest::keyClick(window.windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
-        EXPECT_EQ(tabs->currentIndex(), page);
-        look(u"-%1"_s.arg(page + 1));
-        ExpectPagesByKeys(window, *tabs);
-    }
-    auto* forward = window.findChild<QPushButton*>(u"cmdFwd"_s);
-    for (int page = 1; forward && page < 5; ++page) {
-        forward->click();
-        look(u"-%1"_s.arg(page + 1));
-    }
-}
 
 class WindowWalk : public WalkOnAShow,
                    public ::testing::WithParamInterface<std::tuple<const char*, DesktopLook>> {
@@ -171,8 +123,7 @@ TEST_P(WindowWalk, OpensInOrderAndIsLeft) {
     Begin(Look(), Name());
     test::WhileOpen([this] { OpenNamed(Name(), search_); },
                     [this](QWidget& window) {
-                        ForEachPage(window,
-                                    [&](const QString& page) { LookAt(window, page, Look()); });
+                        test::LookAtEachPage(window, Look());
                         test::FillByKeys(window);
                         test::CheckOnTheScreen(window);
                         QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
@@ -229,7 +180,7 @@ TEST_P(PanelWalk, IsInOrder) {
     Begin(look);
     const QString node = QString::fromLatin1(key);
     Show(node);
-    LookAt(*window_, u'-' + QString(node).replace(u'|', u'-'), look);
+    test::LookAt(*window_, u'-' + QString(node).replace(u'|', u'-'), look);
 }
 
 INSTANTIATE_TEST_SUITE_P(Nodes, PanelWalk,

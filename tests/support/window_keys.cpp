@@ -57,6 +57,7 @@ void FillByKeys(QWidget& window) {
             << name.toStdString() << ": the keyboard is out of sight at "
             << at->objectName().toStdString();
         TypeInto(*at);
+        QCoreApplication::processEvents(); // a clerk's keys come one by one
         if (!window.isVisible())
             return;
         QTest::keyClick(window.windowHandle(), Qt::Key_Tab);

@@ -3,6 +3,7 @@
 #include "forms/legible_colour.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -60,6 +61,16 @@ double ContrastIn(const QImage& picture, const QRect& place) {
 class Inspection {
   public:
     explicit Inspection(QWidget& window) : window_(window), picture_(ZoomedPicture(window)) {}
+
+    /// At an edge that tells where a box or a tick is.
+    void LookAtOutline(const QWidget& widget, const QRect& place) const {
+        if (widget.hasFocus() || !widget.visibleRegion().contains(place & widget.rect()))
+            return;
+        EXPECT_GE(ContrastIn(picture_, {widget.mapTo(&window_, place.topLeft()), place.size()}),
+                  kOutlineContrast - 0.05)
+            << window_.objectName().toStdString() << ", " << widget.objectName().toStdString()
+            << ": its outline";
+    }
 
     void Look(const QWidget& widget, const QRect& place, const QString& text) const {
         const QRect seen = place & widget.visibleRegion().boundingRect();
@@ -128,6 +139,22 @@ QRect PlaceOf(const QWidget& widget) {
     return widget.rect().adjusted(frame, frame, -frame, -frame);
 }
 
+/// Where the outline of a box or a tick runs; empty for what has none.
+QRect PlaceOfOutline(const QWidget& widget) {
+    QStyleOptionButton option;
+    option.initFrom(&widget);
+    if (qobject_cast<const QCheckBox*>(&widget))
+        return widget.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &widget);
+    if (qobject_cast<const QRadioButton*>(&widget))
+        return widget.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, &widget);
+    const bool within = qobject_cast<const QComboBox*>(widget.parentWidget()) ||
+                        qobject_cast<const QAbstractSpinBox*>(widget.parentWidget());
+    const bool field = qobject_cast<const QLineEdit*>(&widget) ||
+                       qobject_cast<const QComboBox*>(&widget) ||
+                       qobject_cast<const QAbstractSpinBox*>(&widget);
+    return field && !within ? QRect(0, widget.height() / 4, kFrame, widget.height() / 2) : QRect();
+}
+
 /// Where a frame's heading stands.
 QRect PlaceOfTitle(const QGroupBox& frame) {
     QStyleOptionGroupBox option;
@@ -161,6 +188,8 @@ void CheckLegible(QWidget& window) {
         if (!widget->isVisible() || widget->window() != &window || !widget->isEnabled())
             continue;
         inspection.Look(*widget, PlaceOf(*widget), TextOf(*widget));
+        if (const QRect outline = PlaceOfOutline(*widget); !outline.isEmpty())
+            inspection.LookAtOutline(*widget, outline);
         if (const auto* view = qobject_cast<const QTreeView*>(widget); view && view->model())
             LookAtCells(inspection, *view);
         if (const auto* header = qobject_cast<const QHeaderView*>(widget))

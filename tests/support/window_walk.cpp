@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QHash>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -134,6 +135,25 @@ bool EndsInEllipsis(const QLabel& label) {
     return label.toolTip() == PlainToolTip(label.text());
 }
 
+/// How far the ink reaches in a label of that width.
+int EndOfInk(QLabel& label, int width) {
+    label.resize(width, label.height());
+    const QImage picture = label.grab().toImage();
+    for (int x = picture.width() - 1; x >= 0; --x)
+        for (int y = 0; y < picture.height(); ++y)
+            if (picture.pixel(x, y) != picture.pixel(picture.width() - 1, 0))
+                return x;
+    return -1;
+}
+
+/// Texts may be painted wider than they have been measured.
+void CheckInkFits(QLabel& label) {
+    const QSize size = label.size();
+    const int end = EndOfInk(label, size.width());
+    EXPECT_EQ(end, EndOfInk(label, size.width() + 10)) << Describe(label) << ": its ink is cut";
+    label.resize(size);
+}
+
 void CheckTextFits(const QWidget& widget) {
     const auto* label = qobject_cast<const QLabel*>(&widget);
     const auto* button = qobject_cast<const QAbstractButton*>(&widget);
@@ -150,6 +170,9 @@ void CheckTextFits(const QWidget& widget) {
     EXPECT_TRUE(widget.width() >= widget.sizeHint().width() || (label && EndsInEllipsis(*label)))
         << Describe(widget) << " is cut";
     EXPECT_GE(widget.height(), widget.minimumSizeHint().height()) << Describe(widget) << " is cut";
+    const bool leftAligned = label && (label->alignment() & Qt::AlignLeft);
+    if (leftAligned && label->frameShape() == QFrame::NoFrame && !EndsInEllipsis(*label))
+        CheckInkFits(const_cast<QLabel&>(*label));
 }
 
 } // namespace
