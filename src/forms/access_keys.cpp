@@ -70,11 +70,17 @@ QChar WishOf(const QWidget& control) {
     return control.property(kWishProperty).toChar();
 }
 
+/// A link without a field beside it may bear a name of the clerk's, in which an ampersand is one.
+bool MarksLetters(const QWidget& control) {
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    return !label || label->buddy();
+}
+
 /// Makes the letter that the text marks a wish, so that the toolkit gives the control none of its
 /// own, which would be slow for a button and could be another's.
 void TakeMark(QWidget& control) {
     const QString text = TextOf(control);
-    const QChar marked = MarkedKey(text);
+    const QChar marked = MarksLetters(control) ? MarkedKey(text) : QChar();
     if (marked.isNull())
         return;
     control.setProperty(kWishProperty, marked);

@@ -1,6 +1,7 @@
 #include "mainwindow/copy_keeper.h"
 
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 #include "office/copies/sweep_copy.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
@@ -62,7 +63,7 @@ void CopyKeeper::Ended(const CopyOutcome& outcome) {
 
 void CopyKeeper::Tell(const CopyOutcome& outcome) {
     setText(u"Kopie databáze se nepovedla"_s + AgeText(outcome));
-    setToolTip(outcome.failure.toHtmlEscaped());
+    setToolTip(PlainToolTip(outcome.failure));
     show();
 }
 

@@ -1,6 +1,7 @@
 #include "mainwindow/disk_notice.h"
 
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 #include "store/connection.h"
 
 #include <QStatusBar>
@@ -18,7 +19,7 @@ DiskNotice::DiskNotice(QStatusBar& bar) : QLabel(u"Data nelze načíst celá"_s,
 
 void DiskNotice::Refresh() {
     const QString failure = TakeSkippedDiskFailure();
-    setToolTip(failure.toHtmlEscaped());
+    setToolTip(PlainToolTip(failure));
     setVisible(!failure.isEmpty());
 }
 

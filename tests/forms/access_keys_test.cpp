@@ -140,6 +140,14 @@ TEST_F(AccessKeysTest, FollowTextsAndWhatIsShown) {
     EXPECT_EQ(AccessKeyOf(*other), u'S');
 }
 
+TEST_F(AccessKeysTest, ANameThatIsALinkKeepsItsAmpersand) {
+    auto* owner = new LinkLabel(u"Novák & syn"_s, &window);
+    window.layout()->addWidget(owner);
+    QCoreApplication::processEvents();
+    QTest::keyClick(&window, Qt::Key_A, Qt::AltModifier); // all texts have been looked at by then
+    EXPECT_EQ(owner->text(), u"Novák & syn"_s);
+}
+
 TEST_F(AccessKeysTest, WhatCannotBePressedIsNot) {
     int clicks = 0;
     QObject::connect(other, &QPushButton::clicked, other, [&clicks] { ++clicks; });
