@@ -68,8 +68,7 @@ class RoutinesTest : public ::testing::Test {
         return texts;
     }
 
-  private:
-    TempDatabase database_;
+    TempDatabase database;
 };
 
 } // namespace lorvo::test
