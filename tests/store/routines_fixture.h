@@ -44,6 +44,8 @@ class RoutinesTest : public ::testing::Test {
             texts.push_back(text.toStdString());
         return texts;
     }
+    /// Writes into the file what the program itself never would.
+    void Execute(const std::string& sql) { database_.Execute(sql); }
     static bool IsNull(const std::string& statement) {
         return ReadScalar(TheDataModule().rsrsQuery1, statement).IsNull();
     }

@@ -41,7 +41,7 @@ TEST_F(SoutezeTest, APriceThatIsNoNumberIsNone) {
     const int ID = InsertCompetition(Named("a"));
     InsertCompetition(Named("b"));
     for (const char* price : {"'zdarma'", "''", "NULL"}) {
-        database.Execute(std::string("UPDATE Souteze SET Cena = ") + price + " WHERE ID = 1");
+        Execute(std::string("UPDATE Souteze SET Cena = ") + price + " WHERE ID = 1");
         EXPECT_EQ(Competitions().size(), 2u);
         EXPECT_FALSE(CompetitionByID(ID).value().Cena) << price;
     }
