@@ -1,6 +1,7 @@
 #include "dogs/stored_texts_combo.h"
 
 #include "forms/controls.h"
+#include "forms/suggestions.h"
 #include "platform/failure_guard.h"
 
 #include <QAbstractItemView>
@@ -33,6 +34,7 @@ QComboBox* StoredTextsCombo(const QString& name, QWidget* parent) {
     QCompleter* completer = combo->completer();
     completer->setCompletionMode(QCompleter::PopupCompletion);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
+    PutSuggestionsIntoWindow(*completer);
     Connect(
         combo->lineEdit(), &QLineEdit::textEdited, completer,
         [completer](const QString& typed) { HideIdleOffer(*completer, typed); },

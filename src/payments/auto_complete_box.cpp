@@ -1,5 +1,6 @@
 #include "payments/auto_complete_box.h"
 
+#include "forms/suggestions.h"
 #include "platform/failure_guard.h"
 
 #include <QCompleter>
@@ -13,6 +14,7 @@ AutoCompleteBox::AutoCompleteBox(QWidget* parent)
     auto* offer = new QCompleter(suggestions_, this);
     offer->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(offer);
+    PutSuggestionsIntoWindow(*offer);
 }
 
 void AutoCompleteBox::ClearSuggestions() {

@@ -6,6 +6,7 @@
 #include "support/window_walk.h"
 
 #include <QAbstractItemModel>
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QDateEdit>
 #include <random>
@@ -277,6 +278,23 @@ TEST_F(PaymentEntryTest, EnterTakesTheSuggestion) {
         EXPECT_EQ(Account(window).text(), Text("222/0100"));
         EXPECT_TRUE(window.isVisible());
         EXPECT_FALSE(IsDefault(window));
+    });
+}
+
+TEST_F(PaymentEntryTest, AClickTakesASuggestionOfTheWindowsOwnList) {
+    AddPayment(alik, 1, koruna, {{"Ucet", Text("222/0100")}});
+    Open([](QWidget& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        Account(window).setFocus();
+        QTest::keyClicks(&Account(window), Text("22"));
+        auto* offer = qobject_cast<QAbstractItemView*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(offer);
+        ASSERT_TRUE(offer->parentWidget());
+        EXPECT_EQ(offer->parentWidget()->window(), &window);
+        QTest::mouseClick(offer->viewport(), Qt::LeftButton, {},
+                          offer->visualRect(offer->model()->index(0, 0)).center());
+        EXPECT_EQ(Account(window).text(), Text("222/0100"));
+        EXPECT_TRUE(window.isVisible());
     });
 }
 
