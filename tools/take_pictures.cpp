@@ -37,11 +37,11 @@ void Settle() {
     loop.exec();
 }
 
-/// Colours by a table of 256, which the windows hardly go beyond, make small files.
+/// As small as the format allows with every colour kept.
 void Save(QWidget& window, const QString& path) {
-    const QImage picture =
-        window.grab().toImage().convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
-    if (!picture.save(path))
+    constexpr int kSmallest = 0;
+    const QImage picture = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    if (!picture.save(path, "PNG", kSmallest))
         throw std::runtime_error("can't write " + path.toStdString());
     std::cout << path.toStdString() << '\n';
 }
@@ -68,9 +68,9 @@ class Pictures {
         for (const char* name :
              {"fm_Dog", "frmPlatba", "frmUhrady", "fm_Settings", "fm_Plemena", "fm_DogsList",
               "frmVystavovatele", "frmTiskKatalog", "frmTiskPozvanek", "fm_Souteze"})
-            TakeWindow(QString::fromLatin1(name));
+            TakeWindow(QString::fromLatin1(name), dog);
         TakeOwner();
-        Show(window_.ParentNode(u"P%1"_s.arg(dog.ID)), u"okno"_s);
+        Show(u"R%1"_s.arg(dog.PlemenoID), u"okno"_s);
     }
 
   private:
@@ -89,14 +89,14 @@ class Pictures {
         Settle();
         Save(window_, PathOf(u"majitel"_s));
     }
-    void TakeWindow(const QString& name) {
+    void TakeWindow(const QString& name, const Psi& dog) {
         QTimer::singleShot(0, &window_, [this, name] {
             Settle();
             QWidget* open = QApplication::activeModalWidget();
             Save(*open, PathOf(name));
             open->close();
         });
-        Open(name);
+        Open(name, name == u"fm_Dog" ? WindowInput(DogTask{false, dog.PlemenoID}) : WindowInput());
     }
 
     QString folder_;
