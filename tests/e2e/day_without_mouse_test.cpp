@@ -2,8 +2,11 @@
 
 #include "e2e/desk_fixture.h"
 #include "store/kruhy.h"
+#include "store/meny.h"
 #include "store/ostatni.h"
+#include "store/plemena.h"
 #include "store/psi.h"
+#include "store/psi_ve_vystavach.h"
 #include "store/uhrady.h"
 #include "store/vystavy.h"
 #include "support/document_parts.h"
@@ -28,6 +31,7 @@ class DayWithoutMouse : public DeskTest {
     void TakePayment();
     void NumberDogs();
     void PrintCatalogue();
+    void ExpectOnePayment();
 
     Clerk clerk;
 };
@@ -102,6 +106,19 @@ void DayWithoutMouse::PrintCatalogue() {
     clerk.Press(Qt::Key_Escape).Work();
 }
 
+/// Of the dog on show, with all that a payment holds.
+void DayWithoutMouse::ExpectOnePayment() {
+    ASSERT_EQ(CountPayments(), 1);
+    const std::vector<Uhrady> payments = PaymentsOfDog(Module().CurrentDogID);
+    ASSERT_EQ(payments.size(), 1u);
+    EXPECT_EQ(payments.front().Castka, Currency::FromUnits(1050));
+    EXPECT_EQ(payments.front().Kc, Currency::FromUnits(1050));
+    EXPECT_EQ(payments.front().Mena, MainCurrencies().front().ID);
+    ASSERT_TRUE(payments.front().Datum);
+    EXPECT_EQ(*payments.front().Datum, DateValue::FromCalendar(2027, 3, 1));
+    EXPECT_EQ(payments.front().Uhrada, 0) << "by transfer, as the window opens";
+}
+
 TEST_F(DayWithoutMouse, FromTheDeliveredDatabaseToThePrintedCatalogue) {
     Start();
     SettleDatesAndCurrency();
@@ -110,6 +127,8 @@ TEST_F(DayWithoutMouse, FromTheDeliveredDatabaseToThePrintedCatalogue) {
     SettleFees();
     EXPECT_EQ(ShowFees(Shows().front().ID)[4], Currency::FromUnits(600));
     AddRing();
+    ASSERT_EQ(Rings().size(), 1u);
+    EXPECT_EQ(Rings().front().Nazev, u"Kruh A"_s);
     PutBreedInRing();
     EnterDogOfNewOwner();
     EnterInShow();
@@ -118,6 +137,7 @@ TEST_F(DayWithoutMouse, FromTheDeliveredDatabaseToThePrintedCatalogue) {
     TakePayment();
     NumberDogs();
     PrintCatalogue();
+    ExpectOnePayment();
 
     ASSERT_EQ(recording.openedFiles.size(), 1);
     const QStringList catalogue = ParagraphsOf(recording.openedFiles.front());
@@ -127,6 +147,8 @@ TEST_F(DayWithoutMouse, FromTheDeliveredDatabaseToThePrintedCatalogue) {
     for (const Psi& dog : dogs) {
         EXPECT_GT(dog.Cislo.value_or(0), 0) << dog.Jmeno.toStdString();
         EXPECT_EQ(dog.MajitelID, dogs.front().MajitelID) << "one owner, chosen for the second dog";
+        EXPECT_EQ(BreedByID(dog.PlemenoID)->ID_Kruhu, Rings().front().ID);
+        EXPECT_EQ(ShowsOfDog(dog.ID), std::vector{Shows().front().ID});
     }
 }
 
