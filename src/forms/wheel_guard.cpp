@@ -20,11 +20,23 @@ const QWidget* BoxAround(const QWidget* widget) {
     return nullptr;
 }
 
+/// The toolkit gives a box the keyboard when the wheel turns over it, before any filter hears of
+/// it.
+void KeepKeyboardFromWheel(QWidget& widget) {
+    const bool box = qobject_cast<QComboBox*>(&widget) || qobject_cast<QAbstractSpinBox*>(&widget);
+    if (box && widget.focusPolicy() == Qt::WheelFocus)
+        widget.setFocusPolicy(Qt::StrongFocus);
+}
+
 } // namespace
 
 bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
     return GuardedAnswer(false, [&]() -> bool {
-        if (event->type() != QEvent::Wheel || !watched->isWidgetType())
+        if (!watched->isWidgetType())
+            return false;
+        if (event->type() == QEvent::Polish)
+            KeepKeyboardFromWheel(*static_cast<QWidget*>(watched));
+        if (event->type() != QEvent::Wheel)
             return false;
         const QWidget* box = BoxAround(static_cast<const QWidget*>(watched));
         const QWidget* focus = QApplication::focusWidget();

@@ -6,7 +6,7 @@
 namespace lorvo {
 
 /// As a filter on the application: the wheel over a combo box, date or number without the focus
-/// passes it by and scrolls what it lies in.
+/// passes it by, scrolls what it lies in, and leaves the keyboard where it is.
 class WheelGuard : public QObject {
   public:
     using QObject::QObject;

@@ -39,7 +39,8 @@ class WheelGuardTest : public testing::Test {
         const QPointF middle = widget.rect().center();
         QWheelEvent wheel(middle, widget.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&widget, &wheel);
+        QSpontaneKeyEvent::setSpontaneous(&wheel); // as from a real mouse
+        qApp->notify(&widget, &wheel);
         return wheel.isAccepted();
     }
 
@@ -60,6 +61,7 @@ TEST_F(WheelGuardTest, ABoxWithoutTheFocusKeepsItsValueAndPassesTheTurnOn) {
     EXPECT_EQ(combo_->currentIndex(), 1);
     EXPECT_EQ(number_->value(), 50);
     EXPECT_EQ(date_->date(), QDate(2024, 6, 5));
+    EXPECT_TRUE(other_->hasFocus());
 }
 
 TEST_F(WheelGuardTest, ABoxWithTheFocusFollowsTheWheel) {
