@@ -45,7 +45,7 @@ class RoutinesTest : public ::testing::Test {
         return texts;
     }
     /// Writes into the file what the program itself never would.
-    void Execute(const std::string& sql) { database_.Execute(sql); }
+    void Execute(const std::string& sql) { database.Execute(sql); }
     static bool IsNull(const std::string& statement) {
         return ReadScalar(TheDataModule().rsrsQuery1, statement).IsNull();
     }
