@@ -46,5 +46,62 @@ TEST_F(ManagerTest, ListsChecksAndCopiesAreCommands) {
     EXPECT_TRUE(RunCommand({u"pomoc"_s}).second.contains(u"vymazat-osoby"_s));
 }
 
+TEST_F(ManagerTest, EveryListIsACommand) {
+    RunCommand({u"prevzit"_s, Write(kEntries), Path(u"zbytek.csv"_s)});
+    TheDataModule().Conn1.Open(DatabasePath(platform.ProgramFolder()));
+    TheDataModule().rsPsi.Open("SELECT * FROM Psi");
+    TheDataModule().rsPsi.Set("Otec", u"Argo"_s);
+    TheDataModule().rsPsi.Set("Matka", u"Hera"_s);
+    TheDataModule().rsPsi.Update();
+    TheDataModule().Conn1.Close();
+    const std::pair<const char16_t*, int> lists[] = {{u"psi", 2},     {u"vystavovatele", 2},
+                                                     {u"platby", 0},  {u"rodice", 2},
+                                                     {u"plemena", 1}, {u"prihlasky", 2}};
+    for (const auto& [name, rows] : lists) {
+        const auto [code, text] =
+            RunCommand({u"seznam"_s, QString::fromUtf16(name), Path(u"seznam.csv"_s)});
+        EXPECT_EQ(code, 0);
+        EXPECT_TRUE(text.endsWith(u": %1\n"_s.arg(rows))) << text.toStdString();
+    }
+    EXPECT_EQ(RunCommand({u"seznam"_s, u"psi"_s, Path(u"psi.xlsx"_s)}).first, 0);
+    EXPECT_TRUE(Read(Path(u"psi.xlsx"_s)).startsWith("PK"));
+}
+
+TEST_F(ManagerTest, CopiesAreComparedAndPutBackByCommands) {
+    RunCommand({u"zaloha"_s});
+    const QString copy = RunCommand({u"zalohy"_s}).second.section(u';', 0, 0);
+    RunCommand({u"prevzit"_s, Write(kEntries), Path(u"zbytek.csv"_s)});
+    EXPECT_EQ(Figures().dogs, 2);
+    const auto [code, text] = RunCommand({u"porovnat"_s, copy, u"data.mdb"_s});
+    EXPECT_EQ(code, 0);
+    EXPECT_TRUE(text.contains(u"Psi: přibylo 2, ubylo 0, změnilo se 0."_s)) << text.toStdString();
+    EXPECT_EQ(RunCommand({u"vratit"_s, copy}), (std::pair{0, u"Vráceno: "_s + copy + u'\n'}));
+    EXPECT_EQ(Figures().dogs, 0);
+    platform.anyMessages = true;
+    EXPECT_EQ(RunCommand({u"porovnat"_s, u"žádná.mdb"_s, u"data.mdb"_s}).first, 1);
+    EXPECT_EQ(RunCommand({u"vratit"_s, u"žádná.mdb"_s}).first, 1);
+}
+
+TEST_F(ManagerTest, PeopleAreRemovedByACommand) {
+    RunCommand({u"prevzit"_s, Write(kEntries), Path(u"zbytek.csv"_s)});
+    const auto [code, text] = RunCommand({u"vymazat-osoby"_s});
+    EXPECT_EQ(code, 0);
+    EXPECT_FALSE(text.isEmpty());
+    TheDataModule().Conn1.Open(DatabasePath(platform.ProgramFolder()));
+    TheDataModule().rsMajitele.Open("SELECT * FROM Majitele WHERE Ulice <> ''");
+    EXPECT_EQ(TheDataModule().rsMajitele.RecordCount(), 0);
+    TheDataModule().Conn1.Close();
+}
+
+TEST_F(ManagerTest, ACommandThatFailsSaysSoByItsCode) {
+    QFile::remove(DatabasePath(platform.ProgramFolder()));
+    platform.anyMessages = true;
+    for (const QStringList& arguments :
+         {QStringList{u"zaloha"_s}, {u"kontrola"_s}, {u"seznam"_s, u"psi"_s, Path(u"x.csv"_s)},
+          {u"prevzit"_s, Write(kEntries), Path(u"zbytek.csv"_s)}, {u"vymazat-osoby"_s}})
+        EXPECT_EQ(RunCommand(arguments).first, 1) << arguments.front().toStdString();
+    EXPECT_FALSE(platform.messages.empty());
+}
+
 } // namespace
 } // namespace lorvo::test
