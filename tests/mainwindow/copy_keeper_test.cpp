@@ -61,7 +61,8 @@ TEST_F(CopyKeeperTest, OneThatFailsIsToldWithItsReason) {
     keeper.Begin();
     QTRY_VERIFY(IsTold());
     EXPECT_EQ(keeper.text(), u"Kopie databáze se nepovedla, žádná dobrá kopie není");
-    EXPECT_TRUE(keeper.toolTip().contains(u"Nejde založit složka")) << keeper.toolTip().toStdString();
+    EXPECT_TRUE(keeper.toolTip().contains(u"Nejde založit složka"))
+        << keeper.toolTip().toStdString();
 }
 
 TEST_F(CopyKeeperTest, SoIsOneBeforeASweepingCommand) {
@@ -100,7 +101,8 @@ TEST_F(CopyKeeperTest, ADamagedDatabaseEndsTheProgramAndNamesTheCopyToUse) {
         std::rethrow_exception(TakeFailure());
     } catch (const CorruptStoreError& damage) {
         const QString text = QString::fromUtf8(damage.what());
-        EXPECT_TRUE(text.contains(u"Nejnovější dobrá kopie je Zálohy/"_s + good)) << text.toStdString();
+        EXPECT_TRUE(text.contains(u"Nejnovější dobrá kopie je Zálohy/"_s + good))
+            << text.toStdString();
     }
     EXPECT_FALSE(IsTold());
 }
