@@ -4,13 +4,14 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(ConsoleMessagesTest, AScriptThatCantBeAskedRefuses) {
     ConsoleMessages messages;
     const auto answerTo = [&messages](MessageButtons buttons) {
-        return messages.Show(QStringLiteral("Zpráva"), MessageIcon::Question, buttons,
-                             QStringLiteral("Lorvo"));
+        return messages.Show(u"Zpráva"_s, MessageIcon::Question, buttons, u"Lorvo"_s);
     };
     ::testing::internal::CaptureStderr();
     EXPECT_EQ(answerTo(MessageButtons::Ok), MessageAnswer::Ok);

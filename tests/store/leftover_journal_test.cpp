@@ -2,6 +2,7 @@
 // they aren't.
 
 #include "platform/values/errors.h"
+#include "store/connection_internals.h"
 #include "store/damaged_dogs.h"
 #include "store/database_copy.h"
 #include "store/leftover_journal.h"
@@ -12,6 +13,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <fcntl.h>
 #include <map>
+#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -152,6 +154,34 @@ TEST_F(LeftoverJournalTest, AFileCutBesideItsLogIsRefusedUntouched) {
         QFile::resize(Path(), length);
         ExpectRefusedUntouched("není úplný");
     }
+}
+
+/// What lay there was deleted before the kill; nothing of it is of account.
+TEST_F(LeftoverJournalTest, FreePagesMayBeCutAway) {
+    TempDatabase::CopyTo(folder.path());
+    const qint64 empty = QFile(Path()).size();
+    KilledAfter([&] {
+        DataModule& module = *new DataModule;
+        module.Conn1.Open(Path());
+        EditRun run(module.Conn1);
+        module.rsPsi.Open("SELECT * FROM Psi");
+        for (int i = 0; i < 400; ++i) {
+            module.rsPsi.AddNew();
+            module.rsPsi.Set("Poznamka", QString(200, u'ž'));
+            module.rsPsi.Update();
+        }
+        run.Finish();
+        module.rsPsi.Open("DELETE * FROM Psi");
+        sqlite3_wal_checkpoint_v2(module.Conn1.Internals().Handle(), nullptr,
+                                  SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
+        module.rsKruhy.Open("SELECT * FROM Kruhy");
+        module.rsKruhy.AddNew();
+        module.rsKruhy.Update();
+    });
+    ASSERT_GT(QFile(Path()).size(), empty + 40 * 4096);
+    QFile::resize(Path(), QFile(Path()).size() - 8 * 4096);
+    Connection connection;
+    EXPECT_EQ(FailureOf([&] { connection.Open(Path()); }), "");
 }
 
 TEST_F(LeftoverJournalTest, ADamagedPageBesideALogIsRefusedUntouched) {
