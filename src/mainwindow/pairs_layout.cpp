@@ -68,8 +68,11 @@ const PairsLayout::Widths& PairsLayout::Measured() const {
 }
 
 PairsLayout::Widths PairsLayout::Measure() const {
-    Widths widths{leastCaptions_, std::vector<int>(leastCaptions_.size(), leastValue_),
-                  std::vector<int>(leastCaptions_.size(), 0), (Columns() - 1) * kColumnGap};
+    Widths widths{leastCaptions_,
+                  std::vector<int>(leastCaptions_.size(), leastValue_),
+                  std::vector<int>(leastCaptions_.size(), 0),
+                  {},
+                  (Columns() - 1) * kColumnGap};
     const auto raise = [](int& width, int least) {
         width = std::max(width, least);
     };
@@ -82,8 +85,10 @@ PairsLayout::Widths PairsLayout::Measure() const {
                   cell.item->minimumSize().width());
     }
     for (std::size_t column = 0; column < leastCaptions_.size(); ++column) {
-        raise(widths.least[column], widths.captions[column] + spacing() + widths.values[column]);
-        widths.wide += widths.least[column];
+        const int caption = widths.captions[column] + spacing();
+        raise(widths.least[column], caption + widths.values[column]);
+        widths.beside.push_back(std::max(widths.least[column], caption + leastValue_ * 3 / 2));
+        widths.wide += widths.beside[column];
     }
     return widths;
 }
@@ -128,7 +133,7 @@ std::vector<QRect> PairsLayout::ColumnsWithin(int width) const {
     int left = 0;
     int spare = width - widths.wide;
     for (std::size_t column = 0; column < leastCaptions_.size(); ++column) {
-        const int least = widths.least[column];
+        const int least = widths.beside[column];
         const int wish = widths.captions[column] + spacing() + value;
         const int extra = std::clamp(wish - least, 0, spare);
         columns.emplace_back(left, 0, least + extra, 0);

@@ -13,7 +13,8 @@ namespace lorvo {
 class PairsLayout : public QLayout {
     Q_OBJECT
   public:
-    /// A caption takes at least as much as its column's in `leastCaptions`, a value `leastValue`.
+    /// A caption takes at least as much as its column's in `leastCaptions`, a value `leastValue`,
+    /// or half as much again where columns stand side by side.
     PairsLayout(std::vector<int> leastCaptions, int leastValue);
     ~PairsLayout() override;
 
@@ -52,6 +53,7 @@ class PairsLayout : public QLayout {
         std::vector<int> captions;
         std::vector<int> values; ///< the least
         std::vector<int> least;  ///< of whole columns
+        std::vector<int> beside; ///< of columns that have another beside them
         int wide = 0;            ///< of all columns side by side
     };
     const Widths& Measured() const;
