@@ -20,6 +20,8 @@ struct ModuleValues {
     // another dog or owner.
     int CurrentDogID = 0;
     int CurrentOwner = 0;
+    /// Tree commands: the breed of the node that opened the dog editor last.
+    int CurrentBreedID = 0;
 
     QString MainCurrency;      ///< start-up, currencies: abbreviation behind every amount
     DateValue LastPaymentDate; ///< frmPlatba: what the next payment offers

@@ -5,7 +5,7 @@ namespace lorvo {
 
 struct DogTask {
     bool adding = false; ///< a new dog, otherwise the one selected in the tree
-    int breedID = 0;     ///< the breed that the dog is stored with
+    int breedID = 0;     ///< whose classes are offered; a new dog is stored with it
 };
 
 } // namespace lorvo

@@ -30,9 +30,9 @@ int SelectedDog() {
 
 void fm_Dog::Load() {
     classes_->NameClasses();
-    SetStoredTexts(*icStanice, DistinctKennels());
-    SetStoredTexts(*icOtec, DistinctFathers());
-    SetStoredTexts(*icMatka, DistinctMothers());
+    icStanice->SetTexts(DistinctKennels());
+    icOtec->SetTexts(DistinctFathers());
+    icMatka->SetTexts(DistinctMothers());
     owner_->LoadMajitele();
     if (!task_.adding) {
         setWindowTitle(u"Upravit psa"_s);

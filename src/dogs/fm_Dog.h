@@ -7,7 +7,6 @@
 
 #include <array>
 
-class QComboBox;
 class QDateEdit;
 class QLineEdit;
 class QPushButton;
@@ -17,6 +16,7 @@ namespace lorvo {
 
 class DogClassBox;
 class DogOwnerBox;
+class StoredTextsCombo;
 
 /// An edited dog is the tree's selected node. After OK the dog is selected there.
 class fm_Dog : public Form {
@@ -44,11 +44,11 @@ class fm_Dog : public Form {
 
     std::array<QLineEdit*, 4> txtbox{}; ///< the dog's boxes of the window's array
     std::array<QRadioButton*, 2> optGender{};
-    QComboBox* icStanice = nullptr;
+    StoredTextsCombo* icStanice = nullptr;
     QDateEdit* dtBorn = nullptr;
     DogClassBox* classes_ = nullptr;
-    QComboBox* icOtec = nullptr;
-    QComboBox* icMatka = nullptr;
+    StoredTextsCombo* icOtec = nullptr;
+    StoredTextsCombo* icMatka = nullptr;
     DogOwnerBox* owner_ = nullptr;
     QPushButton* cmd_OK = nullptr;
     QPushButton* cmdCancel = nullptr;

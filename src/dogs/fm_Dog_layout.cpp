@@ -72,15 +72,16 @@ QWidget* fm_Dog::MakeDogSide() {
     auto* grid = new QGridLayout(side);
     grid->setContentsMargins({});
     txtbox[0] = AddRow(*grid, u"&Jméno"_s, TextBox(0, side));
-    icStanice = AddRow(*grid, u"Chovatelská &stanice"_s, StoredTextsCombo(u"icStanice"_s, side));
+    icStanice =
+        AddRow(*grid, u"Chovatelská &stanice"_s, new StoredTextsCombo(u"icStanice"_s, side));
     grid->addWidget(new QLabel(u"Pohlaví"_s, side), grid->rowCount(), 0);
     grid->addWidget(MakeGenderRow(side), grid->rowCount() - 1, 1);
     dtBorn = AddRow(*grid, u"&Datum narození"_s, DatePicker(u"dtBorn"_s, side, YearWindow::Past));
     SetPickedDate(*dtBorn, ThePlatform().clock->Now().DateOnly());
     classes_ = new DogClassBox(ClassListOf(task_.breedID), side);
     grid->addWidget(classes_, grid->rowCount(), 0, 1, 2);
-    icOtec = AddRow(*grid, u"&Otec"_s, StoredTextsCombo(u"icOtec"_s, side));
-    icMatka = AddRow(*grid, u"&Matka"_s, StoredTextsCombo(u"icMatka"_s, side));
+    icOtec = AddRow(*grid, u"&Otec"_s, new StoredTextsCombo(u"icOtec"_s, side));
+    icMatka = AddRow(*grid, u"&Matka"_s, new StoredTextsCombo(u"icMatka"_s, side));
     txtbox[1] = AddRow(*grid, u"&Chovatel"_s, TextBox(1, side));
     txtbox[2] = AddRow(*grid, u"Zkr. PK a č. &záp."_s, TextBox(2, side));
     grid->setColumnStretch(1, 1);

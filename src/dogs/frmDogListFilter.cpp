@@ -54,19 +54,19 @@ QGroupBox* Frame(const char* name, const QString& caption, QWidget* parent) {
 // kept: filter-without-effect
 frmDogListFilter::frmDogListFilter(QWidget* parent)
     : Form("frmDogListFilter", u"Filtr"_s, Border::Sizable, parent),
-      tabFilter(Named(new QTabWidget(this), u"tabFilter"_s)) {
-    tabFilter->addTab(MakeDogPage(), u"Pes"_s);
-    tabFilter->addTab(MakeOwnerPage(), u"Majitel"_s);
+      XTab(Named(new QTabWidget(this), u"XTab"_s)) {
+    XTab->addTab(MakeDogPage(), u"Pes"_s);
+    XTab->addTab(MakeOwnerPage(), u"Majitel"_s);
     lvwTridy = AddListPage("lvwTridy", u"Třídy"_s, {u"Název"_s});
     lvwKruhy = AddListPage("lvwKruhy", u"Kruhy"_s, {u"Název"_s});
-    tabFilter->addTab(MakeBreedPage(), u"Plemena"_s);
+    XTab->addTab(MakeBreedPage(), u"Plemena"_s);
     lvwVystavy = AddListPage("lvwVystavy", u"Výstavy a soutěže"_s, {u"Název"_s});
     lvwOceneni = AddListPage("lvwOceneni", u"Ocenění"_s, {u"Název"_s});
 
     auto* cmd_OK = Named(new QPushButton(u"O&K"_s, this), u"cmd_OK"_s);
     auto* cmdCancel = Named(new QPushButton(u"Storno"_s, this), u"cmdCancel"_s);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(tabFilter);
+    column->addWidget(XTab);
     column->addLayout(ButtonRow({cmd_OK, cmdCancel}));
     resize(560, 420);
     txtJmeno->setFocus();
@@ -165,7 +165,7 @@ ReportList* frmDogListFilter::AddListPage(const char* name, const QString& capti
     auto* column = new QVBoxLayout(page);
     column->addWidget(label);
     column->addWidget(list);
-    tabFilter->addTab(page, caption);
+    XTab->addTab(page, caption);
     return list;
 }
 

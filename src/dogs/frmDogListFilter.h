@@ -39,7 +39,7 @@ class frmDogListFilter : public Form {
     void ShowBreedMenu();
     void CheckBreeds(bool checked, bool ownOnly);
 
-    QTabWidget* tabFilter;
+    QTabWidget* XTab;
     QLineEdit* txtJmeno;
     QLineEdit* txtMajitel;
     ReportList* lvwTridy;

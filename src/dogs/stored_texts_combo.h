@@ -1,17 +1,32 @@
 #pragma once
 // Combo boxes that offer what was entered before and take any text.
 
-#include <QString>
+#include <QComboBox>
 #include <vector>
 
-class QComboBox;
-class QWidget;
+class QCompleter;
+class QStringListModel;
 
 namespace lorvo {
 
-/// An empty one. What fits the typed letters, whatever their case, is offered below the box.
-QComboBox* StoredTextsCombo(const QString& name, QWidget* parent);
-/// Gives the box its list, the empty text left out; what stands in the box stays.
-void SetStoredTexts(QComboBox& combo, const std::vector<QString>& texts);
+/// What is typed stays as it is. The key Down offers the stored texts that begin with it, whatever
+/// their letter case; where there are none it steps through the list, as in any box.
+class StoredTextsCombo : public QComboBox {
+    Q_OBJECT
+  public:
+    StoredTextsCombo(const QString& name, QWidget* parent);
+
+    /// Gives the box its list, the empty text left out; what stands in the box stays.
+    void SetTexts(const std::vector<QString>& texts);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    bool Offer();
+
+    QStringListModel* texts_;
+    QCompleter* offer_;
+};
 
 } // namespace lorvo

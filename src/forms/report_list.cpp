@@ -10,7 +10,7 @@
 namespace lorvo {
 
 ReportList::ReportList(const char* name, const QStringList& headings, QWidget* parent)
-    : QTreeView(parent), model_(new ReportListModel(headings, this)) {
+    : LabelEditView(parent), model_(new ReportListModel(headings, this)) {
     setObjectName(QString::fromLatin1(name));
     setModel(model_);
     InstallEditing();

@@ -2,10 +2,11 @@
 // The list that all windows share: report style with columns, keys and tags, optional check boxes,
 // in-place editing of the first column, sorting by a clicked column.
 
+#include "forms/label_edit_view.h"
+
 #include <QColor>
 #include <QIcon>
 #include <QPersistentModelIndex>
-#include <QTreeView>
 #include <optional>
 #include <vector>
 
@@ -33,7 +34,7 @@ enum class HeaderPicture { None = 0, Descending = 1, Ascending = 2, Neutral = 3 
 class LabelEditDelegate;
 class ReportListModel;
 
-class ReportList : public QTreeView {
+class ReportList : public LabelEditView {
     Q_OBJECT
   public:
     ReportList(const char* name, const QStringList& headings, QWidget* parent);

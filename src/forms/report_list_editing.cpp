@@ -37,8 +37,8 @@ void ReportList::StartLabelEdit(int position) {
 bool ReportList::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     return GuardedAnswer(false, [&]() -> bool {
         // F2 renames the row wherever in it the keyboard stands.
-        return QTreeView::edit(trigger == EditKeyPressed ? index.siblingAtColumn(0) : index,
-                               trigger, event);
+        return LabelEditView::edit(trigger == EditKeyPressed ? index.siblingAtColumn(0) : index,
+                                   trigger, event);
     });
 }
 

@@ -72,13 +72,14 @@ const TreeNode* CardActions::TakeDogOnShow() {
     return node;
 }
 
+// kept: classes-of-the-last-breed
 void CardActions::EditDog() {
     const TreeNode* dog = TakeDogOnShow();
     if (!dog)
         return;
     // The editor works on the selected node, which the history may have left behind.
     tree_.SelectNode(dog);
-    Open(u"fm_Dog"_s, DogTask{false, panels_.Dog().PlemenoID});
+    Open(u"fm_Dog"_s, DogTask{false, Module().CurrentBreedID});
 }
 
 void CardActions::EditOwner() {

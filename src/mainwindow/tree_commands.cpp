@@ -1,6 +1,7 @@
 #include "mainwindow/tree_commands.h"
 
 #include "app/main_window_services.h"
+#include "app/module_values.h"
 #include "app/view_preferences.h"
 #include "mainwindow/main_tree.h"
 #include "mainwindow/tree_edits.h"
@@ -134,6 +135,7 @@ void TreeCommands::EditDog(const TreeNode* dog) {
 }
 
 void TreeCommands::OpenDogWindow(const DogTask& task) {
+    Module().CurrentBreedID = task.breedID;
     Open(u"fm_Dog"_s, task);
 }
 

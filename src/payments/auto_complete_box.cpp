@@ -3,11 +3,25 @@
 #include "forms/suggestions.h"
 #include "platform/failure_guard.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QFocusEvent>
 #include <QStringListModel>
 
 namespace lorvo {
+
+namespace {
+
+/// A list that offers nothing but what is typed already only lies in the way.
+void HideIdleOffer(QCompleter& offer, const QString& typed) {
+    const QAbstractItemModel& texts = *offer.completionModel();
+    for (int row = 0; row < texts.rowCount(); ++row)
+        if (texts.index(row, 0).data().toString() != typed)
+            return;
+    offer.popup()->hide();
+}
+
+} // namespace
 
 AutoCompleteBox::AutoCompleteBox(QWidget* parent)
     : QLineEdit(parent), suggestions_(new QStringListModel(this)) {
@@ -15,6 +29,10 @@ AutoCompleteBox::AutoCompleteBox(QWidget* parent)
     offer->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(offer);
     PutSuggestionsIntoWindow(*offer);
+    // The toolkit opens the list only after it has told of the letter.
+    Connect(
+        this, &QLineEdit::textEdited, offer,
+        [offer](const QString& typed) { HideIdleOffer(*offer, typed); }, Qt::QueuedConnection);
 }
 
 void AutoCompleteBox::ClearSuggestions() {

@@ -21,7 +21,7 @@ constexpr QStringView kJumpLetters = u"qwertzuioplkjhgfdsayxcvbnmůúěščřž�
 } // namespace
 
 BreedTree::BreedTree(const char* name, std::vector<BreedTreeModel::Column> columns, QWidget* parent)
-    : QTreeView(parent), model_(new BreedTreeModel(std::move(columns), this)),
+    : LabelEditView(parent), model_(new BreedTreeModel(std::move(columns), this)),
       delegate_(new LabelEditDelegate(*this)) {
     setObjectName(QString::fromLatin1(name));
     setModel(model_);

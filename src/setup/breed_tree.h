@@ -1,16 +1,16 @@
 #pragma once
 // The view of the breeds with columns and check boxes.
 
+#include "forms/label_edit_view.h"
 #include "setup/breed_tree_model.h"
 
 #include <QElapsedTimer>
-#include <QTreeView>
 
 namespace lorvo {
 
 class LabelEditDelegate;
 
-class BreedTree : public QTreeView {
+class BreedTree : public LabelEditView {
     Q_OBJECT
   public:
     BreedTree(const char* name, std::vector<BreedTreeModel::Column> columns, QWidget* parent);

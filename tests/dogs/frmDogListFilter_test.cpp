@@ -59,7 +59,7 @@ class frmDogListFilterTest : public DogListsTest {
 TEST_F(frmDogListFilterTest, EveryControlOfEachPageHasItsNameItsCaptionAndItsPlace) {
     Open([](QWidget& window) {
         EXPECT_EQ(window.windowTitle(), Text("Filtr"));
-        auto& pages = Control<QTabWidget>(window, "tabFilter");
+        auto& pages = Control<QTabWidget>(window, "XTab");
         for (int page = 0; page < pages.count(); ++page) {
             pages.setCurrentIndex(page);
             WalkWindow(window);
@@ -104,7 +104,7 @@ TEST_F(frmDogListFilterTest, ACaptionIsBlueWhileSomethingIsChosen) {
             Control<QLineEdit>(window, box).clear();
             EXPECT_EQ(LabelColour(window, box), QColor(Qt::black));
         }
-        Control<QTabWidget>(window, "tabFilter").setCurrentIndex(3);
+        Control<QTabWidget>(window, "XTab").setCurrentIndex(3);
         Tick(window, "lvwKruhy", 0);
         EXPECT_EQ(LabelColour(window, "lvwKruhy"), blue);
         Tick(window, "lvwKruhy", 0);

@@ -252,8 +252,19 @@ TEST_F(DogPanelTest, LinksActOnTheDogOnShowWhateverOtherWindowsLeftBehind) {
         EXPECT_EQ(Module().CurrentDogID, 3) << link;
         EXPECT_EQ(Module().CurrentOwner, 7) << link;
     }
+}
+
+// kept: classes-of-the-last-breed
+TEST_F(DogPanelTest, TheEditorGetsTheBreedThatItWasOpenedForFromTheTree) {
+    Offer({"fm_Dog"});
+    Start();
+    Show(u"P3"_s);
     Click("lblEdit");
-    EXPECT_EQ(dogTask.breedID, 12);
+    EXPECT_EQ(dogTask.breedID, 0);
+    Module().CurrentBreedID = kSpecialBreedID;
+    Click("lblEdit");
+    EXPECT_EQ(dogTask.breedID, kSpecialBreedID);
+    EXPECT_FALSE(dogTask.adding);
 }
 
 TEST_F(DogPanelTest, TheEditorGetsTheDogOnShowThoughAnotherNodeIsSelected) {

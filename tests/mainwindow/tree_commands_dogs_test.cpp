@@ -34,6 +34,7 @@ TEST_F(TreeCommandsDogsTest, AddsADogToTheBreedPointedAt) {
     EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
     EXPECT_TRUE(dogTask.adding);
     EXPECT_EQ(dogTask.breedID, 20);
+    EXPECT_EQ(Module().CurrentBreedID, 20);
     EXPECT_EQ(Scalar("SELECT Nazev FROM Vystavy"), u"Hlavní výstava"_s);
 }
 
@@ -125,6 +126,7 @@ TEST_F(TreeCommandsDogsTest, EditsADogOnADoubleClick) {
     EXPECT_EQ(opened, QStringList{u"fm_Dog"_s});
     EXPECT_FALSE(dogTask.adding);
     EXPECT_EQ(dogTask.breedID, 20);
+    EXPECT_EQ(Module().CurrentBreedID, 20);
     EXPECT_EQ(host.SelectedNode(), u"P3"_s);
 }
 

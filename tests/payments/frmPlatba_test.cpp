@@ -264,6 +264,21 @@ TEST_F(PaymentEntryTest, EnterStoresExceptInTheAccountBox) {
     EXPECT_EQ(LastPayment("Ucet"), "77/0300");
 }
 
+TEST_F(PaymentEntryTest, AnAccountTypedToItsEndLeavesNoListOpen) {
+    AddPayment(alik, 1, koruna, {{"Ucet", Text("222/0100")}});
+    AddPayment(alik, 1, koruna, {{"Ucet", Text("222/0100")}});
+    Open([](QWidget& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        Account(window).setFocus();
+        QTest::keyClicks(&Account(window), Text("222/010"));
+        EXPECT_TRUE(QApplication::activePopupWidget());
+        QTest::keyClicks(&Account(window), Text("0"));
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(QApplication::activePopupWidget());
+        Press(window, "cmdCancel");
+    });
+}
+
 TEST_F(PaymentEntryTest, EnterTakesTheSuggestion) {
     AddPayment(alik, 1, koruna, {{"Ucet", Text("222/0100")}});
     Open([](QWidget& window) {
