@@ -3,6 +3,8 @@
 #include "forms/controls.h"
 #include "support/recording_platform.h"
 
+#include <QApplication>
+#include <QCalendarWidget>
 #include <QClipboard>
 #include <QDialog>
 #include <QGuiApplication>
@@ -224,6 +226,17 @@ TEST_F(DateBoxTest, LeavesABoxThatNothingWasTypedInto) {
     Tab();
     EXPECT_TRUE(after_->hasFocus());
     EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(DateBoxTest, TheCalendarOpensOnWhatWasTyped) {
+    picker_->setFocus();
+    Type(u"5.6.24"_s);
+    QTest::mouseClick(picker_, Qt::LeftButton, {},
+                      QPoint(picker_->width() - 8, picker_->height() / 2));
+    QWidget* calendar = QApplication::activePopupWidget();
+    ASSERT_TRUE(calendar);
+    EXPECT_EQ(calendar->findChild<QCalendarWidget*>()->selectedDate(), QDate(2024, 6, 5));
+    calendar->close();
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "setup/setup_fixture.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -339,6 +340,17 @@ TEST_F(BreedRegisterTest, TheUnreachableFilterShowsUsedBreedsAlone) {
         EXPECT_FALSE(ResultOf(window).changed) << "loading clears it";
         Command(window, "PLEMENA:HIDEUNUSED");
         EXPECT_TRUE(Tree().Model().Find(orphan));
+    });
+}
+
+TEST_F(BreedRegisterTest, TheMenuOpensByItsKeyToo) {
+    const int pudl = AddBreed("Pudl", {{"Pouzivat", true}});
+    OpenRegister([&](QWidget& window) {
+        Select(pudl);
+        platform.ExpectMenu(10000 + Add("Kruhy", {{"Nazev", Text("Kruh A")}}));
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QCoreApplication::sendEvent(&Tree(), &event);
+        EXPECT_TRUE(ResultOf(window).changed);
     });
 }
 

@@ -234,6 +234,9 @@ TEST_F(DialectTest, RefusesWhatIsNoStatement) {
         "DROP TABLE Psi",
         "PRAGMA journal_mode",
         "SELECT * FROM sqlite_schema",
+        "SELECT Plemena.* FROM Psi",
+        "SELECT -Jmeno FROM Psi",
+        "SELECT * FROM Psi WHERE ID IN (SELECT Kc FROM Uhrady)",
     };
     for (const char* statement : statements)
         EXPECT_THROW(module.rsrsQuery1.Open(statement), StoreError) << statement;

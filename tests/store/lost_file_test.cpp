@@ -48,6 +48,15 @@ TEST_F(LostFileTest, WhatWasStoredIsSavedBesideTheFileThatCameInItsPlace) {
     EXPECT_FALSE(QFile::exists(Beside(u"data zachráněná (2).mdb"_s))) << "once is enough";
 }
 
+TEST_F(LostFileTest, AnEarlierSavedFileStays) {
+    QFile earlier(Saved());
+    ASSERT_TRUE(earlier.open(QIODevice::WriteOnly));
+    ReplaceFile();
+    const std::string failure = FailureOfEdit();
+    EXPECT_NE(failure.find("data zachráněná (2).mdb"), std::string::npos) << failure;
+    EXPECT_EQ(earlier.size(), 0);
+}
+
 TEST_F(LostFileTest, ARunDoesntBegin) {
     ReplaceFile();
     EXPECT_THROW(EditRun{module.Conn1}, DiskError);

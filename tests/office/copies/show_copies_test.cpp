@@ -3,6 +3,7 @@
 #include "office/copies/show_copies.h"
 
 #include "office/copies/background_copy.h"
+#include "platform/values/errors.h"
 #include "store/majitele.h"
 #include "store/routines_fixture.h"
 
@@ -151,6 +152,27 @@ TEST_F(ShowCopiesTest, DamageNamesTheNewestGoodCopy) {
     EXPECT_EQ(outcome.newestGood, u"data 2027-05-15 08.00.00.mdb"_s);
     EXPECT_EQ(outcome.daysOld, 3);
     EXPECT_EQ(Files().size(), 1);
+}
+
+TEST_F(ShowCopiesTest, ADamagedCopyIsInNobodysWay) {
+    AddOwner("Eva");
+    const QString older = Copy();
+    Damage(older);
+    AddOwner("Jan");
+    const QString newer = Copy();
+    EXPECT_EQ(Files().size(), 2);
+    QFile::remove(newer);
+    const std::vector<ShowCopy> copies = ListCopies(Folder(), false);
+    ASSERT_EQ(copies.size(), 1u);
+    EXPECT_FALSE(copies.front().fault.isEmpty());
+}
+
+TEST_F(ShowCopiesTest, DamageFoundAtTheStartNamesTheNewestGoodCopyToo) {
+    AddOwner("Eva");
+    Copy();
+    const CopyOutcome outcome = CopyAfterDamage(CorruptStoreError("poškozeno."), Folder(), now);
+    EXPECT_EQ(DamageText(outcome), u"poškozeno. Nejnovější dobrá kopie je Zálohy/data 2027-05-15 "
+                                   "08.00.00.mdb; vrátíte ji ve Správci dat."_s);
 }
 
 TEST_F(ShowCopiesTest, AClockSetBackMakesNoOldCopyTheNewest) {

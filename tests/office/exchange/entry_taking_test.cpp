@@ -4,11 +4,13 @@
 
 #include "office/exchange/csv_text.h"
 #include "office/exchange/entries_fixture.h"
+#include "office/exchange/entry_source.h"
 #include "office/exchange/office_lists.h"
 #include "office/exchange/people_removal.h"
 #include "office/exchange/sheet_files.h"
 #include "office/exchange/show_check.h"
 #include "office/exchange/text_encoding.h"
+#include "platform/values/errors.h"
 #include "show/show_generator.h"
 #include "store/psi_lists.h"
 #include "store/psi_ve_vystavach.h"
@@ -198,6 +200,23 @@ TEST_F(RoundTripTest, ASheetHoldsWhatTheTextHolds) {
     int taken = TakeEntries(Judged(rows), All, DateValue::FromCalendar(2027, 1, 1)).dogs;
     EXPECT_EQ(taken, 400);
     EXPECT_EQ(SheetBytes(table), SheetBytes(table)) << "equal tables give equal bytes";
+}
+
+TEST_F(RoundTripTest, ASheetThatIsNoneIsRefusedByName) {
+    for (const QString& name : {u"list.xlsx"_s, u"list.ods"_s}) {
+        QFile file(database_.Folder() + u'/' + name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("Jméno;Pohlaví\n");
+        file.close();
+        try {
+            const EntrySource source(file.fileName());
+            ADD_FAILURE() << "taken with rows: " << source.Rows().size();
+        } catch (const PlatformError& failure) {
+            EXPECT_NE(std::string(failure.what()).find(name.toStdString()), std::string::npos);
+        }
+        file.remove();
+        EXPECT_THROW(EntrySource(file.fileName()), PlatformError);
+    }
 }
 
 TEST_F(RoundTripTest, TotalsAreThoseOfTheRows) {

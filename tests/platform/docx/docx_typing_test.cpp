@@ -217,6 +217,25 @@ TEST_F(DocxTyping, APageBreakEndsItsParagraph) {
     EXPECT_EQ(ParagraphsOf(path), QStringList({u"a{page}"_s, u"b"_s}));
 }
 
+TEST_F(DocxTyping, OneSizeForTheWholeTextMakesItsLinesAlike) {
+    const QString path = desk.Document([](WordProcessor& word) {
+        word.SetFontSize(14);
+        word.TypeText(u"a"_s);
+        word.TypeParagraph();
+        word.SetFontSize(8);
+        word.TypeText(u"b"_s);
+        word.HomeKeyStory();
+        word.WholeStory();
+        word.SetFontSize(10);
+        word.HomeKeyStory();
+    });
+    const auto height = [&](int paragraph) {
+        return Setting(ParagraphStyle(path, paragraph), u"w:spacing"_s, u"line"_s);
+    };
+    EXPECT_FALSE(height(0).isEmpty());
+    EXPECT_EQ(height(0), height(1));
+}
+
 TEST_F(DocxTyping, RefusesToTypeAwayFromTheEnd) {
     const auto word = desk.processors.Create(u"Katalog"_s);
     word->TypeText(u"a"_s);
