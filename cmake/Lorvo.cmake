@@ -51,7 +51,7 @@ function(lorvo_walk target)
       add_test(NAME ${name}_others CONFIGURATIONS Walk
         COMMAND ${target} --gtest_filter=*dark:*light_large)
       set_tests_properties(${name} ${name}_others PROPERTIES
-        TIMEOUT 240
+        TIMEOUT 480
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen:configfile=${screens};QT_SCALE_FACTOR=${scale};LORVO_PICTURES=${PROJECT_BINARY_DIR}/pictures/${size}-${scale}")
     endforeach()
   endforeach()
