@@ -21,6 +21,10 @@ namespace {
 constexpr const char* kTag = "tag";
 /// A stop request is seen within this time, however long a percent of the run takes.
 constexpr qint64 kEventInterval = 50;
+/// A figure stands at least this long: a fifth of a second for a whole run, nothing for a long one.
+constexpr qint64 kFigureStands = 2;
+/// Fewer rows are not worth stopping.
+constexpr int kRowsToStop = 30;
 /// Leaves the caption room for its progress figure.
 constexpr int kMinimumWidth = 360;
 
@@ -145,8 +149,13 @@ void ExportWindow::ShowFailure(const QString& reason) {
 bool ExportWindow::Advance(int row, int rows) {
     const int percent = static_cast<int>(qint64(row) * 100 / rows);
     const bool newFigure = percent != shownPercent_;
-    if (newFigure)
+    if (newFigure) {
+        // A short run would be over before its figures were painted and its stop button heard.
+        const bool isFollowed = rows >= kRowsToStop && shownPercent_ >= 0;
+        while (isFollowed && !Preruseno && !sinceEvents_.hasExpired(kFigureStands))
+            platform_.ui->ProcessEvents();
         setWindowTitle(traits_.title + traits_.progressText + QString::number(percent) + u'%');
+    }
     shownPercent_ = percent;
     if (newFigure || sinceEvents_.hasExpired(kEventInterval)) {
         platform_.ui->ProcessEvents();

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace lorvo::test {
@@ -28,7 +29,7 @@ ExportTraits SampleTraits() {
     };
 }
 
-/// Types and fills five rows.
+/// Types and fills five rows, or as many as it is told.
 class frmSample : public ExportWindow {
   public:
     explicit frmSample(const ExportTraits& traits = SampleTraits())
@@ -44,6 +45,7 @@ class frmSample : public ExportWindow {
     using ExportWindow::cmdOK;
 
     std::function<void(int row)> onRow; ///< runs before the row's progress is shown
+    int rows = 5;
     int rowsDone = 0;
 
   protected:
@@ -56,10 +58,10 @@ class frmSample : public ExportWindow {
 
   private:
     void Walk(const std::function<void(int)>& take) {
-        for (int row = 1; row <= 5; ++row) {
+        for (int row = 1; row <= rows; ++row) {
             if (onRow)
                 onRow(row);
-            if (!Advance(row, 5))
+            if (!Advance(row, rows))
                 return;
             take(row);
             ++rowsDone;
@@ -156,6 +158,23 @@ TEST_F(ExportWindowFrame, AStopRequestLeavesTheRowsAndShowsWhatStands) {
     EXPECT_EQ(platform.shownDocuments, 1);
     window.ClickStart();
     EXPECT_EQ(platform.shownDocuments, 2) << "a stopped run is started again by one click";
+}
+
+/// A hand isn't as fast as a short run.
+TEST_F(ExportWindowFrame, AClickThatIsOnItsWayStopsAShortRun) {
+    frmSample window;
+    window.rows = 40;
+    window.show();
+    QTimer click;
+    click.setSingleShot(true);
+    QObject::connect(&click, &QTimer::timeout, [&] { window.ClickStart(); });
+    window.onRow = [&](int row) {
+        if (row == 1)
+            click.start(1);
+    };
+    window.ClickStart();
+    EXPECT_LT(window.rowsDone, 40);
+    EXPECT_EQ(platform.shownDocuments, 1);
 }
 
 TEST_F(ExportWindowFrame, AStopRequestMayLeaveTheCloseButtonAlone) {
