@@ -185,10 +185,11 @@ bool Clerk::IsAtRest() {
     const QWidget* at = Target();
     if (!at)
         return false;
-    // A menu is there once the window system has said so; keys before that would overtake it.
-    return at == QApplication::activePopupWidget()
-               ? at->windowHandle() == QGuiApplication::focusWindow()
-               : at->window() == WindowInFront();
+    // A menu or a window is there once the window system has said so; keys before that would
+    // overtake it, and an edit begun before that ends when the window below a menu comes back.
+    const QWidget* window = at->window();
+    return window->windowHandle() == QGuiApplication::focusWindow() &&
+           (at == QApplication::activePopupWidget() || window == WindowInFront());
 }
 
 // A step may wait in the loop of what it opens; the one after it goes on from there.
@@ -231,6 +232,7 @@ void Clerk::Work() {
     });
     watch.start(1);
     loop.exec();
+    QCoreApplication::processEvents(); // what the last key has put off, as an edit's end
 }
 
 } // namespace lorvo::test
