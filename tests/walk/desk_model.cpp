@@ -133,6 +133,10 @@ bool DeskModel::AnyNumbered() const {
                                [](const auto& dog) { return dog.second.number.value_or(0) > 0; });
 }
 
+bool DeskModel::OffersClassOf(int dog) const {
+    return dogs.at(dog).breed != kSpecialBreed || editorBreed == kSpecialBreed;
+}
+
 void DeskModel::Clear() {
     dogs.clear();
     rings.clear();

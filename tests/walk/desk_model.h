@@ -74,6 +74,9 @@ class DeskModel {
     /// The owner's dogs whose names stand next before and next behind a dog's; 0 for none.
     std::pair<int, int> Neighbours(int dog) const;
     bool AnyNumbered() const;
+    /// Whether the panel's link to the editor offers the dog's class: it offers those of the breed
+    /// that the tree opened the editor for last.
+    bool OffersClassOf(int dog) const;
     /// Nothing but what a clearing without ticks leaves.
     void Clear();
 
@@ -86,6 +89,7 @@ class DeskModel {
     PanelTexts panel;
     std::pair<int, int> neighboursOnShow; ///< as the panel found them when it was filled
     int currentDog = 0;                   ///< what the commands that mean no node act on
+    int editorBreed = 0;                  ///< which the tree opened the dog editor for last
 
     /// As the tree is rebuilt: nothing is selected, and a panel goes with its node.
     void LoadTree();

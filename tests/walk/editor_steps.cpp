@@ -95,7 +95,8 @@ QString EditDog(Desk& desk) {
         return {};
     const QString key = desk.model.onShow;
     DeskDog& dog = desk.model.dogs.at(IdOf(key));
-    const bool sure = !desk.OneIn(3);
+    const bool wanted = !desk.OneIn(3);
+    const bool sure = wanted && desk.model.OffersClassOf(IdOf(key));
     const QString digits = u"%1"_s.arg(desk.Random(1000), 3, 10, QLatin1Char('0'));
     WhileOpen([&] { desk.Click(u"lblEdit"_s); },
               [&](QWidget& window) {
@@ -104,7 +105,10 @@ QString EditDog(Desk& desk) {
                   for (int i = 0; i < 3; ++i)
                       QTest::keyClick(&name, Qt::Key_Backspace);
                   QTest::keyClicks(&name, digits);
-                  QTest::keyClick(&name, sure ? Qt::Key_Return : Qt::Key_Escape);
+                  if (wanted)
+                      QTest::keyClick(&name, Qt::Key_Return);
+                  if (!sure)
+                      QTest::keyClick(&name, Qt::Key_Escape);
               });
     desk.model.selected = key;
     if (sure) {

@@ -63,6 +63,7 @@ QString AddDog(Desk& desk) {
                   dog.owner = FillDog(desk, window, dog.name, dog.trida);
                   Press(window, sure ? "cmd_OK" : "cmdCancel");
               });
+    desk.model.editorBreed = dog.breed;
     if (sure) {
         dog.firstDog = desk.model.DogsOfOwner(dog.owner).empty();
         desk.model.dogs[++desk.model.lastDog] = dog;
