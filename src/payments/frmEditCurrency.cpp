@@ -46,9 +46,11 @@ void frmEditCurrency::BuildControls() {
     const QString rate = LiteralCaption(CurrencyRateCaption());
     const QString captions[] = {u"Název"_s, u"Zkratka"_s, rate};
     auto* form = new QFormLayout;
-    for (int i = 0; i < 3; ++i) {
-        txtEditCurr[i] = Named(new QLineEdit(this), ElementName("txtEditCurr", i));
-        form->addRow(CaptionFor(txtEditCurr[i], captions[i], this), txtEditCurr[i]);
+    int position = 0;
+    for (QLineEdit*& box : txtEditCurr) {
+        box = Named(new QLineEdit(this), ElementName("txtEditCurr", position));
+        form->addRow(CaptionFor(box, captions[position], this), box);
+        ++position;
     }
     txtEditCurr[kName]->setMinimumWidth(220);
     TellWhatFits(*txtEditCurr[kRate], IsNumeric, u"Kurs zapište jako číslo, například 25,50."_s);

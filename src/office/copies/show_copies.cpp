@@ -150,8 +150,8 @@ std::vector<ShowCopy> ListCopies(const QString& programFolder, bool checked) {
 
 std::optional<ShowCopy> NewestGoodCopy(const QString& programFolder, DateValue now) {
     std::vector<ShowCopy> copies = ListCopies(programFolder, true);
-    std::ranges::stable_partition(copies,
-                                  [now](const ShowCopy& copy) { return copy.moment <= now; });
+    std::stable_partition(copies.begin(), copies.end(),
+                          [now](const ShowCopy& copy) { return copy.moment <= now; });
     for (ShowCopy& copy : copies)
         if (copy.fault.isEmpty())
             return std::move(copy);

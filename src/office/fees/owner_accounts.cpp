@@ -10,9 +10,9 @@ OwnerAccounts::OwnerAccounts() : dogs_(DogFeeRows()) {
 
 AccountTotals OwnerAccounts::Of(int majitelID) const {
     AccountTotals totals;
-    for (const DogFeeRow& dog :
-         std::ranges::equal_range(dogs_, majitelID, {}, &DogFeeRow::MajitelID))
-        totals.Add(ledger_.Of(dog, kExhibitorRules));
+    for (auto dog = std::ranges::lower_bound(dogs_, majitelID, {}, &DogFeeRow::MajitelID);
+         dog != dogs_.end() && dog->MajitelID == majitelID; ++dog)
+        totals.Add(ledger_.Of(*dog, kExhibitorRules));
     return totals;
 }
 
