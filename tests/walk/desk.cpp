@@ -107,7 +107,12 @@ void Desk::ClickNode(const QString& key, Qt::MouseButton button) {
 }
 
 void Desk::ClickBesideTree(Qt::MouseButton button) {
-    QTest::mouseClick(Tree().viewport(), button, {}, QPoint(Tree().viewport()->width() - 3, 5));
+    const QAbstractItemView& tree = Tree();
+    QPoint place(tree.viewport()->width() - 3, 5);
+    // A long name may take the whole width of its row.
+    while (tree.indexAt(place).isValid() && place.y() < tree.viewport()->height())
+        place.ry() += 5;
+    QTest::mouseClick(tree.viewport(), button, {}, place);
 }
 
 void Desk::Choose(const QString& key, int entry) {
