@@ -3,6 +3,8 @@ add_library(lorvo_options INTERFACE)
 target_compile_options(lorvo_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion
   $<$<BOOL:${LORVO_WERROR}>:-Werror>
+  # GCC leaves the sign of an index out of -Wconversion.
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>
   # GCC 12 sees an overlap in every `"text" + std::string` that it inlines (its bug 105329).
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_compile_definitions(lorvo_options INTERFACE
