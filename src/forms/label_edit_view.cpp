@@ -34,8 +34,10 @@ class DeedWatch : public QObject {
 
     bool eventFilter(QObject*, QEvent* event) override {
         return GuardedAnswer(false, [&] {
-            if (then_ && IsDeed(*event))
+            if (then_ && IsDeed(*event)) {
                 std::exchange(then_, nullptr)();
+                deleteLater(); // it hears of every event
+            }
             return false;
         });
     }
