@@ -1,10 +1,14 @@
+#include "forms/box_hints.h"
 #include "forms/controls.h"
+#include "platform/failure_guard.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <algorithm>
 
 namespace lorvo {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,26 +27,35 @@ bool TypesNonDigit(const QKeyEvent& key) {
     return !text.isEmpty() && text[0].isPrint() && !IsCommand(key) && HasNonDigit(text);
 }
 
+bool TypesNonDigit(const QEvent& event) {
+    if (event.type() == QEvent::KeyPress)
+        return TypesNonDigit(static_cast<const QKeyEvent&>(event));
+    return event.type() == QEvent::InputMethod &&
+           HasNonDigit(static_cast<const QInputMethodEvent&>(event).commitString());
+}
+
 class DigitsOnly : public QObject {
   public:
-    using QObject::QObject;
+    explicit DigitsOnly(QLineEdit& box) : QObject(&box), box_(box) {}
 
     bool eventFilter(QObject*, QEvent* event) override {
-        switch (event->type()) {
-        case QEvent::KeyPress:
-            return TypesNonDigit(static_cast<QKeyEvent&>(*event));
-        case QEvent::InputMethod:
-            return HasNonDigit(static_cast<QInputMethodEvent&>(*event).commitString());
-        default:
-            return false;
-        }
+        return GuardedAnswer(false, [&]() -> bool {
+            if (!TypesNonDigit(*event))
+                return false;
+            // A sign lost in silence makes 150,50 a hundred times as much.
+            HintAt(box_, u"Píšou se sem jen číslice, bez desetinných míst."_s);
+            return true;
+        });
     }
+
+  private:
+    QLineEdit& box_;
 };
 
 } // namespace
 
 void SetNumberStyle(QLineEdit& box) {
-    box.installEventFilter(new DigitsOnly(&box));
+    box.installEventFilter(new DigitsOnly(box));
 }
 
 } // namespace lorvo

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
@@ -27,6 +28,19 @@ TEST(NumberStyleTest, RefusesTypedNonDigitsAndTakesPastedText) {
     QGuiApplication::clipboard()->setText(u"abc"_s);
     QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(box.text(), u"12abc"_s);
+}
+
+TEST(NumberStyleTest, SaysThatADecimalSignWasNotTaken) {
+    QLineEdit box;
+    SetNumberStyle(box);
+    box.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+    QTest::keyClicks(&box, u"150"_s);
+    EXPECT_EQ(QToolTip::text(), QString());
+    QTest::keyClicks(&box, u",50"_s);
+    EXPECT_EQ(box.text(), u"15050"_s);
+    EXPECT_EQ(QToolTip::text(), u"Píšou se sem jen číslice, bez desetinných míst."_s);
+    QToolTip::hideText();
 }
 
 TEST(NumberStyleTest, RefusesNonDigitsOfAnInputMethod) {
