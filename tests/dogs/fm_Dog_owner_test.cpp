@@ -294,5 +294,20 @@ TEST_F(DogOwnerTest, ANameTypedOverAKnownOwnersIsAddedButTheDogStaysWithTheKnown
     EXPECT_EQ(Dog("MajitelID"), std::to_string(petr));
 }
 
+TEST_F(DogOwnerTest, ABlankMayDecideBetweenTwoNamesOfOneBeginning) {
+    for (const char* name : {"Ota Adam", "Otakar"})
+        Add("Majitele", {{"Jmeno", Text(name)}, {"Mesto", Text("Aš")}});
+    AddDog([&](QWidget& window) {
+        ChooseOwner(window, "Ota Adam  Aš");
+        auto& owners = Control<QComboBox>(window, "cmbOwners");
+        owners.setFocus();
+        QTest::keyClicks(&owners, Text("ota"));
+        EXPECT_EQ(owners.currentText(), Text("Otakar  Aš")) << "the next one, as in every list";
+        QTest::keyClick(&owners, Qt::Key_Space);
+        EXPECT_EQ(owners.currentText(), Text("Ota Adam  Aš"));
+        EXPECT_EQ(Box(window, 7).text(), Text("Ota Adam")) << "the boxes follow";
+    });
+}
+
 } // namespace
 } // namespace lorvo::test

@@ -239,5 +239,18 @@ TEST_F(DateBoxTest, TheCalendarOpensOnWhatWasTyped) {
     calendar->close();
 }
 
+TEST_F(DateBoxTest, WhatTheMouseSelectsOfAHalfTypedDateStaysSelected) {
+    Tab();
+    Type(u"5.6"_s);
+    auto* line = picker_->findChild<QLineEdit*>();
+    QTest::mouseDClick(line, Qt::LeftButton, {}, QPoint(8, line->height() / 2));
+    ASSERT_TRUE(line->hasSelectedText());
+    EXPECT_EQ(line->text(), u"5.6"_s);
+    const QString typedOver =
+        QString(line->text()).replace(line->selectionStart(), line->selectionLength(), u"7"_s);
+    Type(u"7"_s);
+    EXPECT_EQ(line->text(), typedOver);
+}
+
 } // namespace
 } // namespace lorvo

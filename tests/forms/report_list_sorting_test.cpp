@@ -112,5 +112,26 @@ TEST_F(SortingTest, AClickOnAHeadingSortsWhereAllowed) {
     EXPECT_EQ(Column(0), u"b a"_s);
 }
 
+TEST_F(SortingTest, TheSortedColumnStaysTheSameOneWhenColumnsComeAndGoBeforeIt) {
+    Fill({{"x", "1"}, {"y", "3"}});
+    SortListColumn(list, 1);
+    list.InsertColumn(0, u"Nový"_s);
+    ReportRow row;
+    row.cells = {{QString()}, {u"z"_s}, {u"2"_s}};
+    list.AddRow(row);
+    EXPECT_EQ(Column(2), u"3 2 1"_s);
+    list.RemoveColumn(0);
+    list.AddRow(RowOf("z", "4"));
+    EXPECT_EQ(Column(1), u"4 3 2 1"_s);
+}
+
+TEST_F(SortingTest, WithoutItsSortedColumnTheListTakesNewRowsAtTheEnd) {
+    Fill({{"x", "1"}, {"y", "3"}});
+    SortListColumn(list, 1);
+    list.RemoveColumn(1);
+    list.AddRow(RowOf("a", "9"));
+    EXPECT_EQ(Column(0), u"y x a"_s);
+}
+
 } // namespace
 } // namespace lorvo

@@ -217,5 +217,18 @@ TEST_F(ReportListTest, IconsStandInTheirCells) {
     EXPECT_FALSE(list.model()->index(1, 1).data(Qt::DecorationRole).isValid());
 }
 
+TEST(ReportListModelTest, AnswersNothingOnWhatIsNotThere) {
+    ReportList list("lvwTest", {u"Jméno"_s}, nullptr);
+    list.SetCheckBoxes(true);
+    list.AddRow(MakeRow("P1", {"Rex"}));
+    QAbstractItemModel& model = *list.model();
+    EXPECT_FALSE(model.data({}).isValid());
+    EXPECT_FALSE(model.setData({}, Qt::Checked, Qt::CheckStateRole));
+    EXPECT_FALSE(model.setData(model.index(0, 0), u"Max"_s, Qt::EditRole)) << "by the list alone";
+    EXPECT_FALSE(model.headerData(1, Qt::Horizontal).isValid());
+    EXPECT_FALSE(model.headerData(0, Qt::Vertical).isValid());
+    EXPECT_EQ(list.CellText(0, 0), u"Rex"_s);
+}
+
 } // namespace
 } // namespace lorvo

@@ -147,5 +147,24 @@ TEST_F(ScreenFitTest, F1OpensTheHelpWhereverTheKeyboardIs) {
     EXPECT_EQ(platform.openedFiles.size(), 1);
 }
 
+TEST_F(ScreenFitTest, RowsOfEveryKindKeepTheirPlacesInWhatScrolls) {
+    LongForm form(Form::Border::Sizable, 60);
+    auto* column = static_cast<QVBoxLayout*>(form.layout());
+    auto* pair = new QHBoxLayout;
+    auto* left = Named(new QLineEdit(&form), u"left"_s);
+    auto* right = Named(new QLineEdit(&form), u"right"_s);
+    pair->addWidget(left);
+    pair->addWidget(right);
+    column->insertLayout(0, pair);
+    column->insertSpacing(1, 40);
+    Open(form, [&](QWidget& window) {
+        const auto& first = test::Control<QLineEdit>(window, "txtbox(0)");
+        EXPECT_NE(test::Control<QScrollArea>(window, "scrContent").widget(), nullptr);
+        EXPECT_EQ(left->y(), right->y());
+        EXPECT_LT(left->geometry().right(), right->x());
+        EXPECT_GE(first.y(), left->geometry().bottom() + 40);
+    });
+}
+
 } // namespace
 } // namespace lorvo

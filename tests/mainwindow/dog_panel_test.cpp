@@ -359,6 +359,7 @@ TEST_F(DogPanelTest, SectionsCollapseToTheirHeaderAndOpenAgain) {
     EXPECT_GE(owner.height(), CollapsibleFrame::Pixels(owner, 1815));
     Click("fraPuvod.header");
     EXPECT_LE(origin.height(), CollapsibleFrame::Pixels(origin, 260) + 10);
+    EXPECT_EQ(origin.heightForWidth(origin.width()), origin.height());
     EXPECT_EQ(owner.y(), ownerTop - (open - origin.height()));
     EXPECT_EQ(Value(u"Plemeno:"_s), nullptr);
     Click("fraPuvod.header");

@@ -1,4 +1,6 @@
+#include "forms/report_list.h"
 #include "mainwindow/fm_main_fixture.h"
+#include "mainwindow/owner_section.h"
 #include "mainwindow/return_watch.h"
 #include "platform/values/errors.h"
 
@@ -178,6 +180,21 @@ TEST_F(MainWindowActivate, FocusLostByAWindowOfTheProgramIsNoReturn) {
     Q_EMIT qGuiApp->focusWindowChanged(window_->windowHandle());
     Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
     EXPECT_EQ(turns_, 0);
+}
+
+TEST_F(MainWindowActivate, TheOwnersPanelIsFilledAgainAfterHisStatement) {
+    AddSmallShow();
+    database_.Execute("INSERT INTO Majitele (ID, Jmeno, Prijmeni) VALUES (5, 'Jana', 'Malá')");
+    database_.Execute("UPDATE Psi SET MajitelID = 5 WHERE ID = 100");
+    Start();
+    window_->SelectNode(u"P100"_s);
+    window_->ShowNodeInfo(u"P100"_s);
+    Q_EMIT window_->findChild<OwnerSection*>()->OwnerClicked(Qt::LeftButton);
+    OpenAndClose([this] {
+        Module().PaymentsOwner = 5;
+        database_.Execute("UPDATE Psi SET Jmeno = 'Astor' WHERE ID = 100");
+    });
+    EXPECT_EQ(Control<ReportList>(u"lvwDogs"_s).CellText(0, 0), u"Astor"_s);
 }
 
 } // namespace

@@ -1,4 +1,6 @@
 #include "mainwindow/panels_test.h"
+#include "platform/failure_guard.h"
+#include "platform/values/errors.h"
 
 namespace lorvo {
 
@@ -97,6 +99,16 @@ TEST_F(OwnerNavigationTest, HighlightingMarksTheOwnersDogsAloneUntilItIsTakenAwa
     Click("picList");
     EXPECT_EQ(nodes.Get(u"P4"_s).background, kWhite);
     EXPECT_TRUE(tree->IsSelectionBarShown());
+}
+
+TEST_F(OwnerNavigationTest, ADogThatIsGoneFromTheDataHasNoMenu) {
+    AddThreeDogs();
+    Start();
+    Show(u"P3"_s);
+    Run("DELETE FROM Psi WHERE ID = 3");
+    Click("picList");
+    EXPECT_THROW(RethrowFailure(), StoreError);
+    EXPECT_TRUE(platform.LastMenuLines().isEmpty());
 }
 
 } // namespace

@@ -138,5 +138,14 @@ TEST_F(OwnerPanelTest, TotalsAreNeverCutHoweverNarrowTheWindow) {
     }
 }
 
+TEST_F(OwnerPanelTest, ReadAfreshItShowsWhatBecameOfTheDogs) {
+    Start();
+    ShowOwnerOf(u"P3"_s);
+    Run("UPDATE Psi SET Jmeno = 'Astor' WHERE ID = 4");
+    panels->Refresh();
+    EXPECT_TRUE(InSight("picMajitelInfo"));
+    EXPECT_TRUE(Get<ReportList>("lvwDogs").CellText(0, 0).startsWith(u"Astor"_s));
+}
+
 } // namespace
 } // namespace lorvo

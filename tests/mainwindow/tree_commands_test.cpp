@@ -92,6 +92,14 @@ TEST_F(TreeCommandsTest, KeepsTheNameWhenTheNewOneIsEmpty) {
     EXPECT_EQ(host.shown, QStringList{u"K3"_s});
 }
 
+TEST_F(TreeCommandsTest, ANameEditedInABreedsPlaceIsTheBreeds) {
+    host.SelectNode(u"R10"_s);
+    Tree().StartLabelEdit(&Node(u"R10"_s));
+    TypeName(u"Knírač"_s);
+    EXPECT_EQ(host.NodeText(u"R10"_s), u"Knírač"_s);
+    EXPECT_EQ(Scalar("SELECT Nazev FROM Plemena WHERE ID = 10"), u"Knírač"_s);
+}
+
 TEST_F(TreeCommandsTest, LetsTwoRingsBearOneName) {
     host.commands->AddRing();
     TypeName(u"Nový kruh"_s);

@@ -70,5 +70,20 @@ TEST_F(CopiesPageTest, BesideLorvoNothingIsPutBack) {
     EXPECT_EQ(Figures().owners, 2);
 }
 
+TEST_F(ManagerPageTest, APresentStateThatIsDamagedIsNamedAndTheCopiesAreOffered) {
+    MakeCopy(platform.ProgramFolder(), platform.now);
+    QFile data(DatabasePath(platform.ProgramFolder()));
+    ASSERT_TRUE(data.open(QIODevice::ReadWrite));
+    data.write(QByteArray(200, 'x'));
+    data.close();
+    Show(0);
+    ReportList& copies = List("lvwZalohy");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return copies.RowCount() == 2; }));
+    EXPECT_NE(copies.CellText(0, 5), u"v pořádku"_s);
+    EXPECT_FALSE(copies.CellText(0, 5).isEmpty());
+    copies.SelectRow(1);
+    EXPECT_TRUE(IsOffered("cmdPutBack"));
+}
+
 } // namespace
 } // namespace lorvo::test

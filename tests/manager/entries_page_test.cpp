@@ -182,5 +182,19 @@ TEST_F(EntriesPageTest, TheTemplateHasTheHeadingsThatAreKnown) {
     EXPECT_TRUE(Read(Path(u"vzor.csv"_s)).startsWith("\xEF\xBB\xBFJméno psa;"));
 }
 
+TEST_F(EntriesPageTest, WhenTheShowCanNotBeReadAnyMoreNoLineIsOffered) {
+    OpenEntries(kEntries);
+    ASSERT_EQ(List("lvwLines").RowCount(), 3);
+    QFile data(DatabasePath(platform.ProgramFolder()));
+    ASSERT_TRUE(data.open(QIODevice::ReadWrite));
+    data.write(QByteArray(200, 'x'));
+    data.close();
+    platform.anyMessages = true;
+    ChooseByKeys("cmbSeparator", Qt::Key_Down);
+    EXPECT_EQ(platform.messages.size(), 1u);
+    EXPECT_EQ(List("lvwLines").RowCount(), 0);
+    EXPECT_FALSE(IsOffered("cmdTake"));
+}
+
 } // namespace
 } // namespace lorvo::test

@@ -343,6 +343,21 @@ TEST_F(BreedRegisterTest, TheUnreachableFilterShowsUsedBreedsAlone) {
     });
 }
 
+TEST_F(BreedRegisterTest, GridLinesFollowThePreference) {
+    const int pudl = AddBreed("Pudl");
+    const auto lineBelow = [&] {
+        QRgb painted = 0;
+        OpenRegister([&](QWidget&) {
+            const QRect row = Tree().visualRect(Tree().Model().IndexOf(Node(pudl)));
+            painted = Tree().viewport()->grab().toImage().pixel(row.right() - 2, row.bottom());
+        });
+        return painted;
+    };
+    const QRgb without = lineBelow();
+    platform.settings[Text("Sys\\ShowGrid")] = Text("1");
+    EXPECT_NE(lineBelow(), without);
+}
+
 TEST_F(BreedRegisterTest, TheMenuOpensByItsKeyToo) {
     const int pudl = AddBreed("Pudl", {{"Pouzivat", true}});
     OpenRegister([&](QWidget& window) {

@@ -186,5 +186,13 @@ TEST_F(WizardTest, StornoAndEscapeAskAndTheFrameDoesNot) {
     });
 }
 
+TEST_F(WizardTest, EnterInABoxGoesToTheNextPage) {
+    Open<frmWizard>([&](QWidget& window) {
+        Forward(window, 2);
+        QTest::keyClick(&Box(window, "txtNazevVystavy"), Qt::Key_Return);
+        EXPECT_EQ(Page(window), 3);
+    });
+}
+
 } // namespace
 } // namespace lorvo::test

@@ -194,6 +194,24 @@ TEST_F(RecordSetTest, AnAmountThatIsATextInTheFileFailsOnlyWhereItIsRead) {
     EXPECT_THROW(module.rsVystavy.Field("PoplatkyIClass1D1"), StoreError);
 }
 
+TEST_F(RecordSetTest, ADayThatAnotherProgramLeftAsItsNumberIsRead) {
+    database.Execute("INSERT INTO Psi (Jmeno, DatumNar) VALUES ('Asta', 38000)");
+    module.rsPsi.Open("SELECT * FROM Psi");
+    EXPECT_EQ(module.rsPsi.Field("DatumNar"), Value(Value(38000).ToDate()));
+}
+
+TEST_F(RecordSetTest, ATextThatAnotherProgramLeftInANumbersPlaceIsNamed) {
+    database.Execute("INSERT INTO Psi (Jmeno, Trida) VALUES ('Asta', 'otevřená')");
+    try {
+        module.rsPsi.Open("SELECT * FROM Psi");
+        FAIL() << "read as a number";
+    } catch (const StoreError& error) {
+        EXPECT_NE(std::string(error.what()).find("pole Trida: \"otevřená\" není číslo"),
+                  std::string::npos)
+            << error.what();
+    }
+}
+
 TEST_F(RecordSetTest, NamesTheFieldThatAValueDoesNotFit) {
     struct Case {
         const char* field;

@@ -69,6 +69,24 @@ TEST_F(EntryTakingTest, LeavesWhatCantBeTakenInTheRestWithTheReason) {
     EXPECT_EQ(rest[1].last(), u"Třída „modrá“ u tohoto plemene není."_s);
 }
 
+TEST_F(EntryTakingTest, AnOwnerWhoIsThereAlreadyGetsTheDogAndNobodyIsAdded) {
+    const int eva =
+        Add("Majitele", {{"Jmeno", Text("Eva Nová")}, {"Mesto", Text("Brno")}, {"PSC", 60200}});
+    EXPECT_EQ(TakeEntries({Judge({})}, All, today).newOwners, 0);
+    EXPECT_EQ(Column("SELECT MajitelID FROM Psi"), Texts{std::to_string(eva)});
+    EXPECT_EQ(Column("SELECT COUNT(*) FROM Majitele"), Texts{"1"});
+}
+
+TEST_F(EntryTakingTest, AShortLineOfTheRestHasItsReasonBelowTheHeading) {
+    EntryLine line = Judge({{u"Třída"_s, u"modrá"_s}});
+    line.cells = {u"Alík"_s};
+    const auto rest = RestOfTable({u"Jméno psa"_s, u"Plemeno"_s}, {line}, All);
+    ASSERT_EQ(rest.size(), 2u);
+    EXPECT_EQ(rest[1].size(), rest[0].size());
+    EXPECT_EQ(rest[1][1], QString());
+    EXPECT_EQ(rest[1].last(), line.reasons.join(u' '));
+}
+
 TEST_F(EntryTakingTest, AFailureOnTheWayLeavesEverythingAsItWas) {
     std::vector<EntryLine> lines = Lines({{"A", "Eva"}, {"B", "Jan"}});
     lines.back().entry.dog.Trida = 3; // no fee stands there, so that the report can't be made
