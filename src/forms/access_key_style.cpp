@@ -30,22 +30,17 @@ QRect BelowLetter(const QPainter& painter, const QRect& place, const QString& te
 
 void AccessKeyStyle::drawControl(ControlElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
-    if (!widget || AccessKeyOf(*widget).isNull())
+    // The rows of lists and trees come here too, far more of them than buttons.
+    const bool bearsText = element == CE_PushButtonLabel || element == CE_CheckBoxLabel ||
+                           element == CE_RadioButtonLabel || element == CE_ToolButtonLabel;
+    if (!bearsText || !widget || AccessKeyOf(*widget).isNull())
         return QProxyStyle::drawControl(element, option, painter, widget);
-    switch (element) {
-    case CE_PushButtonLabel:
-    case CE_CheckBoxLabel:
-    case CE_RadioButtonLabel: {
-        const auto marked = Marked<QStyleOptionButton>(option, *widget);
-        return QProxyStyle::drawControl(element, &marked, painter, widget);
-    }
-    case CE_ToolButtonLabel: {
+    if (element == CE_ToolButtonLabel) {
         const auto marked = Marked<QStyleOptionToolButton>(option, *widget);
         return QProxyStyle::drawControl(element, &marked, painter, widget);
     }
-    default:
-        QProxyStyle::drawControl(element, option, painter, widget);
-    }
+    const auto marked = Marked<QStyleOptionButton>(option, *widget);
+    QProxyStyle::drawControl(element, &marked, painter, widget);
 }
 
 void AccessKeyStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,

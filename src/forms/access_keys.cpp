@@ -143,18 +143,25 @@ void AccessKeys::Refresh() {
     Give(controls, ChooseAccessKeys(texts));
 }
 
+// What keeps its letter is neither bound nor painted anew: with each node of the tree the links of
+// the panel bear other names, and the letters of the rest stay.
 void AccessKeys::Give(const QList<QWidget*>& controls, const std::vector<QChar>& keys) {
-    for (const QPointer<QShortcut>& shortcut : shortcuts_)
-        delete shortcut.data();
-    shortcuts_.clear();
+    Shortcuts before = std::exchange(shortcuts_, {});
     for (qsizetype i = 0; i < controls.size(); ++i) {
         QWidget& control = *controls[i];
         const QChar key = keys[static_cast<std::size_t>(i)];
+        const bool same = AccessKeyOf(control) == key;
+        if (QPointer<QShortcut> bound = same ? before.take(&control) : nullptr)
+            shortcuts_.insert(&control, bound);
+        else if (!key.isNull())
+            shortcuts_.insert(&control, Bind(control, key));
+        if (same)
+            continue;
         control.setProperty(kKeyProperty, key);
-        if (!key.isNull())
-            shortcuts_.push_back(Bind(control, key));
         control.update();
     }
+    for (const QPointer<QShortcut>& gone : before)
+        delete gone.data();
 }
 
 bool AccessKeys::eventFilter(QObject*, QEvent* event) {

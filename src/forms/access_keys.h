@@ -2,6 +2,7 @@
 // Letters that together with Alt press a button or lead to a field. They are underlined in the
 // window but are no part of the texts, which stay as they are for whoever reads them.
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -41,7 +42,9 @@ class AccessKeys : public QObject {
     QWidget& window_;
     bool refreshWaits_ = false;
     std::vector<Seen> seen_;
-    std::vector<QPointer<QShortcut>> shortcuts_; ///< each goes with its control
+    /// Each goes with its control.
+    using Shortcuts = QHash<const QWidget*, QPointer<QShortcut>>;
+    Shortcuts shortcuts_;
 };
 
 /// The letter that leads to the control, a null character for none.

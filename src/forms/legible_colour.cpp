@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <tuple>
 
 namespace lorvo {
 
@@ -26,6 +28,15 @@ QColor Mixed(const QColor& from, const QColor& to, int step) {
             part(from.blue(), to.blue())};
 }
 
+QColor Reckon(const QColor& ground, const QColor& ink, double contrast) {
+    const QColor black(Qt::black), white(Qt::white);
+    const QColor& end = Contrast(ground, black) > Contrast(ground, white) ? black : white;
+    for (int step = 0; step < kSteps; ++step)
+        if (const QColor mixed = Mixed(ink, end, step); Contrast(ground, mixed) >= contrast)
+            return mixed;
+    return end;
+}
+
 } // namespace
 
 double Contrast(const QColor& one, const QColor& other) {
@@ -34,12 +45,12 @@ double Contrast(const QColor& one, const QColor& other) {
 }
 
 QColor LegibleOn(const QColor& ground, const QColor& ink, double contrast) {
-    const QColor black(Qt::black), white(Qt::white);
-    const QColor& end = Contrast(ground, black) > Contrast(ground, white) ? black : white;
-    for (int step = 0; step < kSteps; ++step)
-        if (const QColor mixed = Mixed(ink, end, step); Contrast(ground, mixed) >= contrast)
-            return mixed;
-    return end;
+    // Lists paint few colours, and each of them in many cells.
+    static thread_local std::map<std::tuple<quint64, quint64, double>, QColor> reckoned;
+    QColor& legible = reckoned[{ground.rgba64(), ink.rgba64(), contrast}];
+    if (!legible.isValid())
+        legible = Reckon(ground, ink, contrast);
+    return legible;
 }
 
 } // namespace lorvo

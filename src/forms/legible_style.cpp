@@ -31,6 +31,22 @@ std::optional<QColor> GroundOf(QPalette::ColorRole role, const QPalette& palette
     }
 }
 
+/// Changes nothing, and so copies nothing, where the role can be read as it is.
+void MakeLegible(QPalette& palette, QPalette::ColorGroup group, QPalette::ColorRole role,
+                 const QColor& ground) {
+    const QColor ink = palette.color(group, role);
+    if (const QColor legible = LegibleOn(ground, ink); legible != ink)
+        palette.setColor(group, role, legible);
+}
+
+/// The palette of a row with texts that can be read.
+QPalette LegibleRow(const QStyleOptionViewItem& item) {
+    QPalette palette = item.palette;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+        MakeLegible(palette, group, QPalette::Text, GroundOf(item));
+    return palette;
+}
+
 /// The selection bar's colour, darkened where text couldn't be read on it or on the lighter one
 /// that it has under the mouse.
 QColor BarFor(const QColor& text, QColor bar) {
@@ -103,11 +119,11 @@ void LegibleStyle::drawControl(ControlElement element, const QStyleOption* optio
     const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
     if (element != CE_ItemViewItem || !item)
         return QProxyStyle::drawControl(element, option, painter, widget);
+    const QPalette palette = LegibleRow(*item);
+    if (palette.isCopyOf(item->palette))
+        return QProxyStyle::drawControl(element, option, painter, widget);
     QStyleOptionViewItem legible(*item);
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
-        legible.palette.setColor(
-            group, QPalette::Text,
-            LegibleOn(GroundOf(*item), item->palette.color(group, QPalette::Text)));
+    legible.palette = palette;
     QProxyStyle::drawControl(element, &legible, painter, widget);
 }
 
@@ -118,7 +134,7 @@ void LegibleStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
     if (!ground)
         return QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
     QPalette legible(palette);
-    legible.setColor(role, LegibleOn(*ground, palette.color(role)));
+    MakeLegible(legible, legible.currentColorGroup(), role, *ground);
     QProxyStyle::drawItemText(painter, rect, flags, legible, enabled, text, role);
 }
 

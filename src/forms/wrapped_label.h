@@ -2,16 +2,20 @@
 // Texts of users on as many lines as they need.
 
 #include <QLabel>
+#include <optional>
 
 namespace lorvo {
 
 /// A label of plain text that breaks between words, and within a word that is wider than the place,
-/// so that every letter of it is seen. The text itself stays as it is.
+/// so that every letter of it is seen. The text itself stays as it is. The label has no frame,
+/// margin or indent.
 class WrappedLabel : public QLabel {
     Q_OBJECT
   public:
     explicit WrappedLabel(QWidget* parent);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     int heightForWidth(int width) const override;
 
   protected:
@@ -21,8 +25,19 @@ class WrappedLabel : public QLabel {
     virtual QString Breakable(int width) const;
 
   private:
+    QSize OneLine() const;
+    bool Fits(int width) const { return OneLine().width() <= width; }
+    bool IsAtEase() const;
     bool BreaksItself(int width) const;
     QString Broken(int width) const;
+
+    /// What was measured last.
+    struct Line {
+        QString text;
+        QFont font;
+        QSize size;
+    };
+    mutable std::optional<Line> line_;
 };
 
 } // namespace lorvo

@@ -140,6 +140,47 @@ TEST_F(AccessKeysTest, FollowTextsAndWhatIsShown) {
     EXPECT_EQ(AccessKeyOf(*other), u'S');
 }
 
+class PaintCount : public QObject {
+  public:
+    explicit PaintCount(QWidget* widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+    int paints = 0;
+};
+
+TEST_F(AccessKeysTest, WhatKeepsItsLetterIsLeftAloneWhenOthersChange) {
+    const QPointer<QShortcut> bound = other->findChild<QShortcut*>();
+    ASSERT_TRUE(bound);
+    ASSERT_EQ(AccessKeyOf(*other), u'Z');
+    PaintCount count(other);
+    add->setText(u"Start"_s);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(AccessKeyOf(*add), u'S');
+    EXPECT_TRUE(bound);
+    EXPECT_EQ(count.paints, 0);
+    add->setText(u"Z"_s); // has no other letter, so that the one above gives way
+    QCoreApplication::processEvents();
+    EXPECT_EQ(AccessKeyOf(*add), u'Z');
+    EXPECT_NE(AccessKeyOf(*other), u'Z');
+    EXPECT_FALSE(bound);
+    EXPECT_GT(count.paints, 0);
+}
+
+TEST_F(AccessKeysTest, WhatComesBackIsBoundAgain) {
+    const auto key = static_cast<Qt::Key>(AccessKeyOf(*add).unicode());
+    add->hide();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(add->findChild<QShortcut*>());
+    add->show();
+    QCoreApplication::processEvents();
+    int clicks = 0;
+    QObject::connect(add, &QPushButton::clicked, add, [&clicks] { ++clicks; });
+    QTest::keyClick(&window, key, Qt::AltModifier);
+    EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(AccessKeysTest, ANameThatIsALinkKeepsItsAmpersand) {
     auto* owner = new LinkLabel(u"Novák & syn"_s, &window);
     window.layout()->addWidget(owner);

@@ -30,6 +30,15 @@ TEST(LegibleColour, APaleInkIsDarkenedJustEnough) {
     EXPECT_GT(red.red(), 200) << "it stays a red";
 }
 
+TEST(LegibleColour, AnOutlineNeedsLessThanTextOfTheSameColour) {
+    const QColor ink(190, 190, 190);
+    const QColor text = LegibleOn(Qt::white, ink);
+    const QColor outline = LegibleOn(Qt::white, ink, kOutlineContrast);
+    EXPECT_GT(outline.lightness(), text.lightness());
+    EXPECT_EQ(LegibleOn(Qt::white, ink), text);
+    EXPECT_NE(LegibleOn(Qt::black, ink), text);
+}
+
 TEST(LegibleColour, ADarkInkOnADarkGroundIsLightened) {
     const QColor ground(42, 42, 42);
     const QColor legible = LegibleOn(ground, QColor(0, 0, 255));

@@ -57,5 +57,37 @@ TEST_F(WrappedLabelTest, WithRoomForEachWordItIsAnOrdinaryLabel) {
     }
 }
 
+TEST_F(WrappedLabelTest, AsksForWhatAnOrdinaryLabelAsksForWhateverItShowedBefore) {
+    QLabel ordinary(nullptr);
+    ordinary.setWordWrap(true);
+    QFont large = label_.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    for (const QFont& font : {label_.font(), large})
+        for (const QString& text :
+             {u"nnn"_s, u"nnn nnn nnn nnn"_s, QString(), u"nnn\nnnn"_s, u"mmm"_s}) {
+            for (QLabel* label : std::initializer_list<QLabel*>{&label_, &ordinary}) {
+                label->setFont(font);
+                label->setText(text);
+            }
+            for (int width = WidthOf(u"mmm"_s) + 1; width < 40 * WidthOf(u"n"_s); width += 7)
+                EXPECT_EQ(label_.heightForWidth(width), ordinary.heightForWidth(width))
+                    << text.toStdString() << " at " << width;
+        }
+}
+
+TEST_F(WrappedLabelTest, WhatTakesTheWidthItIsGivenKeepsRoomForALine) {
+    label_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QLabel ordinary(nullptr);
+    ordinary.setWordWrap(true);
+    for (const QString& text : {u"nnn"_s, u"nnn nnn nnn nnn nnn nnn"_s}) {
+        label_.setText(text);
+        ordinary.setText(text);
+        for (const int width : {10, 40, 400}) {
+            label_.resize(width, label_.height());
+            EXPECT_EQ(label_.minimumSizeHint().height(), ordinary.minimumSizeHint().height());
+        }
+    }
+}
+
 } // namespace
 } // namespace lorvo
