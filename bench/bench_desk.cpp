@@ -95,7 +95,8 @@ QStringList Keys(const char* kind) {
         for (const Plemena& breed : BreedsByRing())
             keys << u"R%1"_s.arg(breed.ID);
     } else {
-        for (int dog = 1; dog <= CountDogs(); ++dog)
+        const int dogs = CountDogs();
+        for (int dog = 1; dog <= dogs; ++dog)
             keys << u"P%1"_s.arg(dog);
     }
     return keys;

@@ -41,6 +41,11 @@ QString TextOf(const QWidget& control) {
                                                                               : QString();
 }
 
+/// What was noted at the control; most controls have nothing noted, which is soon seen.
+QChar LetterIn(const QWidget& control, const char* property) {
+    return control.dynamicPropertyNames().isEmpty() ? QChar() : control.property(property).toChar();
+}
+
 /// The page of a stack that the control stands on, null for none.
 const QWidget* PageOf(const QWidget& control) {
     for (const QWidget* widget = &control; widget && !widget->isWindow();
@@ -67,7 +72,7 @@ QList<QWidget*> ControlsOf(QWidget& window) {
 }
 
 QChar WishOf(const QWidget& control) {
-    return control.property(kWishProperty).toChar();
+    return LetterIn(control, kWishProperty);
 }
 
 /// A link without a field beside it may bear a name of the clerk's, in which an ampersand is one.
@@ -186,7 +191,7 @@ void AccessKeys::RefreshLater() {
 }
 
 QChar AccessKeyOf(const QWidget& control) {
-    return control.property(kKeyProperty).toChar();
+    return LetterIn(control, kKeyProperty);
 }
 
 void LeadByAccessKey(QWidget& control, QWidget& target) {

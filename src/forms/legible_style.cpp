@@ -1,6 +1,7 @@
 #include "forms/legible_style.h"
 
 #include "forms/legible_colour.h"
+#include "forms/scroll_bar_groove.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -108,10 +109,32 @@ void LegibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 
 void LegibleStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
+    if (control == CC_ScrollBar && DrawScrollBar(*option, *painter, widget))
+        return;
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if ((control == CC_ComboBox || control == CC_SpinBox) &&
         option->rect.size() == (widget ? widget->size() : QSize()))
         Outline(*painter, *option, DrawField);
+}
+
+// The groove shades from edge to edge, and the toolkit gives so large a shade to several threads,
+// each time that a list scrolls: to wake them takes longer than all rows of the list.
+bool LegibleStyle::DrawScrollBar(const QStyleOptionComplex& option, QPainter& painter,
+                                 const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(&option);
+    if (!bar || !(bar->subControls & SC_ScrollBarGroove))
+        return false;
+    const auto draw = [&](const QStyleOptionSlider& part, QPainter& on) {
+        QProxyStyle::drawComplexControl(CC_ScrollBar, &part, &on, widget);
+    };
+    const QPixmap groove = ScrollBarGroove(*bar, painter.device()->devicePixelRatioF(), draw);
+    if (groove.isNull())
+        return false;
+    painter.drawPixmap(bar->rect.topLeft(), groove);
+    QStyleOptionSlider rest(*bar);
+    rest.subControls &= ~SC_ScrollBarGroove;
+    draw(rest, painter);
+    return true;
 }
 
 void LegibleStyle::drawControl(ControlElement element, const QStyleOption* option,

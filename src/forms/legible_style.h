@@ -26,6 +26,11 @@ class LegibleStyle : public QProxyStyle {
                      const QWidget* widget) const override;
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
                       bool enabled, const QString& text, QPalette::ColorRole role) const override;
+
+  private:
+    /// False where the scroll bar is left to the desktop's style.
+    bool DrawScrollBar(const QStyleOptionComplex& option, QPainter& painter,
+                       const QWidget* widget) const;
 };
 
 } // namespace lorvo

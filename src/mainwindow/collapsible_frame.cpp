@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QLayout>
+#include <QResizeEvent>
 #include <QToolButton>
 #include <algorithm>
 
@@ -86,12 +87,14 @@ QSize CollapsibleFrame::minimumSizeHint() const {
 void CollapsibleFrame::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
     PlaceContent();
+    if (told_.ToTell(*event))
+        updateGeometry();
 }
 
 bool CollapsibleFrame::event(QEvent* event) {
-    // The content has changed its needs: so has the frame.
     if (event->type() == QEvent::LayoutRequest) {
-        updateGeometry();
+        if (told_.ToTell(*this))
+            updateGeometry();
         PlaceContent();
     }
     return QFrame::event(event);
@@ -145,6 +148,7 @@ void CollapsibleFrame::Toggle() {
     setMinimumHeight(collapsed_ ? target : 0);
     setMaximumHeight(collapsed_ ? target : QWIDGETSIZE_MAX);
     updateGeometry();
+    told_.Forget();
 }
 
 } // namespace lorvo

@@ -1,6 +1,8 @@
 #pragma once
 // A section of a panel: a frame whose header opens and collapses it.
 
+#include "mainwindow/told_needs.h"
+
 #include <QFrame>
 
 class QToolButton;
@@ -51,6 +53,7 @@ class CollapsibleFrame : public QFrame {
     QToolButton* header_;
     QWidget* content_;
     bool collapsed_ = false;
+    ToldNeeds told_;
 };
 
 } // namespace lorvo

@@ -9,7 +9,6 @@
 #include "mainwindow/panel_builders.h"
 #include "platform/failure_guard.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 
 namespace lorvo {
@@ -39,7 +38,7 @@ DogPanel::DogPanel(QWidget* parent)
 
 QScrollArea* DogPanel::Sections() {
     auto* area = new PanelArea(u"areaSections"_s, this);
-    auto* sections = new QWidget(area);
+    auto* sections = new AreaContent(area);
     fraPuvod = new OriginSection(sections);
     fraMajitel = new OwnerSection(sections);
     fraVystavy = new EntriesSection(sections);
@@ -62,10 +61,6 @@ void DogPanel::ShowCard(const DogCard& card) {
     fraMajitel->ShowCard(card);
     fraVystavy->ShowCard(card);
     fraOceneni->ShowCard(card);
-    // A text that wraps makes its section higher: lay out at once, so that it is never painted cut.
-    // The title above may take room from the sections, which then ask for theirs once more.
-    for (int times = 0; times < 2; ++times)
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 } // namespace lorvo

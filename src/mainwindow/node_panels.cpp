@@ -20,6 +20,7 @@
 #include "office/tree/node_history.h"
 #include "platform/failure_guard.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QScopeGuard>
 #include <QStackedWidget>
@@ -46,6 +47,13 @@ int PathLength(const TreeNode& node, bool withClasses) {
     }
     const bool belowClass = node.parent && node.parent->Kind() == NodeKind::Class;
     return withClasses && belowClass ? 4 : 3;
+}
+
+/// A text that wraps makes its section higher, and a title takes room from the sections, which then
+/// ask for theirs once more: neither is painted before all stand in their places.
+void LayOutAtOnce() {
+    for (int times = 0; times < 4; ++times)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 } // namespace
@@ -109,6 +117,7 @@ const TreeNode* NodePanels::NodeOnShow() const {
 }
 
 void NodePanels::ShowNode(const TreeNode& node) {
+    const auto layOut = qScopeGuard(LayOutAtOnce);
     onShow_ = node.Key();
     nodes_.ClearPath();
     SetPicture(tree_.IconOf(node));

@@ -6,6 +6,7 @@
 #include "platform/failure_guard.h"
 
 #include <QHBoxLayout>
+#include <QResizeEvent>
 
 namespace lorvo {
 
@@ -35,10 +36,10 @@ QPushButton* HistoryButton(const QString& name, const QString& text, const QStri
 } // namespace
 
 NodeTitle::NodeTitle(NodeHistory& history, const NodeHistory::Show& show, QWidget* parent)
-    : QWidget(parent), history_(history), picMode(Named(new QLabel(this), u"picMode"_s)),
-      lblItemTitle(TitleLabel(this)),
-      cmdHistoryBack(HistoryButton(u"cmdHistoryBack"_s, u"Zpět"_s, u"back"_s, this)),
-      cmdHistoryFwd(HistoryButton(u"cmdHistoryFwd"_s, u"Vpřed"_s, u"forward"_s, this)) {
+    : QWidget(parent), history_(history), row_(new QWidget(this)),
+      picMode(Named(new QLabel(row_), u"picMode"_s)), lblItemTitle(TitleLabel(row_)),
+      cmdHistoryBack(HistoryButton(u"cmdHistoryBack"_s, u"Zpět"_s, u"back"_s, row_)),
+      cmdHistoryFwd(HistoryButton(u"cmdHistoryFwd"_s, u"Vpřed"_s, u"forward"_s, row_)) {
     picMode->setFixedSize(kPictureSize, kPictureSize);
     Connect(cmdHistoryBack, &QPushButton::clicked, this, [this, show] {
         history_.GoBack(show);
@@ -48,12 +49,42 @@ NodeTitle::NodeTitle(NodeHistory& history, const NodeHistory::Show& show, QWidge
         history_.GoForward(show);
         UpdateButtons();
     });
-    auto* row = new QHBoxLayout(this);
+    auto* row = new QHBoxLayout(row_);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(picMode);
     row->addWidget(lblItemTitle, 1);
     row->addWidget(cmdHistoryBack);
     row->addWidget(cmdHistoryFwd);
+}
+
+bool NodeTitle::hasHeightForWidth() const {
+    return row_->hasHeightForWidth();
+}
+
+int NodeTitle::heightForWidth(int width) const {
+    return row_->heightForWidth(width);
+}
+
+QSize NodeTitle::sizeHint() const {
+    return row_->sizeHint();
+}
+
+QSize NodeTitle::minimumSizeHint() const {
+    return row_->minimumSizeHint();
+}
+
+void NodeTitle::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    row_->resize(size());
+    if (told_.ToTell(*event))
+        updateGeometry();
+}
+
+bool NodeTitle::event(QEvent* event) {
+    // The title above the panels differs with each node: they are laid out for a higher one alone.
+    if (event->type() == QEvent::LayoutRequest && told_.ToTell(*this))
+        updateGeometry();
+    return QWidget::event(event);
 }
 
 void NodeTitle::SetText(const QString& text) {

@@ -1,6 +1,7 @@
 #pragma once
 // The row above the panels: picture and title of the node on show, and the history's buttons.
 
+#include "mainwindow/told_needs.h"
 #include "office/tree/node_history.h"
 
 #include <QWidget>
@@ -22,8 +23,19 @@ class NodeTitle : public QWidget {
     /// Enables the buttons as the history now has it.
     void UpdateButtons();
 
+    bool hasHeightForWidth() const override;
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+
   private:
     NodeHistory& history_;
+    QWidget* row_;
+    ToldNeeds told_;
     QLabel* picMode;
     QLabel* lblItemTitle;
     QPushButton* cmdHistoryBack;

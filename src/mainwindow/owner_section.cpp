@@ -82,6 +82,12 @@ QLayout* OwnerSection::Pictures() {
 }
 
 void OwnerSection::ShowCard(const DogCard& card) {
+    // A picture that comes makes the toolkit lay out the section at once: before its texts change.
+    previousKey_ = card.previous.key;
+    nextKey_ = card.next.key;
+    ShowNeighbour(*picPrev, card.previous);
+    ShowNeighbour(*picNext, card.next);
+    picList->setVisible(!previousKey_.isEmpty() || !nextKey_.isEmpty());
     ShowOwnerName(card.JmenoMajitele);
     street_->setText(card.Ulice);
     postCode_->setText(card.PSC);
@@ -89,11 +95,6 @@ void OwnerSection::ShowCard(const DogCard& card) {
     country_->setText(card.Stat);
     phone_->setText(card.Telefon);
     email_->setText(card.Email);
-    previousKey_ = card.previous.key;
-    nextKey_ = card.next.key;
-    ShowNeighbour(*picPrev, card.previous);
-    ShowNeighbour(*picNext, card.next);
-    picList->setVisible(!previousKey_.isEmpty() || !nextKey_.isEmpty());
 }
 
 // The link reaches a little beyond the name, so that a short name is easy to hit too.

@@ -1,6 +1,7 @@
 // Told colours on the screen: what is painted, and what is told to whoever asks.
 
 #include "forms/legible_colour.h"
+#include "forms/legible_style.h"
 #include "forms/report_list.h"
 
 #include <QApplication>
@@ -11,9 +12,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QStyleFactory>
 #include <QTest>
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace lorvo {
 
@@ -72,6 +76,31 @@ TEST(LegibleStyle, EmptyBoxesStandOutInTheDark) {
     EXPECT_GE(OutlineInTheDark<QLineEdit>(), kOutlineContrast - 0.05);
     EXPECT_GE(OutlineInTheDark<QDateEdit>(), kOutlineContrast - 0.05);
     EXPECT_GE(OutlineInTheDark<QComboBox>(), kOutlineContrast - 0.05);
+}
+
+/// The bar's picture at half its way, in the program's style or another.
+QImage PictureOf(QScrollBar& bar, QStyle* style) {
+    bar.setStyle(style);
+    const QSize asked = bar.sizeHint();
+    bar.resize(asked.expandedTo(bar.orientation() == Qt::Vertical ? QSize(0, 300) : QSize(300, 0)));
+    bar.setRange(0, 1000);
+    bar.setPageStep(200);
+    bar.setValue(500);
+    return bar.grab().toImage();
+}
+
+TEST(LegibleStyle, AScrollBarLooksAsTheDesktopDrawsItThoughItsGrooveIsKept) {
+    const std::unique_ptr<QStyle> desktop(QStyleFactory::create(u"Fusion"_s));
+    LegibleStyle style(u"Fusion"_s);
+    for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal})
+        for (const QColor& ground : {QColor(239, 239, 239), QColor(53, 53, 53)}) {
+            QScrollBar bar(orientation);
+            bar.setPalette(QPalette(ground, ground));
+            const QImage wanted = PictureOf(bar, desktop.get());
+            EXPECT_EQ(PictureOf(bar, &style), wanted);
+            EXPECT_EQ(PictureOf(bar, &style), wanted) << "from the groove that was kept";
+            bar.setStyle(nullptr);
+        }
 }
 
 TEST(LegibleStyle, SoIsALabel) {

@@ -368,6 +368,79 @@ TEST_F(DogPanelTest, SectionsCollapseToTheirHeaderAndOpenAgain) {
     EXPECT_EQ(Text(u"Plemeno:"_s), u"Pudl"_s);
 }
 
+TEST_F(DogPanelTest, ALongTextMakesItsSectionHigherAtOnceAndAShortOneLowerAgain) {
+    Start();
+    Show(u"P3"_s);
+    const auto& origin = Get<CollapsibleFrame>("fraPuvod");
+    const auto& owner = Get<CollapsibleFrame>("fraMajitel");
+    const int low = origin.height();
+    Run("UPDATE Psi SET Poznamka = '" + Words(900) + "'");
+    Show(u"P3"_s);
+    const QLabel* note = Value(u"Poznámka:"_s);
+    EXPECT_GE(note->height(), note->heightForWidth(note->width()));
+    EXPECT_GT(origin.height(), low);
+    EXPECT_GT(owner.y(), origin.geometry().bottom());
+    Run("UPDATE Psi SET Poznamka = ''");
+    Show(u"P3"_s);
+    EXPECT_EQ(origin.height(), low);
+}
+
+TEST_F(DogPanelTest, ATextThatFitsIsLaidOutOnceTheWindowIsTooNarrowForIt) {
+    Start();
+    window.resize(1700, 900);
+    Show(u"P3"_s);
+    QTest::qWait(0);
+    const auto& origin = Get<CollapsibleFrame>("fraPuvod");
+    const int low = origin.height();
+    const QLabel* note = Value(u"Poznámka:"_s);
+    const int fits = note->width() * 2 / 3 / note->fontMetrics().horizontalAdvance(u"slovo "_s);
+    Run("UPDATE Psi SET Poznamka = '" + Words(static_cast<std::size_t>(fits) * 6) + "', Otec = '" +
+        Words(30) + "', DatumNar = '2005-05-14T00:00:00'");
+    Show(u"P3"_s);
+    QTest::qWait(0);
+    EXPECT_EQ(origin.height(), low);
+    for (const int width : {1500, 1300, 1100, 900, 800, 1000, 1400, 1700}) {
+        window.resize(width, 900);
+        QTest::qWait(0);
+        EXPECT_GE(note->height(), note->heightForWidth(note->width())) << width;
+        EXPECT_GE(origin.height(), origin.heightForWidth(origin.width())) << width;
+        EXPECT_FALSE(origin.geometry().intersects(Get<QWidget>("fraMajitel").geometry()));
+    }
+    EXPECT_EQ(origin.height(), low);
+}
+
+TEST_F(DogPanelTest, ATitleOnTwoLinesHasItsRoomAtOnce) {
+    Start();
+    Show(u"P3"_s);
+    auto& title = Get<QLabel>("lblItemTitle");
+    const int low = title.height();
+    Run("UPDATE Psi SET ChovnaStanice = '" + Words(140) + "'");
+    Show(u"P3"_s);
+    EXPECT_GE(title.height(), title.heightForWidth(title.width()));
+    EXPECT_GT(title.height(), low);
+    const QWidget* area = Get<QWidget>("picPesInfo").parentWidget();
+    EXPECT_GE(area->mapTo(&window, QPoint()).y(),
+              title.mapTo(&window, QPoint(0, title.height())).y());
+    Run("UPDATE Psi SET ChovnaStanice = ''");
+    Show(u"P3"_s);
+    EXPECT_EQ(title.height(), low);
+}
+
+TEST_F(DogPanelTest, ATitleThatFitsHasItsRoomOnceTheWindowIsTooNarrowForIt) {
+    Start();
+    Show(u"P3"_s);
+    Run("UPDATE Psi SET ChovnaStanice = '" + Words(40) + "'");
+    Show(u"P3"_s);
+    auto& title = Get<QLabel>("lblItemTitle");
+    EXPECT_LT(title.height(), 2 * title.fontMetrics().height());
+    for (const int width : {900, 700, 640}) {
+        window.resize(width, 760);
+        QTest::qWait(0);
+        EXPECT_GE(title.height(), title.heightForWidth(title.width())) << width;
+    }
+    EXPECT_GE(title.height(), 2 * title.fontMetrics().height());
+}
+
 TEST_F(DogPanelTest, TheListsTakeTheHeightThatACollapsedSectionSetsFree) {
     Start();
     window.resize(1100, 1000);
