@@ -6,6 +6,7 @@
 #include "dogs/frmDogListFilter.h"
 #include "dogs/totals_bar.h"
 #include "forms/command_collection.h"
+#include "forms/make_cells.h"
 #include "forms/report_list.h"
 #include "office/dogs/dog_counts_line.h"
 #include "office/dogs/dog_list_figures.h"
@@ -21,6 +22,7 @@
 
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace lorvo {
 
@@ -36,25 +38,19 @@ QStringList Headings() {
             u"Ocenění"_s, u"Uhrazeno"_s, u"Bilance"_s};
 }
 
-ReportRow RowOf(const DogListRow& dog, const DogListFigures& figures, AmountTexts& prices) {
+/// The texts move from the dog to its row.
+ReportRow RowOf(DogListRow&& dog, DogListFigures&& figures, AmountTexts& prices) {
     const Account& account = figures.account;
     const std::optional<Currency> fee = account.LastFee();
     const Currency balance = account.Balance();
-    return {NodeKey::Dog(dog.IDPsa).ToText(),
-            QString::number(dog.IDPsa),
-            {{FullName(dog)},
-             {SexText(dog.PohlaviPes)},
-             {dog.JmenoMajitele},
-             {BreedName(dog.NazevPlemene, dog.NazevOrig)},
-             {dog.Poznamka},
-             {figures.shows},
-             {ClosingText(dog.PrvniUzaverka)},
-             {fee ? prices.Of(*fee) : QString()},
-             {figures.competitions},
-             {prices.Of(account.CompetitionFees())},
-             {figures.awards},
-             {prices.Of(account.paid)},
-             {prices.Of(balance), BalanceColour(balance, kOverpaidInDogList)}}};
+    return {NodeKey::Dog(dog.IDPsa).ToText(), QString::number(dog.IDPsa),
+            MakeCells(FullName(dog), SexText(dog.PohlaviPes), std::move(dog.JmenoMajitele),
+                      BreedName(dog.NazevPlemene, dog.NazevOrig), std::move(dog.Poznamka),
+                      std::move(figures.shows), ClosingText(dog.PrvniUzaverka),
+                      fee ? prices.Of(*fee) : QString(), std::move(figures.competitions),
+                      prices.Of(account.CompetitionFees()), std::move(figures.awards),
+                      prices.Of(account.paid),
+                      ReportCell{prices.Of(balance), BalanceColour(balance, kOverpaidInDogList)})};
 }
 
 std::vector<MenuEntry> AwardsMenu(int psiID) {
@@ -104,16 +100,16 @@ void fm_DogsList::Load() {
 
 void fm_DogsList::FillList() {
     const ReadRun run(TheDataModule().Conn1);
-    const std::vector<DogListRow> dogs = DogsWithOwnersByName();
+    std::vector<DogListRow> dogs = DogsWithOwnersByName();
     const DogListTables tables;
     std::vector<ReportRow> rows;
     rows.reserve(dogs.size());
     AccountTotals totals;
     AmountTexts prices(PriceText);
-    for (const DogListRow& dog : dogs) {
-        const DogListFigures figures = tables.Of(dog);
+    for (DogListRow& dog : dogs) {
+        DogListFigures figures = tables.Of(dog);
         totals.Add(figures.account);
-        rows.push_back(RowOf(dog, figures, prices));
+        rows.push_back(RowOf(std::move(dog), std::move(figures), prices));
     }
     lvwList->SetRows(std::move(rows));
     sbDogs->SetPanel(2, TotalsLine(totals.owed, totals.paid));

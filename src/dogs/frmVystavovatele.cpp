@@ -7,6 +7,7 @@
 #include "dogs/frmEditMan.h"
 #include "dogs/totals_bar.h"
 #include "forms/controls.h"
+#include "forms/make_cells.h"
 #include "forms/messages.h"
 #include "forms/report_list.h"
 #include "office/fees/owner_accounts.h"
@@ -22,6 +23,7 @@
 
 #include <QProgressBar>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace lorvo {
 
@@ -50,21 +52,16 @@ std::optional<QColor> ColourOf(Currency balance) {
     return BalanceColour(balance, kOverpaidInExhibitors);
 }
 
-ReportRow RowOf(const Majitele& owner, const AccountTotals& account, AmountTexts& amounts) {
+/// The texts move from the owner to its row.
+ReportRow RowOf(Majitele&& owner, const AccountTotals& account, AmountTexts& amounts) {
     const QString id = QString::number(owner.ID);
-    return {u"M"_s + id,
-            id,
-            {{owner.Jmeno},
-             {owner.Ulice},
-             {owner.Mesto},
-             {PostCodeText(owner.PSC)},
-             {owner.Stat.value_or(QString())},
-             {owner.Telefon},
-             {owner.Email},
-             {QString::number(account.dogs)},
-             {amounts.Of(account.owed)},
-             {amounts.Of(account.paid)},
-             {amounts.Of(account.Balance()), ColourOf(account.Balance())}}};
+    return {u"M"_s + id, id,
+            MakeCells(std::move(owner.Jmeno), std::move(owner.Ulice), std::move(owner.Mesto),
+                      PostCodeText(owner.PSC), std::move(owner.Stat).value_or(QString()),
+                      std::move(owner.Telefon), std::move(owner.Email),
+                      QString::number(account.dogs), amounts.Of(account.owed),
+                      amounts.Of(account.paid),
+                      ReportCell{amounts.Of(account.Balance()), ColourOf(account.Balance())})};
 }
 
 /// Moves the bar in whole percents: a row's worth of it would only be repainting.
@@ -138,7 +135,7 @@ void frmVystavovatele::Load() {
 
 void frmVystavovatele::FillList() {
     const ReadRun run(TheDataModule().Conn1);
-    const std::vector<Majitele> owners = OwnersByName();
+    std::vector<Majitele> owners = OwnersByName();
     const OwnerAccounts accounts;
     const int count = static_cast<int>(owners.size());
     sb->SetPanel(1, u"Celkem %1 vystavovatelů."_s.arg(count));
@@ -147,10 +144,10 @@ void frmVystavovatele::FillList() {
     rows.reserve(owners.size());
     AccountTotals totals;
     AmountTexts amounts(AmountText);
-    for (const Majitele& owner : owners) {
+    for (Majitele& owner : owners) {
         const AccountTotals account = accounts.Of(owner.ID);
         totals.Add(account);
-        rows.push_back(RowOf(owner, account, amounts));
+        rows.push_back(RowOf(std::move(owner), account, amounts));
         ShowProgress(*pbMain, static_cast<int>(rows.size()));
     }
     sb->SetPanel(2, TotalsLine(totals.owed, totals.paid));

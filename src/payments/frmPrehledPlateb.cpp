@@ -3,6 +3,7 @@
 #include "app/amount_texts.h"
 #include "app/common_routines.h"
 #include "forms/controls.h"
+#include "forms/make_cells.h"
 #include "forms/report_list.h"
 #include "office/payments/payment_lookups.h"
 #include "office/texts/dog_texts.h"
@@ -44,17 +45,11 @@ struct SharedTexts {
 
 ReportRow RowOf(const PaymentRow& payment, SharedTexts& texts) {
     const QString id = QString::number(payment.UID);
-    return {u"P"_s + id,
-            id,
-            {{payment.MajX},
-             {payment.Jmeno},
-             {DateOrEmpty(payment.Datum)},
-             {texts.inMainCurrency.Of(payment.Kc)},
-             PrintedCell(payment.Printed),
-             {PaymentModeText(payment.Uhrada)},
-             {payment.Ucet},
-             {texts.paid.Of(payment.Castka)},
-             {texts.currencies.Of(payment.Mena)}}};
+    return {u"P"_s + id, id,
+            MakeCells(payment.MajX, payment.Jmeno, DateOrEmpty(payment.Datum),
+                      texts.inMainCurrency.Of(payment.Kc), PrintedCell(payment.Printed),
+                      PaymentModeText(payment.Uhrada), payment.Ucet, texts.paid.Of(payment.Castka),
+                      texts.currencies.Of(payment.Mena))};
 }
 
 } // namespace

@@ -28,14 +28,21 @@ const icu::Collator& CzechCollator() {
 std::string CzechKey(std::string_view text) {
     const icu::UnicodeString unicode = icu::UnicodeString::fromUTF8(
         icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())));
+    return CzechKey(QStringView(unicode.getBuffer(), unicode.length()));
+}
+
+std::string CzechKey(QStringView text) {
+    const auto size = static_cast<std::int32_t>(text.size());
     std::array<std::uint8_t, 256> buffer;
     const icu::Collator& collator = CzechCollator();
-    const std::int32_t length = collator.getSortKey(unicode, buffer.data(), buffer.size());
+    const std::int32_t length =
+        collator.getSortKey(text.utf16(), size, buffer.data(), buffer.size());
     std::string key(reinterpret_cast<const char*>(buffer.data()),
                     std::min<std::size_t>(static_cast<std::size_t>(length), buffer.size()));
     if (static_cast<std::size_t>(length) > buffer.size()) {
         key.resize(static_cast<std::size_t>(length));
-        collator.getSortKey(unicode, reinterpret_cast<std::uint8_t*>(key.data()), length);
+        collator.getSortKey(text.utf16(), size, reinterpret_cast<std::uint8_t*>(key.data()),
+                            length);
     }
     return key;
 }

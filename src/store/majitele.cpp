@@ -12,17 +12,21 @@ RecordSet& Table() {
 }
 
 /// The fields in the order of ReadOwners.
+std::optional<QString> TextOrNull(const Query& row, int column) {
+    return row.IsNull(column) ? std::nullopt : std::optional(row.Text(column));
+}
+
 Majitele ReadMajitele(const Query& row) {
     Majitele owner;
     owner.ID = row.Int(0);
     owner.Jmeno = row.Text(1);
-    owner.Prijmeni = ToOptionalText(row.Cell(2));
+    owner.Prijmeni = TextOrNull(row, 2);
     owner.Ulice = row.Text(3);
     owner.Mesto = row.Text(4);
     owner.PSC = row.Int(5);
     owner.Telefon = row.Text(6);
     owner.Email = row.Text(7);
-    owner.Stat = ToOptionalText(row.Cell(8));
+    owner.Stat = TextOrNull(row, 8);
     return owner;
 }
 

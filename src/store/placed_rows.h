@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <numeric>
 #include <string>
@@ -33,10 +34,14 @@ std::vector<Row> InOrder(std::vector<Row> rows, const std::vector<Place>& places
 /// The place of a row by a name in Czech order; a Null stands before an empty one.
 struct NamePlace {
     bool hasName = false;
+    std::uint64_t start = 0; ///< the key's first bytes as a number, which tells most names apart
     std::string key;
 
     NamePlace(const Query& row, int column, const QString& name)
-        : hasName(!row.IsNull(column)), key(CzechKey(name.toStdString())) {}
+        : hasName(!row.IsNull(column)), key(CzechKey(name)) {
+        for (std::size_t byte = 0; byte < sizeof start; ++byte)
+            start = start << 8 | (byte < key.size() ? static_cast<unsigned char>(key[byte]) : 0U);
+    }
     auto operator<=>(const NamePlace&) const = default;
 };
 

@@ -46,6 +46,23 @@ TEST_F(PsiListsTest, TheDogListJoinsOwnerAndBreedAndDropsOrphans) {
     EXPECT_EQ(row.JmenoMajitele, u"Jan O'Neil");
 }
 
+TEST_F(PsiListsTest, TheDogListIsInCzechOrderHoweverLongNamesAreAlike) {
+    const int owner = Add("Majitele", {{"Jmeno", Text("Jan")}});
+    const int breed = Add("Plemena", {{"Nazev", Text("Pudl")}});
+    const auto add = [&](const char* jmeno) {
+        return AddDog(jmeno, {{"PlemenoID", breed}, {"MajitelID", owner}});
+    };
+    for (const char* jmeno : {"Nejkrásnější chrt", "Nejkrásnější hoch", "b", "Nejkrásnější Chrt",
+                              "Nejkrásnější", "á", "Nejkrásnější", "", "a"})
+        add(jmeno);
+    Add("Psi", {{"PlemenoID", breed}, {"MajitelID", owner}}); // without a name
+    const std::vector<DogListRow> rows = DogsWithOwnersByName();
+    EXPECT_EQ(Jmena(rows), (Texts{"", "", "a", "á", "b", "Nejkrásnější", "Nejkrásnější",
+                                  "Nejkrásnější hoch", "Nejkrásnější chrt", "Nejkrásnější Chrt"}));
+    EXPECT_TRUE(rows[0].IDPsa > rows[1].IDPsa) << "no name before an empty one";
+    EXPECT_LT(rows[5].IDPsa, rows[6].IDPsa) << "alike ones as they were entered";
+}
+
 TEST_F(PsiListsTest, FeeRowsComeInIDOrder) {
     const int b = AddDog("b", {{"MajitelID", 2}, {"Trida", 3}, {"PrvniUzaverka", true}});
     const int a = AddDog("a", {{"MajitelID", 1}, {"Trida", Value()}, {"PrvniPes", true}});

@@ -31,6 +31,12 @@ TEST(CzechKeyTest, TakesTextsOfAnyLengthAndBrokenOnes) {
     EXPECT_LT(CzechKey("\xC3\x28\xFF"), CzechKey("\xC3\x28\xFFz"));
 }
 
+TEST(CzechKeyTest, IsTheSameOfATextInTheProgramsOwnForm) {
+    for (const std::string& text : {std::string(), std::string("Řek"), std::string("D'Art š ch"),
+                                    std::string(5000, 'a'), std::string("\xF0\x9F\x90\xB6")})
+        EXPECT_EQ(CzechKey(QString::fromStdString(text)), CzechKey(text)) << text;
+}
+
 TEST(CompareCzechTest, AgreesWithTheKeys) {
     const Strings words = {"",    "a",   "á",  "A",     "Alík", "alík",  "Álík", "b",   "c",
                            "cz",  "č",   "h",  "hugo",  "ch",   "Chvat", "i",    "Rek", "Řek",

@@ -29,7 +29,7 @@ namespace {
 enum SubItem { kPrice, kClosing, kFirstDog };
 
 std::string SortKey(const QString& name) {
-    return CzechKey(name.toStdString());
+    return CzechKey(name);
 }
 
 CheckLine& ExistingLine(CheckLines& lines, const QString& key) {

@@ -4,12 +4,14 @@
 #include "platform/platform.h"
 #include "platform/values/errors.h"
 
+#include <QStringBuilder>
+
 namespace lorvo {
 
 using namespace Qt::StringLiterals;
 
 QString FullName(const QString& jmeno, const QString& chovnaStanice) {
-    return jmeno + u' ' + chovnaStanice;
+    return jmeno % u' ' % chovnaStanice;
 }
 
 QString SexText(bool male) {

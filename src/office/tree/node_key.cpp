@@ -1,5 +1,8 @@
 #include "office/tree/node_key.h"
 
+#include <array>
+#include <charconv>
+
 namespace lorvo {
 
 using namespace Qt::StringLiterals;
@@ -9,6 +12,13 @@ namespace {
 NodeKey ClassFromText(const QString& text) {
     const qsizetype bar = text.indexOf(u'|');
     return NodeKey::Class(text.mid(2, bar - 2).toInt(), text.mid(bar + 1).toInt());
+}
+
+/// The letter and the number, in one piece of memory: lists ask for many thousand keys.
+QString Lettered(char letter, int id) {
+    std::array<char, 12> text{letter};
+    const auto end = std::to_chars(text.data() + 1, text.data() + text.size(), id).ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
 }
 
 } // namespace
@@ -44,17 +54,16 @@ std::optional<int> NodeKey::IdIn(const QString& text, NodeKind kind) {
 }
 
 QString NodeKey::ToText() const {
-    const QString number = QString::number(id);
     switch (kind) {
     case NodeKind::UnassignedRoot:
     case NodeKind::Ring:
-        return u'K' + number;
+        return Lettered('K', id);
     case NodeKind::Breed:
-        return u'R' + number;
+        return Lettered('R', id);
     case NodeKind::Class:
         return u"TR%1|%2"_s.arg(id).arg(trida);
     case NodeKind::Dog:
-        return u'P' + number;
+        return Lettered('P', id);
     }
     Q_UNREACHABLE();
 }
