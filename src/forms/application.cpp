@@ -26,22 +26,25 @@ QString FailureText(const std::exception_ptr& failure) {
     }
 }
 
-bool IsDamage(const std::exception_ptr& failure) {
+/// What the last entry has come to: the disk that failed didn't take it; after another failure it
+/// may be stored or not. Each earlier one was on the disk before the next could be made, but of a
+/// damaged file nothing can be promised.
+QString WhatBecameOfTheEntry(const std::exception_ptr& failure) {
     try {
         std::rethrow_exception(failure);
     } catch (const CorruptStoreError&) {
-        return true;
+        return {};
+    } catch (const DiskError&) {
+        return u"\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno před ním, je uloženo."_s;
     } catch (...) {
-        return false;
+        return u"\n\nZda se uložilo poslední zadání, zkontrolujte po novém spuštění. Všechno, co "
+               u"bylo "
+               "zadáno před ním, je uloženo."_s;
     }
 }
 
-/// What the clerk's work has come to: each edit is on the disk before the next can be made, but of
-/// a damaged file nothing can be promised.
 QString WhatBecameOfTheWork(const std::exception_ptr& failure) {
-    const QString kept = u"\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno "
-                         "před ním, je uloženo."_s;
-    return (IsDamage(failure) ? QString() : kept) + u"\n\nProgram se ukončí."_s;
+    return WhatBecameOfTheEntry(failure) + u"\n\nProgram se ukončí."_s;
 }
 
 } // namespace

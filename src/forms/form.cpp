@@ -5,12 +5,14 @@
 #include "forms/box_hints.h"
 #include "forms/form_settings.h"
 #include "forms/label_edit_delegate.h"
+#include "forms/one_line_box.h"
 #include "forms/page_keys.h"
 #include "forms/report_list.h"
 #include "forms/scrolled_content.h"
 #include "platform/failure_guard.h"
 #include "platform/platform.h"
 
+#include <QAbstractSpinBox>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
@@ -99,6 +101,8 @@ void Form::LimitTypedTexts() {
         if (box->maxLength() == unlimited)
             box->setMaxLength(LongestTypedText());
         TellItsLimit(*box);
+        if (!qobject_cast<QAbstractSpinBox*>(box->parent())) // these read what was typed themselves
+            KeepOnOneLine(*box);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "forms/label_edit_delegate.h"
 
 #include "forms/cut_text_tip.h"
+#include "forms/one_line_box.h"
 #include "platform/failure_guard.h"
 #include "store/text_width.h"
 
@@ -81,6 +82,7 @@ QWidget* LabelEditDelegate::createEditor(QWidget* parent, const QStyleOptionView
         editor_->setObjectName(view_.objectName() + u".editor"_s);
         editor_->setFrame(false);
         editor_->setMaxLength(kLongestText);
+        KeepOnOneLine(*editor_);
         editor_->setAutoFillBackground(true);
         edited_ = {index, {}};
         new EditWatch(const_cast<LabelEditDelegate&>(*this), view_, *editor_);

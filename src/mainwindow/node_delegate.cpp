@@ -1,6 +1,7 @@
 #include "mainwindow/node_delegate.h"
 
 #include "forms/cut_text_tip.h"
+#include "forms/one_line_box.h"
 #include "platform/failure_guard.h"
 #include "store/text_width.h"
 
@@ -23,6 +24,7 @@ QWidget* NodeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
         if (auto* line = qobject_cast<QLineEdit*>(editor)) {
             line->setObjectName(u"tvwMain.editor"_s);
             line->setMaxLength(kLongestText);
+            KeepOnOneLine(*line);
         }
         return editor;
     });

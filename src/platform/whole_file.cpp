@@ -73,7 +73,7 @@ class Draft {
     }
     ~Draft() {
         if (!isKept_)
-            file_.remove();
+            Discard();
     }
     Draft(const Draft&) = delete;
     Draft& operator=(const Draft&) = delete;
@@ -106,8 +106,13 @@ class Draft {
         return file_.open(QIODevice::WriteOnly | QIODevice::NewOnly);
     }
     [[noreturn]] void Fail(const QString& path, const QString& cause) {
-        file_.remove(); // the object that failed to be made has no end
+        Discard(); // the object that failed to be made has no end
         FailToWriteFile(path, cause);
+    }
+    /// The file's own removal gives up when the rest of its buffer can't be written.
+    void Discard() {
+        file_.close();
+        QFile::remove(file_.fileName());
     }
     void Keep() {
         isKept_ = true;

@@ -34,9 +34,20 @@ TEST(ApplicationTest, AFailureOfAHandlerEndsTheLoopAndIsShownOnce) {
         u"Disk je plný.\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno před "
         "ním, je uloženo.\n\nProgram se ukončí."_s);
     EXPECT_EQ(TheApplication().Run(
-                  [] { QTimer::singleShot(0, qApp, [] { throw StoreError("Disk je plný."); }); }),
+                  [] { QTimer::singleShot(0, qApp, [] { throw DiskError("Disk je plný."); }); }),
               1);
     EXPECT_NO_THROW(RethrowFailure());
+}
+
+TEST(ApplicationTest, AFailureThatIsNotTheDisksDoesNotCallTheLastEntryLost) {
+    test::RecordingPlatform platform;
+    platform.ExpectMessage(
+        u"Položka stromu chybí.\n\nZda se uložilo poslední zadání, zkontrolujte po novém spuštění. "
+        "Všechno, co bylo zadáno před ním, je uloženo.\n\nProgram se ukončí."_s);
+    EXPECT_EQ(TheApplication().Run([] {
+        QTimer::singleShot(0, qApp, [] { throw StoreError("Položka stromu chybí."); });
+    }),
+              1);
 }
 
 TEST(ApplicationTest, OfADamagedFileNothingIsPromised) {

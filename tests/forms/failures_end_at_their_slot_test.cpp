@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 [[noreturn]] void Fail() {
-    throw StoreError("Disk je plný.");
+    throw DiskError("Disk je plný.");
 }
 
 class FailingBox : public QWidget {

@@ -125,6 +125,18 @@ TEST_F(WholeFile, ADiskThatEndsInTheMiddleLeavesTheOlderOneAndNothingElse) {
     EXPECT_EQ(Bytes(u"a.html"_s), "older");
     EXPECT_EQ(Names(), QStringList(u"a.html"_s));
 }
+
+TEST_F(WholeFile, AShortTextThatFindsNoRoomLeavesNothingElseEither) {
+    ReplaceFile(Path(u"a.ini"_s), "older");
+    QString replacing;
+    {
+        const NarrowDisk narrow(10);
+        replacing = Failure([&] { ReplaceFile(Path(u"a.ini"_s), QByteArray(100, 'x')); });
+    }
+    EXPECT_TRUE(replacing.contains(u"a.ini“: "_s)) << replacing.toStdString();
+    EXPECT_EQ(Bytes(u"a.ini"_s), "older");
+    EXPECT_EQ(Names(), QStringList(u"a.ini"_s));
+}
 #endif
 
 } // namespace
