@@ -155,6 +155,10 @@ void EntriesPage::SaveRest() {
         u"Uložit zbytek"_s, Beside(source_.Path(), u" - zbytek.csv"_s), u"CSV (*.csv)"_s);
     if (path.isEmpty())
         return;
+    if (source_.IsFile(path)) {
+        show_.Warn(RestOverItsSource());
+        return;
+    }
     const auto ticked = [this](const EntryLine& line) {
         return IsTicked(line);
     };

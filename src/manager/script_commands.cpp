@@ -11,6 +11,7 @@
 #include "office/exchange/people_removal.h"
 #include "office/exchange/sheet_files.h"
 #include "office/exchange/show_check.h"
+#include "platform/values/errors.h"
 #include "platform/whole_file.h"
 #include "store/vystavy.h"
 
@@ -27,6 +28,11 @@ constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kNotUnderstood = 2;
 
+/// What is saved goes under a name of its kind, so that a slip never takes the place of the data.
+bool IsTextName(const QString& path) {
+    return path.endsWith(u".csv"_s, Qt::CaseInsensitive);
+}
+
 using Run = int (*)(const ShowAccess& show, const QStringList& arguments, QTextStream& out);
 
 int SaveList(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
@@ -34,7 +40,7 @@ int SaveList(const ShowAccess& show, const QStringList& arguments, QTextStream& 
     const auto* const list = std::ranges::find_if(kOfficeLists, [&](const OfficeListName& name) {
         return arguments[0] == QLatin1String(name.command);
     });
-    if (list == kOfficeLists.end())
+    if (list == kOfficeLists.end() || !(IsTextName(path) || IsSheetName(path)))
         return kNotUnderstood;
     const bool saved = show.OnShow([&] {
         const ListTable table = ReadOfficeList(list->list);
@@ -55,11 +61,15 @@ int Check(const ShowAccess& show, const QStringList&, QTextStream& out) {
 
 /// The lines that nobody has to look at are taken, the others go into the file of the rest.
 int Take(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
+    if (!IsTextName(arguments[1]))
+        return kNotUnderstood;
     const auto isNew = [](const EntryLine& line) {
         return line.state == LineState::New;
     };
     const bool taken = show.OnShowAlone([&] {
         const EntrySource source(arguments[0]);
+        if (source.IsFile(arguments[1]))
+            throw PlatformError(RestOverItsSource().toStdString());
         const std::vector<Vystavy> shows = Shows();
         const DateValue today = show.Today();
         EntryBook book(shows.empty() ? 0 : shows.front().ID, today);

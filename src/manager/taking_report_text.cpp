@@ -22,6 +22,10 @@ QString TakingReportText(const TakingReport& report, const QString& path) {
         .join(u'\n');
 }
 
+QString RestOverItsSource() {
+    return u"Zbytek nelze uložit do souboru, ze kterého se přihlášky berou. Zvolte jiný název."_s;
+}
+
 bool AreJudgedAlike(const std::vector<EntryLine>& some, const std::vector<EntryLine>& others) {
     return std::ranges::equal(some, others, [](const EntryLine& one, const EntryLine& other) {
         return one.state == other.state && one.reasons == other.reasons &&

@@ -23,6 +23,8 @@ constexpr int kBusyMilliseconds = 5000;
 constexpr int kPagesPerStep = 25;
 
 SQLite::Database Opened(const QString& path, int flags) {
+    if (!(flags & SQLite::OPEN_CREATE) && !QFile::exists(path))
+        throw StoreError(AboutFile(path, u"soubor neexistuje"_s));
     return {path.toStdString(), flags, kBusyMilliseconds};
 }
 

@@ -69,6 +69,17 @@ TEST_F(EntriesPageTest, ALineWithoutATickStaysAndGoesIntoTheRest) {
         << rest.toStdString();
 }
 
+TEST_F(EntriesPageTest, TheRestNeverTakesThePlaceOfTheEntries) {
+    OpenEntries(kEntries);
+    Tick(1);
+    platform.chosenFiles << Path(u"prihlasky.csv"_s);
+    platform.ExpectMessage(u"Zbytek nelze uložit do souboru, ze kterého se přihlášky berou. "
+                           "Zvolte jiný název."_s,
+                           MessageAnswer::Ok, MessageIcon::Exclamation);
+    Press("cmdRest");
+    EXPECT_EQ(Read(Path(u"prihlasky.csv"_s)), kEntries);
+}
+
 TEST_F(EntriesPageTest, ALineThatCanNotBeTakenTakesNoTick) {
     OpenEntries(kEntries);
     EXPECT_EQ(State(2), u"nelze převzít"_s);

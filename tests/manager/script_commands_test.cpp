@@ -77,9 +77,32 @@ TEST_F(ManagerTest, CopiesAreComparedAndPutBackByCommands) {
     EXPECT_TRUE(text.contains(u"Psi: přibylo 2, ubylo 0, změnilo se 0."_s)) << text.toStdString();
     EXPECT_EQ(RunCommand({u"vratit"_s, copy}), (std::pair{0, u"Vráceno: "_s + copy + u'\n'}));
     EXPECT_EQ(Figures().dogs, 0);
-    platform.anyMessages = true;
+}
+
+TEST_F(ManagerTest, ACopyThatIsNotThereIsNamedSo) {
+    const QString missing = u"Databáze %1: soubor neexistuje."_s.arg(
+        CopiesFolder(platform.ProgramFolder()) + u"/žádná.mdb"_s);
+    platform.ExpectMessage(missing, MessageAnswer::Ok, MessageIcon::Stop);
     EXPECT_EQ(RunCommand({u"porovnat"_s, u"žádná.mdb"_s, u"data.mdb"_s}).first, 1);
+    platform.ExpectMessage(missing, MessageAnswer::Ok, MessageIcon::Stop);
     EXPECT_EQ(RunCommand({u"vratit"_s, u"žádná.mdb"_s}).first, 1);
+}
+
+TEST_F(ManagerTest, TheRestNeverTakesThePlaceOfTheEntries) {
+    const QString entries = Write(kEntries);
+    platform.ExpectMessage(u"Zbytek nelze uložit do souboru, ze kterého se přihlášky berou. "
+                           "Zvolte jiný název."_s,
+                           MessageAnswer::Ok, MessageIcon::Stop);
+    const QString otherRoad = platform.ProgramFolder() + u"/./prihlasky.csv"_s;
+    EXPECT_EQ(RunCommand({u"prevzit"_s, entries, otherRoad}).first, 1);
+    EXPECT_EQ(Read(entries), kEntries);
+    EXPECT_EQ(Figures().dogs, 0);
+}
+
+TEST_F(ManagerTest, NothingIsSavedOverTheDatabase) {
+    EXPECT_EQ(RunCommand({u"seznam"_s, u"psi"_s, Path(u"data.mdb"_s)}).first, 2);
+    EXPECT_EQ(RunCommand({u"prevzit"_s, Write(kEntries), Path(u"data.mdb"_s)}).first, 2);
+    EXPECT_EQ(Figures().dogs, 0);
 }
 
 TEST_F(ManagerTest, PeopleAreRemovedByACommand) {

@@ -4,6 +4,8 @@
 #include "office/exchange/sheet_files.h"
 #include "platform/whole_file.h"
 
+#include <QFileInfo>
+
 namespace lorvo {
 
 EntrySource::EntrySource(const QString& path) : path_(path), isSheet_(IsSheetName(path)) {
@@ -13,6 +15,11 @@ EntrySource::EntrySource(const QString& path) : path_(path), isSheet_(IsSheetNam
     }
     bytes_ = ReadWholeFile(path);
     SetEncoding(GuessEncoding(bytes_));
+}
+
+bool EntrySource::IsFile(const QString& path) const {
+    const QString whole = QFileInfo(path).canonicalFilePath();
+    return !whole.isEmpty() && whole == QFileInfo(path_).canonicalFilePath();
 }
 
 void EntrySource::SetEncoding(TextEncoding encoding) {

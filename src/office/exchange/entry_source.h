@@ -16,6 +16,8 @@ class EntrySource {
     explicit EntrySource(const QString& path);
 
     const QString& Path() const { return path_; }
+    /// Whether that name, by whatever road, is the file that was read.
+    bool IsFile(const QString& path) const;
     /// A spreadsheet has neither letters nor separators to choose.
     bool IsSheet() const { return isSheet_; }
     TextEncoding Encoding() const { return encoding_; }
