@@ -47,6 +47,9 @@ std::vector<DogListRow> DogsWithOwnersByName() {
     const std::unordered_map<int, BreedNames> breeds = NamesOfBreeds();
     std::vector<DogListRow> dogs;
     std::vector<NamePlace> places;
+    const std::size_t count = RowsIn("Psi");
+    dogs.reserve(count);
+    places.reserve(count);
     Query rows(TheDataModule().Conn1,
                "SELECT PohlaviPes, PrvniPes, PrvniUzaverka, ID, Jmeno, ChovnaStanice, Trida, "
                "PlemenoID, MajitelID, Poznamka FROM Psi");

@@ -12,10 +12,6 @@ RecordSet& Table() {
 }
 
 /// The fields in the order of ReadOwners.
-std::optional<QString> TextOrNull(const Query& row, int column) {
-    return row.IsNull(column) ? std::nullopt : std::optional(row.Text(column));
-}
-
 Majitele ReadMajitele(const Query& row) {
     Majitele owner;
     owner.ID = row.Int(0);
@@ -64,6 +60,9 @@ Majitele ExistingOwner(int majitelID) {
 std::vector<Majitele> OwnersByName() {
     std::vector<Majitele> owners;
     std::vector<NamePlace> places;
+    const std::size_t count = RowsIn("Majitele");
+    owners.reserve(count);
+    places.reserve(count);
     for (Query rows(TheDataModule().Conn1, kOwners); rows.Next();) {
         owners.push_back(ReadMajitele(rows));
         places.emplace_back(rows, kJmeno, owners.back().Jmeno);

@@ -22,8 +22,13 @@ int CountWhere(const std::string& condition) {
 } // namespace
 
 std::vector<DogFeeRow> DogFeeRows() {
-    return ReadMany("SELECT ID, PlemenoID, MajitelID, Trida, PrvniUzaverka, PrvniPes FROM Psi",
-                    ReadDogFeeRow);
+    std::vector<DogFeeRow> dogs;
+    dogs.reserve(RowsIn("Psi"));
+    for (Query rows(TheDataModule().Conn1, "SELECT ID, PlemenoID, MajitelID, Trida, "
+                                           "PrvniUzaverka, PrvniPes FROM Psi");
+         rows.Next();)
+        dogs.push_back(ReadDogFeeRow(rows));
+    return dogs;
 }
 
 std::vector<Psi> DogsByNumber() {
@@ -67,7 +72,7 @@ std::unordered_map<int, std::vector<std::optional<int>>> DogNumbersByOwner() {
     std::unordered_map<int, std::vector<std::optional<int>>> numbers;
     Query query(TheDataModule().Conn1, "SELECT MajitelID, Cislo FROM Psi ORDER BY Cislo ASC");
     while (query.Next())
-        numbers[query.Int(0)].push_back(ToOptionalInt(query.Cell(1)));
+        numbers[query.Int(0)].push_back(IntOrNull(query, 1));
     return numbers;
 }
 

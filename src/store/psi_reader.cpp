@@ -22,12 +22,12 @@ Psi ReadPsi(const Query& row) {
     dog.ID = row.Int(column++);
     dog.Jmeno = row.Text(column++);
     dog.ChovnaStanice = row.Text(column++);
-    dog.Cislo = ToOptionalInt(row.Cell(column++));
+    dog.Cislo = IntOrNull(row, column++);
     dog.PlemenoID = row.Int(column++);
     dog.MajitelID = row.Int(column++);
     dog.BarvaID = row.Int(column++);
     dog.PohlaviPes = row.Bool(column++);
-    dog.DatumNar = ToOptionalDate(row.Cell(column++));
+    dog.DatumNar = DateOrNull(row, column++);
     dog.Trida = row.Int(column++);
     dog.Otec = row.Text(column++);
     dog.Matka = row.Text(column++);
@@ -48,7 +48,7 @@ std::vector<Psi> ReadDogs(const std::string& rest, const std::string& top) {
 std::vector<Psi> DogsByBreed() {
     std::vector<Psi> dogs;
     std::vector<BreedPlace> places;
-    const auto count = static_cast<std::size_t>(CountDogs());
+    const std::size_t count = RowsIn("Psi");
     dogs.reserve(count);
     places.reserve(count);
     for (Query rows(TheDataModule().Conn1, std::string("SELECT ") + kFields + " FROM Psi");

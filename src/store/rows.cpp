@@ -20,6 +20,11 @@ Value ReadScalar(RecordSet& set, const std::string& statement) {
     return value;
 }
 
+std::size_t RowsIn(const std::string& table) {
+    Query count(TheDataModule().Conn1, "SELECT COUNT(*) FROM " + table);
+    return count.Next() ? static_cast<std::size_t>(count.Int(0)) : 0;
+}
+
 int ReadCount(RecordSet& set, const std::string& statement) {
     return ReadScalar(set, statement).ToInt();
 }
@@ -112,6 +117,18 @@ std::unordered_map<int, std::vector<int>> ReadLinks(const std::string& statement
     for (Query query(TheDataModule().Conn1, statement); query.Next();)
         links[query.Int(0)].push_back(query.Int(1));
     return links;
+}
+
+std::optional<int> IntOrNull(const Query& row, int column) {
+    return row.IsNull(column) ? std::nullopt : std::optional(row.Int(column));
+}
+
+std::optional<DateValue> DateOrNull(const Query& row, int column) {
+    return row.IsNull(column) ? std::nullopt : std::optional(row.Date(column));
+}
+
+std::optional<QString> TextOrNull(const Query& row, int column) {
+    return row.IsNull(column) ? std::nullopt : std::optional(row.Text(column));
 }
 
 std::optional<int> ToOptionalInt(const Value& value) {

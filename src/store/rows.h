@@ -43,6 +43,9 @@ template<class Row> Row Existing(std::optional<Row> row, const char* table, int 
     return *std::move(row);
 }
 
+/// How many rows a table has, so that room for all of them can be made at once.
+std::size_t RowsIn(const std::string& table);
+
 /// All rows of `statement`, each read by `read(const Query&)`: for tables that hold many rows.
 template<class Reader> auto ReadMany(const std::string& statement, Reader read) {
     Query query(TheDataModule().Conn1, statement);
@@ -95,6 +98,11 @@ int CountNamed(RecordSet& set, const std::string& table, const QString& nazev);
 std::unordered_map<int, int> CountEach(const std::string& statement);
 /// Column 1 of the rows by column 0, in row order.
 std::unordered_map<int, std::vector<int>> ReadLinks(const std::string& statement);
+
+/// A cell of the current row; Null is nullopt.
+[[nodiscard]] std::optional<int> IntOrNull(const Query& row, int column);
+[[nodiscard]] std::optional<DateValue> DateOrNull(const Query& row, int column);
+[[nodiscard]] std::optional<QString> TextOrNull(const Query& row, int column);
 
 /// Null stays nullopt.
 [[nodiscard]] std::optional<int> ToOptionalInt(const Value& value);

@@ -8,8 +8,10 @@ namespace lorvo::docx {
 
 namespace {
 
+/// Most of any text: what stands alone and has a place in a document.
 bool IsPlainCharacter(QChar character) {
-    return character >= u' ' && !character.isSurrogate() && character < QChar(0xFFFE);
+    return (character >= u' ' || character == u'\t') && !character.isSurrogate() &&
+           character < QChar(0xFFFE);
 }
 
 void AppendAllowed(QString& target, QStringView text) {
@@ -19,7 +21,7 @@ void AppendAllowed(QString& target, QStringView text) {
     }
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar character = text[i];
-        if (IsPlainCharacter(character) || character == u'\t') {
+        if (IsPlainCharacter(character)) {
             target.append(character);
         } else if (character.isHighSurrogate() && i + 1 < text.size() &&
                    text[i + 1].isLowSurrogate()) {
