@@ -28,8 +28,15 @@ bool RenamedOver(const QString& from, const QString& to) {
     const auto wide = [](const QString& path) {
         return QDir::toNativeSeparators(path).toStdWString();
     };
-    return MoveFileExW(wide(from).c_str(), wide(to).c_str(),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    if (MoveFileExW(wide(from).c_str(), wide(to).c_str(),
+                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        return true;
+    // A file that is open, as the folder's lock holds the database, can still be exchanged.
+    const DWORD cause = GetLastError();
+    if (ReplaceFileW(wide(to).c_str(), wide(from).c_str(), nullptr, 0, nullptr, nullptr))
+        return true;
+    SetLastError(cause);
+    return false;
 #else
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 #endif

@@ -178,7 +178,7 @@ TEST_F(EntriesPageTest, WhatLorvoChangedMeanwhileIsShownFirst) {
 TEST_F(EntriesPageTest, AFileThatIsNoTableIsRefusedAndThePageStays) {
     Show(1);
     platform.chosenFiles << Path(u"neni.csv"_s);
-    platform.ExpectMessage(u"Soubor nelze přečíst „"_s + Path(u"neni.csv"_s) +
+    platform.ExpectMessage(u"Soubor nelze přečíst „"_s + Shown(u"neni.csv"_s) +
                            u"“: soubor nebo jeho složka neexistuje"_s);
     Press("cmdFile");
     EXPECT_FALSE(IsOffered("cmdTake"));

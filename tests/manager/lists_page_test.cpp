@@ -60,7 +60,7 @@ TEST_F(ListsPageTest, AListIsSavedAsTextAndAsASheet) {
 TEST_F(ListsPageTest, AFolderThatIsNotThereIsSaid) {
     ChooseExhibitors();
     platform.chosenFiles << Path(u"neni/v.csv"_s);
-    platform.ExpectMessage(u"Soubor nelze zapsat „"_s + Path(u"neni/v.csv"_s) +
+    platform.ExpectMessage(u"Soubor nelze zapsat „"_s + Shown(u"neni/v.csv"_s) +
                            u"“: soubor nebo jeho složka neexistuje"_s);
     Press("cmdCsv");
 }

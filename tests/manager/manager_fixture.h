@@ -13,6 +13,7 @@
 #include "support/recording_platform.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -48,6 +49,8 @@ class ManagerTest : public RoutinesTest {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     QString Path(const QString& name) const { return platform.ProgramFolder() + u'/' + name; }
+    /// The path as messages show it.
+    QString Shown(const QString& name) const { return QDir::toNativeSeparators(Path(name)); }
 
     /// What the data say now.
     DatabaseFigures Figures() const {
@@ -55,7 +58,8 @@ class ManagerTest : public RoutinesTest {
     }
     /// What has to be said where the main program has the folder.
     void ExpectRefusalBesideLorvo() {
-        platform.ExpectMessage(QStringLiteral("Nad složkou „") + platform.ProgramFolder() +
+        platform.ExpectMessage(QStringLiteral("Nad složkou „") +
+                                   QDir::toNativeSeparators(platform.ProgramFolder()) +
                                    QStringLiteral("“ běží Lorvo. Zavřete ho a zkuste to znovu."),
                                MessageAnswer::Ok, MessageIcon::Exclamation);
     }

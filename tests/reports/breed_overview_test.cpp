@@ -2,6 +2,7 @@
 #include "reports/paper_fixture.h"
 #include "support/window_walk.h"
 
+#include <QDir>
 #include <QTest>
 
 namespace lorvo::test {
@@ -44,9 +45,10 @@ TEST_F(BreedOverview, CountsBreedsInUseAndTheirDogs) {
 TEST_F(BreedOverview, ADocumentThatNothingOpensIsNamedAndTheWindowCloses) {
     platform.filesOpen = false;
     platform.ExpectMessage(
-        u"Dokument je uložen v souboru „%1/Tisky/Přehled plemen.docx“, ale na tomto počítači jej "
+        u"Dokument je uložen v souboru „%1“, ale na tomto počítači jej "
         u"nemá co otevřít. Otevřete jej na kterémkoli počítači s textovým procesorem (Microsoft "
-        u"Word, LibreOffice Writer)."_s.arg(platform.ProgramFolder()),
+        u"Word, LibreOffice Writer)."_s.arg(
+            QDir::toNativeSeparators(platform.ProgramFolder() + u"/Tisky/Přehled plemen.docx"_s)),
         MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Přehled plemen"_s);
     Click(window, "cmdOK");
     EXPECT_FALSE(window.isVisible());

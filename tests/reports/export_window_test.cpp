@@ -4,6 +4,7 @@
 #include "reports/export_window.h"
 #include "support/recording_platform.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QTest>
@@ -272,9 +273,10 @@ TEST_F(ExportWindowFrame, ADocumentThatNothingOpensIsNamedInAMessage) {
     window.show();
     platform.filesOpen = false;
     platform.ExpectMessage(
-        u"Dokument je uložen v souboru „%1/Tisky/Vzorek.docx“, ale na tomto počítači jej nemá co "
+        u"Dokument je uložen v souboru „%1“, ale na tomto počítači jej nemá co "
         u"otevřít. Otevřete jej na kterémkoli počítači s textovým procesorem (Microsoft Word, "
-        u"LibreOffice Writer)."_s.arg(platform.ProgramFolder()),
+        u"LibreOffice Writer)."_s.arg(
+            QDir::toNativeSeparators(platform.ProgramFolder() + u"/Tisky/Vzorek.docx"_s)),
         MessageAnswer::Ok, MessageIcon::Information, MessageButtons::Ok, u"Export"_s,
         [&] { EXPECT_EQ(platform.waitCursorDepth, 0) << "the run is over"; });
     window.ClickStart();

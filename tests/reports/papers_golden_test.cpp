@@ -118,8 +118,8 @@ TEST_P(EachPaper, WithoutRowsIsThePageAlone) {
 TEST_P(EachPaper, AMissingTemplateFolderIsAMessageThatNamesTheFile) {
     QDir(platform.ProgramFolder() + u"/Šablony"_s).removeRecursively();
     const auto window = GetParam().make();
-    const QString path =
-        platform.ProgramFolder() + u"/Šablony/"_s + QString::fromUtf16(GetParam().templateFile);
+    const QString path = QDir::toNativeSeparators(platform.ProgramFolder() + u"/Šablony/"_s +
+                                                  QString::fromUtf16(GetParam().templateFile));
     platform.ExpectMessage(
         u"Šablonu nelze otevřít „%1“: soubor nebo jeho složka neexistuje"_s.arg(path),
         MessageAnswer::Ok, MessageIcon::Stop, MessageButtons::Ok,
@@ -160,7 +160,8 @@ TEST_P(EachPaper, AnOutputThatCannotBeWrittenIsAMessage) {
     const QString path = platform.ProgramFolder() + u'/' + QString::fromUtf16(GetParam().output);
     ASSERT_TRUE(QDir().mkdir(path));
     const auto window = GetParam().make();
-    platform.ExpectMessage(u"Soubor nelze zapsat „%1“: tento název má složka"_s.arg(path));
+    platform.ExpectMessage(
+        u"Soubor nelze zapsat „%1“: tento název má složka"_s.arg(QDir::toNativeSeparators(path)));
     Start(*window, true);
     EXPECT_TRUE(window->isVisible());
     EXPECT_TRUE(platform.openedFiles.isEmpty());

@@ -12,6 +12,12 @@ export LORVO_WINDOWS=$windows QT_QPA_PLATFORM=offscreen WINEPREFIX=$windows/wine
 cd "$here/../.."
 export LORVO_SOURCE_DIR=Z:$PWD
 
+# Beside the program lie the toolkit's Czech texts; and widths are to be those of the tests on Linux.
+mkdir -p "$prefix/translations" "$windows/fonts"
+cp /usr/share/qt6/translations/qtbase_cs.qm "$prefix/translations/"
+cp /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold}.ttf "$windows/fonts/"
+export WINEQT_QPA_FONTDIR=Z:$windows/fonts
+
 cmake --preset windows -DLORVO_TESTS=ON > "$windows/log/tests-configure.log" || exit 1
 cmake --build --preset windows --parallel > "$windows/log/tests-build.log" || exit 1
 results=$windows/test-results

@@ -22,7 +22,9 @@ const QStringList kJournalEndings = {u"-wal"_s, u"-shm"_s, u"-journal"_s};
 
 QStringList CopyPaths(const QString& folder) {
     QStringList names;
-    for (const QString& name : QDir(folder).entryList({u"data *.mdb"_s}, QDir::Files))
+    // No pattern of names: what the toolkit keeps for it outlives the copy's thread under MinGW,
+    // and the program never ends.
+    for (const QString& name : QDir(folder).entryList(QDir::Files))
         if (MomentOfCopy(name))
             names << name;
     std::ranges::sort(names, std::greater<>()); // names are moments
