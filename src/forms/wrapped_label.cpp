@@ -14,28 +14,17 @@ QString WrappedLabel::Breakable(int) const {
     return text();
 }
 
-/// What the text takes unbroken. An ordinary label shapes its text five times to say what it needs,
-/// and once more for each height that it is asked for; most texts fit, and need to be shaped once.
-QSize WrappedLabel::OneLine() const {
-    if (!line_ || line_->text != text() || line_->font != font()) {
-        const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
-        const QRect anyPlace(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        line_ = {text(), font(), fontMetrics().boundingRect(anyPlace, flags, text()).size()};
-    }
-    return line_->size;
-}
-
 /// Whether the label takes the width that it is given, and that is enough.
 bool WrappedLabel::IsAtEase() const {
     return sizePolicy().horizontalPolicy() == QSizePolicy::Ignored && Fits(width());
 }
 
 QSize WrappedLabel::sizeHint() const {
-    return IsAtEase() ? OneLine() : QLabel::sizeHint();
+    return IsAtEase() ? line_.Of(*this) : QLabel::sizeHint();
 }
 
 QSize WrappedLabel::minimumSizeHint() const {
-    return IsAtEase() ? OneLine() : QLabel::minimumSizeHint();
+    return IsAtEase() ? line_.Of(*this) : QLabel::minimumSizeHint();
 }
 
 bool WrappedLabel::BreaksItself(int width) const {
@@ -64,7 +53,7 @@ QString WrappedLabel::Broken(int width) const {
 
 int WrappedLabel::heightForWidth(int width) const {
     if (!BreaksItself(width))
-        return Fits(width) ? OneLine().height() : QLabel::heightForWidth(width);
+        return Fits(width) ? line_.Of(*this).height() : QLabel::heightForWidth(width);
     const auto lines = static_cast<int>(Broken(width).count(u'\n')) + 1;
     return lines * fontMetrics().lineSpacing();
 }

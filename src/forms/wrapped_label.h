@@ -1,8 +1,7 @@
 #pragma once
 // Texts of users on as many lines as they need.
 
-#include <QLabel>
-#include <optional>
+#include "forms/one_line.h"
 
 namespace lorvo {
 
@@ -25,19 +24,12 @@ class WrappedLabel : public QLabel {
     virtual QString Breakable(int width) const;
 
   private:
-    QSize OneLine() const;
-    bool Fits(int width) const { return OneLine().width() <= width; }
+    bool Fits(int width) const { return line_.Of(*this).width() <= width; }
     bool IsAtEase() const;
     bool BreaksItself(int width) const;
     QString Broken(int width) const;
 
-    /// What was measured last.
-    struct Line {
-        QString text;
-        QFont font;
-        QSize size;
-    };
-    mutable std::optional<Line> line_;
+    OneLine line_;
 };
 
 } // namespace lorvo

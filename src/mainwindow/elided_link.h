@@ -3,6 +3,7 @@
 
 #include "forms/controls.h"
 #include "forms/elided_label.h"
+#include "forms/one_line.h"
 
 namespace lorvo {
 
@@ -11,6 +12,18 @@ class ElidedLink : public Elided<LinkLabel> {
     Q_OBJECT
   public:
     explicit ElidedLink(QWidget* parent) : Elided(QString(), parent) {}
+
+    /// As any link's; kept here too, since the link is measured here.
+    void SetReach(int width) {
+        reach_ = width;
+        LinkLabel::SetReach(width);
+    }
+    QSize sizeHint() const override { return line_.Of(*this).expandedTo({reach_, 0}); }
+    QSize minimumSizeHint() const override { return Ellipsis::LeastSize(*this, line_.Of(*this)); }
+
+  private:
+    OneLine line_;
+    int reach_ = 0;
 };
 
 } // namespace lorvo

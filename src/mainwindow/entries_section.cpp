@@ -2,6 +2,7 @@
 
 #include "forms/controls.h"
 #include "forms/report_list.h"
+#include "mainwindow/line_label.h"
 #include "mainwindow/panel_builders.h"
 #include "office/cards/entry_ticks.h"
 #include "platform/failure_guard.h"
@@ -53,8 +54,8 @@ QLayout* EntriesSection::Values() {
     firstDog_ = grid.AddText(0, u"První pes:"_s);
     price_ = grid.AddAmount(1, u"Cena celkem:"_s);
     paid_ = grid.AddAmount(1, u"Uhrazeno:"_s);
-    balance_ = ValueLabel(u"Rozdíl:"_s, nullptr);
-    balanceWord_ = new QLabel;
+    balance_ = new LineLabel(u"Rozdíl:"_s);
+    balanceWord_ = new LineLabel(QString());
     balanceWord_->setObjectName(u"lblBalanceWord"_s);
     balance_->setFont(paid_->font());
     balanceWord_->setFont(paid_->font());

@@ -2,6 +2,7 @@
 
 #include "forms/controls.h"
 #include "forms/elided_label.h"
+#include "mainwindow/elided_link.h"
 #include "mainwindow/panel_builders.h"
 #include "platform/failure_guard.h"
 

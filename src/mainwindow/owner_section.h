@@ -9,6 +9,7 @@ class QToolButton;
 
 namespace lorvo {
 
+class ElidedLink;
 class LinkLabel;
 
 class OwnerSection : public CollapsibleFrame {
@@ -31,7 +32,7 @@ class OwnerSection : public CollapsibleFrame {
     QLayout* Pictures();
     void ShowOwnerName(const QString& name);
 
-    LinkLabel* name_;
+    ElidedLink* name_;
     QLabel* street_;
     QLabel* postCode_;
     QLabel* town_;

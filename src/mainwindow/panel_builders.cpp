@@ -5,6 +5,7 @@
 #include "forms/report_list.h"
 #include "forms/wrapped_label.h"
 #include "mainwindow/elided_link.h"
+#include "mainwindow/line_label.h"
 #include "mainwindow/pairs_layout.h"
 
 #include <QApplication>
@@ -107,7 +108,7 @@ void ValueGrid::Add(int pair, const QString& caption, QWidget* value) {
     pairs_->AddLine(pair, new QLabel(caption), value, Qt::AlignTop);
 }
 
-LinkLabel* ValueGrid::AddLink(int pair, const QString& caption) {
+ElidedLink* ValueGrid::AddLink(int pair, const QString& caption) {
     auto* link = new ElidedLink(nullptr);
     link->setAccessibleName(caption);
     link->setFont(Bold(link->font()));
@@ -130,7 +131,7 @@ QLabel* ValueGrid::AddText(int pair, const QString& caption, const QString& name
 }
 
 QLabel* ValueGrid::AddAmount(int pair, const QString& caption) {
-    QLabel* value = ValueLabel(caption, nullptr);
+    auto* value = new LineLabel(caption);
     value->setFont(Bold(value->font()));
     value->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     Add(pair, caption, value);

@@ -10,7 +10,7 @@ class QLayout;
 
 namespace lorvo {
 
-class LinkLabel;
+class ElidedLink;
 class PairsLayout;
 class ReportList;
 
@@ -35,7 +35,7 @@ class ValueGrid {
     /// own is found by the caption.
     void Add(int pair, const QString& caption, QWidget* value);
     /// The same with a link, which is as wide as its own text and no wider.
-    LinkLabel* AddLink(int pair, const QString& caption);
+    ElidedLink* AddLink(int pair, const QString& caption);
     /// The same with a bold label of that name (none when empty), which is returned.
     QLabel* AddText(int pair, const QString& caption, const QString& name = {});
 
