@@ -43,8 +43,7 @@ QString TextOf(const QWidget& control) {
 
 /// What was noted at the control; most controls have nothing noted, which is soon seen.
 QChar LetterIn(const QWidget& control, const char* property) {
-    return control.dynamicPropertyNames().contains(property) ? control.property(property).toChar()
-                                                             : QChar();
+    return control.dynamicPropertyNames().isEmpty() ? QChar() : control.property(property).toChar();
 }
 
 /// The page of a stack that the control stands on, null for none.

@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace lorvo {
 
@@ -40,8 +41,16 @@ void LinkLabel::leaveEvent(QEvent* event) {
     Underline(false);
 }
 
+// What can have the keyboard is a whole document for the toolkit's label, laid out for each text
+// and each painting of it. A link that is as high as its line needs none of that.
 void LinkLabel::paintEvent(QPaintEvent* event) {
-    QLabel::paintEvent(event);
+    if (contentsRect().height() == fontMetrics().height()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(isEnabled() ? foregroundRole() : QPalette::Text));
+        painter.drawText(contentsRect(), static_cast<int>(alignment()), text());
+    } else {
+        QLabel::paintEvent(event);
+    }
     PaintFocusFrame(*this);
 }
 

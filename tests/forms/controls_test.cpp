@@ -70,6 +70,40 @@ TEST(LinkLabelTest, UnderlinesUnderTheMouseAndActsOnClicksAndKeys) {
     EXPECT_EQ(clicks[1][0].value<Qt::MouseButton>(), Qt::RightButton);
 }
 
+/// The toolkit's label in a link's place.
+class OrdinaryLink : public QLabel {
+  public:
+    OrdinaryLink() {
+        setTextFormat(Qt::PlainText);
+        setForegroundRole(QPalette::Link);
+        setFocusPolicy(Qt::TabFocus);
+    }
+};
+
+TEST(LinkLabelTest, LooksAsAnOrdinaryLabelInEachState) {
+    LinkLabel link(QString(), nullptr);
+    OrdinaryLink ordinary;
+    const auto picture = [](QLabel& label, const QPalette& palette, bool enabled, bool underlined,
+                            int more) {
+        QFont font;
+        font.setUnderline(underlined);
+        label.setFont(font);
+        label.setPalette(palette);
+        label.setEnabled(enabled);
+        label.setText(u"Příjem & platby"_s);
+        label.resize(160, label.fontMetrics().height() + more);
+        return label.grab().toImage();
+    };
+    const QPalette dark(QColor(53, 53, 53), QColor(35, 35, 35));
+    for (const QPalette& palette : {QPalette(), dark})
+        for (const bool enabled : {true, false})
+            for (const bool underlined : {false, true})
+                for (const int more : {0, 9})
+                    EXPECT_EQ(picture(link, palette, enabled, underlined, more),
+                              picture(ordinary, palette, enabled, underlined, more))
+                        << enabled << underlined << more;
+}
+
 TEST(DatePickerTest, ShowsTheSystemsShortDateAndKeepsDates) {
     test::RecordingPlatform platform;
     const std::unique_ptr<QDateEdit> picker(DatePicker(u"dtBorn"_s, nullptr));
