@@ -5,6 +5,7 @@
 #include "platform/failure_guard.h"
 #include "platform/values/errors.h"
 
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace lorvo {
@@ -76,10 +77,10 @@ void CopiesPage::ConnectControls() {
 
 void CopiesPage::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    Guarded([this] {
-        if (!filled_)
+    Guarded([this, event] {
+        if (!event->spontaneous()) // else the whole window came back, and no other page was worked
+                                   // on
             Later(this, [this] { Refill(); });
-        filled_ = true;
     });
 }
 

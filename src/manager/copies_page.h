@@ -18,7 +18,7 @@ class CopiesPage : public QWidget {
   public:
     CopiesPage(const ShowAccess& show, QWidget* parent);
 
-    /// Lists the folder anew; each copy is checked whole.
+    /// Lists the folder anew, as each return to the page does; each copy is checked whole.
     void Refill();
 
     ReportList* lvwZalohy; ///< the first row is the present state
@@ -43,7 +43,6 @@ class CopiesPage : public QWidget {
 
     const ShowAccess show_;
     std::vector<ShowCopy> copies_;
-    bool filled_ = false;
 };
 
 } // namespace lorvo

@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -65,13 +66,19 @@ void EntriesPage::ChooseColumns() {
 }
 
 void EntriesPage::FillShows() {
-    if (cmbShow->count() > 0)
-        return;
+    const QVariant chosen = cmbShow->currentData();
+    cmbShow->clear();
     std::vector<Vystavy> shows;
     if (show_.OnShow([&shows] { shows = Shows(); }))
         for (const Vystavy& show : shows)
             cmbShow->addItem(show.Nazev, show.ID);
     cmbShow->addItem(u"(žádnou)"_s, 0);
+    cmbShow->setCurrentIndex(std::max(0, cmbShow->findData(chosen)));
+}
+
+bool EntriesPage::IsShowThere() const {
+    const int chosen = cmbShow->currentData().toInt();
+    return chosen == 0 || ShowByID(chosen);
 }
 
 std::vector<EntryLine> EntriesPage::JudgedNow() const {
@@ -119,8 +126,8 @@ void EntriesPage::Take() {
     bool changed = false;
     const bool ran = show_.OnShowAlone([&] {
         // Lorvo may have run since the lines were shown.
-        const std::vector<EntryLine> now = JudgedNow();
-        changed = !AreJudgedAlike(now, lines_);
+        std::vector<EntryLine> now;
+        changed = !IsShowThere() || !AreJudgedAlike(now = JudgedNow(), lines_);
         if (changed)
             return;
         show_.CopyNow();
@@ -131,6 +138,7 @@ void EntriesPage::Take() {
     });
     if (changed) {
         show_.Warn(u"Databáze se od načtení souboru změnila. Podívejte se na řádky znovu."_s);
+        FillShows();
         Judge();
     } else if (ran) {
         SayTaken(report);

@@ -42,7 +42,9 @@ class EntriesPage : public QWidget {
     void ChooseFile();
     void ReadAnew(); ///< letters or separator have changed
     void ChooseColumns();
+    /// The shows as they are; the chosen one stays chosen.
     void FillShows();
+    bool IsShowThere() const;
     void Judge();
     std::vector<EntryLine> JudgedNow() const;
     void ShowLines();

@@ -7,6 +7,7 @@
 #include "platform/failure_guard.h"
 #include "platform/whole_file.h"
 
+#include <QShowEvent>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -71,6 +72,14 @@ void ListsPage::LayOut() {
     column->addStretch(1);
     column->addWidget(totals_);
     column->addLayout(ButtonRow({cmdCsv, cmdSheet}));
+}
+
+void ListsPage::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    Guarded([this, event] {
+        if (!event->spontaneous() && lvwSeznamy->SelectedRow() >= 0)
+            Later(this, [this] { ShowList(); });
+    });
 }
 
 void ListsPage::ShowList() {

@@ -18,12 +18,15 @@ class ListsPage : public QWidget {
   public:
     ListsPage(const ShowAccess& show, QWidget* parent);
 
-    /// Reads the chosen list anew and shows its rows and totals.
+    /// Reads the chosen list anew, as each return to the page does, and shows its rows and totals.
     void ShowList();
 
     ReportList* lvwSeznamy;
     QPushButton* cmdCsv;
     QPushButton* cmdSheet;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
 
   private:
     void LayOut();

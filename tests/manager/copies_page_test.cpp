@@ -56,6 +56,16 @@ TEST_F(CopiesPageTest, ACopyIsMadeComparedAndPutBack) {
     EXPECT_EQ(Copies().RowCount(), 3) << "the state before was copied";
 }
 
+TEST_F(CopiesPageTest, WhatOtherPagesDidStandsThereOnReturn) {
+    ASSERT_EQ(Copies().RowCount(), 1);
+    Show(2);
+    MakeCopy(platform.ProgramFolder(), platform.now);
+    AddOwner("Eva");
+    Show(0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Copies().RowCount() == 2; }));
+    EXPECT_EQ(Copies().CellText(0, 2), u"1"_s);
+}
+
 TEST_F(CopiesPageTest, BesideLorvoNothingIsPutBack) {
     AddOwner("Eva");
     Press("cmdMake");

@@ -175,6 +175,19 @@ TEST_F(EntriesPageTest, WhatLorvoChangedMeanwhileIsShownFirst) {
     EXPECT_EQ(State(0), u"nelze převzít"_s);
 }
 
+TEST_F(EntriesPageTest, NothingIsTakenIntoAShowThatIsGone) {
+    OpenEntries(kEntries);
+    TheDataModule().Conn1.Open(DatabasePath(platform.ProgramFolder()));
+    Add("Vystavy", {{"Nazev", Text("Druhá")}});
+    TheDataModule().rsVystavy.Open("DELETE * FROM Vystavy WHERE ID = 1");
+    TheDataModule().Conn1.Close();
+    platform.ExpectMessage(
+        u"Databáze se od načtení souboru změnila. Podívejte se na řádky znovu."_s);
+    Press("cmdTake");
+    EXPECT_EQ(Figures().dogs, 0);
+    EXPECT_EQ(Control<QComboBox>(window, "cmbShow").currentText(), u"Druhá"_s);
+}
+
 TEST_F(EntriesPageTest, AFileThatIsNoTableIsRefusedAndThePageStays) {
     Show(1);
     platform.chosenFiles << Path(u"neni.csv"_s);

@@ -47,6 +47,17 @@ TEST_F(ListsPageTest, AListStandsWithItsTotalsAndNumbersAtTheRight) {
     EXPECT_FALSE(alignment(0) & Qt::AlignRight) << "names";
 }
 
+TEST_F(ListsPageTest, AChosenListIsReadAnewOnReturn) {
+    ChooseExhibitors();
+    ASSERT_EQ(List("lvwRadky").RowCount(), 1);
+    Show(3);
+    TheDataModule().Conn1.Open(DatabasePath(platform.ProgramFolder()));
+    Add("Majitele", {{"Jmeno", Text("Jan")}});
+    TheDataModule().Conn1.Close();
+    Show(2);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return List("lvwRadky").RowCount() == 2; }));
+}
+
 TEST_F(ListsPageTest, AListIsSavedAsTextAndAsASheet) {
     ChooseExhibitors();
     platform.chosenFiles << Path(u"v.csv"_s) << Path(u"v.xlsx"_s);
