@@ -50,6 +50,10 @@ std::unordered_map<int, std::vector<int>> ShowsByDog() {
     return ReadLinks("SELECT PesID, VystavaID FROM PsiVeVystavach");
 }
 
+LinkTable ShowLinks() {
+    return LinkTable(ReadPairs("SELECT PesID, VystavaID FROM PsiVeVystavach"));
+}
+
 void AddDogToShows(int psiID, const std::vector<int>& vystavaIDs) {
     InsertLinks(Table(), "PsiVeVystavach", "PesID", psiID, "VystavaID", vystavaIDs);
 }

@@ -2,6 +2,8 @@
 // PsiVeVystavach: which dog stands in which show. Every routine raises StoreError when the store
 // refuses.
 
+#include "store/link_table.h"
+
 #include <unordered_map>
 #include <vector>
 
@@ -15,6 +17,8 @@ std::vector<int> ShowsOfOtherDogs(int psiID);
 int CountDogsInShow(int vystavaID);
 /// VystavaID of each row by the dog's ID, in row order.
 std::unordered_map<int, std::vector<int>> ShowsByDog();
+/// The same for readers who look up many dogs.
+LinkTable ShowLinks();
 
 /// Adds a row per show; the dog's rows before are left.
 void AddDogToShows(int psiID, const std::vector<int>& vystavaIDs);

@@ -25,6 +25,10 @@ std::unordered_map<int, std::vector<int>> CompetitionsByDog() {
     return ReadLinks("SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze");
 }
 
+LinkTable CompetitionLinks() {
+    return LinkTable(ReadPairs("SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze"));
+}
+
 void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs) {
     InsertLinks(Table(), "Vazby_Souteze", "ID_Psa", psiID, "ID_Souteze", soutezIDs);
 }

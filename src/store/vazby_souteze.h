@@ -2,6 +2,8 @@
 // Vazby_Souteze: which dog takes part in which competition. Every routine raises StoreError when
 // the store refuses.
 
+#include "store/link_table.h"
+
 #include <unordered_map>
 #include <vector>
 
@@ -14,6 +16,8 @@ std::vector<int> CompetitionsOfDog(int psiID);
 int CountDogsInCompetition(int soutezID);
 /// ID_Souteze of each row by the dog's ID, in row order.
 std::unordered_map<int, std::vector<int>> CompetitionsByDog();
+/// The same for readers who look up many dogs.
+LinkTable CompetitionLinks();
 
 /// Adds a row per competition; the dog's rows before are left.
 void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs);

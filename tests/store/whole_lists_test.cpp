@@ -10,6 +10,7 @@
 #include "store/vazby_souteze.h"
 #include "store/vystavy.h"
 
+#include <algorithm>
 #include <random>
 
 namespace lorvo::test {
@@ -103,7 +104,10 @@ TEST_F(WholeListsTest, PaidAmounts) {
 TEST_F(WholeListsTest, ShowEntriesWithTheirFees) {
     const FeeTables tables;
     auto shows = ShowsByDog();
+    const LinkTable links = ShowLinks();
+    EXPECT_TRUE(links.Of(-1).empty());
     for (const DogFeeRow& dog : DogFeeRows()) {
+        EXPECT_TRUE(std::ranges::equal(links.Of(dog.ID), shows[dog.ID]));
         EXPECT_EQ(shows[dog.ID], ReadNumbers("SELECT VystavaID FROM PsiVeVystavach WHERE PesID = " +
                                              Number(dog.ID)));
         for (const int vystavaID : shows[dog.ID]) {
@@ -120,6 +124,9 @@ TEST_F(WholeListsTest, ShowEntriesWithTheirFees) {
 
 TEST_F(WholeListsTest, CompetitionEntries) {
     auto competitions = CompetitionsByDog();
+    const LinkTable links = CompetitionLinks();
+    for (const int ID : DogIDs())
+        EXPECT_TRUE(std::ranges::equal(links.Of(ID), competitions[ID]));
     for (const int ID : DogIDs())
         EXPECT_EQ(competitions[ID],
                   ReadNumbers("SELECT ID_Souteze FROM Vazby_Souteze WHERE ID_Psa = " + Number(ID)));

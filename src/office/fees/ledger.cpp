@@ -11,12 +11,6 @@ namespace lorvo {
 
 namespace {
 
-const std::vector<int>& RowsOf(const std::unordered_map<int, std::vector<int>>& byDog, int psiID) {
-    static const std::vector<int> nothing;
-    const auto found = byDog.find(psiID);
-    return found == byDog.end() ? nothing : found->second;
-}
-
 /// What the database holds, asked for row by row.
 struct StoredRows {
     const std::vector<Souteze>& competitions;
@@ -49,17 +43,9 @@ AccountDog AccountDogOf(const DogFeeRow& dog) {
 }
 
 ShowLedger::ShowLedger()
-    : showsByDog_(ShowsByDog()), competitionsByDog_(CompetitionsByDog()), paidByDog_(PaidByDog()) {
+    : shows_(ShowLinks()), entries_(CompetitionLinks()), paidByDog_(PaidByDog()) {
     for (Souteze& competition : Competitions())
         competitions_.emplace(competition.ID, std::move(competition));
-}
-
-const std::vector<int>& ShowLedger::ShowsOf(int psiID) const {
-    return RowsOf(showsByDog_, psiID);
-}
-
-const std::vector<int>& ShowLedger::CompetitionsOf(int psiID) const {
-    return RowsOf(competitionsByDog_, psiID);
 }
 
 Currency ShowLedger::PaidFor(int psiID) const {

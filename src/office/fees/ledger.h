@@ -3,6 +3,7 @@
 // Both give the same account for the same rows.
 
 #include "office/fees/account.h"
+#include "store/link_table.h"
 #include "store/psi_lists.h"
 #include "store/souteze.h"
 #include "store/vystavy.h"
@@ -27,8 +28,8 @@ class ShowLedger {
     }
 
     // As AccountOf asks.
-    const std::vector<int>& ShowsOf(int psiID) const;
-    const std::vector<int>& CompetitionsOf(int psiID) const;
+    std::span<const int> ShowsOf(int psiID) const { return shows_.Of(psiID); }
+    std::span<const int> CompetitionsOf(int psiID) const { return entries_.Of(psiID); }
     Currency PaidFor(int psiID) const;
     Currency Fee(int vystavaID, bool firstClosing, int classColumn, bool firstDog) const;
     [[nodiscard]] std::optional<Currency> PriceOf(int soutezID) const;
@@ -41,8 +42,8 @@ class ShowLedger {
   private:
     FeeTables fees_;
     std::unordered_map<int, Souteze> competitions_;
-    std::unordered_map<int, std::vector<int>> showsByDog_;
-    std::unordered_map<int, std::vector<int>> competitionsByDog_;
+    LinkTable shows_;
+    LinkTable entries_; ///< in competitions
     std::unordered_map<int, Currency> paidByDog_;
 };
 
