@@ -28,8 +28,8 @@ expect() { # expect WHAT COMMAND...
 }
 
 # start_program EXE PICTURE: shows the main window, takes its picture, closes it by its user's keys.
-# It has ended well when no journal is left; Wine's own starter may stay with its desktop. What ran
-# before without a display leaves a desktop that shows no windows.
+# It has ended well when its process is gone by itself and no journal is left. What ran before
+# without a display leaves a desktop that shows no windows.
 start_program() {
   timeout 60 wineserver -w || wineserver -k
   timeout 180 xvfb-run -a -s '-screen 0 1280x800x24' bash -c '
@@ -40,11 +40,10 @@ start_program() {
     scrot --overwrite "$3"
     xdotool windowfocus "$window" key alt+F4
     for second in {1..60}; do
-      [ -e "${2%/*}/data.mdb-wal" ] || break
+      kill -0 $program || break
       sleep 1
     done
-    kill $program
-    [ ! -e "${2%/*}/data.mdb-wal" ]' bash "$wine" "$1" "$2"
+    ! kill $program && [ ! -e "${2%/*}/data.mdb-wal" ]' bash "$wine" "$1" "$2"
 }
 
 # What the clerk has: changed data, a changed template, something printed, settings.

@@ -2,6 +2,7 @@
 # Starts a Windows program under Wine with the cross-compiled libraries on its path; ends with the
 # program's exit code. Wine keeps Qt's variables from a program unless they are named WINEQT_*.
 prefix=$LORVO_WINDOWS/prefix
+export LC_ALL="${LC_ALL:-C.UTF-8}" # Wine makes names with accents in such a locale alone
 export WINEPREFIX="${WINEPREFIX:-$LORVO_WINDOWS/wine}" WINEDEBUG="${WINEDEBUG:--all}"
 export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml,winemenubuilder.exe=}"
 export WINEPATH="Z:$prefix/bin${WINEPATH:+;$WINEPATH}"
