@@ -73,13 +73,25 @@ void DropOldCopies(const QString& folder, DateValue now) {
         QFile::remove(paths[static_cast<qsizetype>(position)]);
 }
 
-/// A database that the engine can't copy any more goes aside as it is, its log with it.
+/// A database that the engine can't copy any more goes aside as it is, its log with it; one that is
+/// gone may have left its log.
 void PutAside(const QString& database, const QString& folder, DateValue now) {
     const QString target = folder + u"/poškozená "_s + CopyName(now);
-    if (!QFile::copy(database, target))
+    if (QFile::exists(database) && !QFile::copy(database, target))
         FailToWriteFile(target, u"na disku není volné místo"_s);
     for (const QString& ending : kJournalEndings)
         QFile::copy(database + ending, target + ending);
+}
+
+/// Whatever stands in the database's place stays in the folder of the copies too.
+void KeepPresentState(const QString& programFolder, DateValue now) {
+    try {
+        MakeCopy(programFolder, now);
+    } catch (const DiskError&) {
+        throw;
+    } catch (const StoreError&) { // damaged, empty, no show at all, or gone
+        PutAside(DatabasePath(programFolder), CopiesFolder(programFolder), now);
+    }
 }
 
 QString FaultOf(const QString& path) {
@@ -177,11 +189,7 @@ void PutCopyBack(const QString& programFolder, const QString& copy, DateValue no
     QFile::remove(fresh);
     const auto noDraftStays = qScopeGuard([&fresh] { QFile::remove(fresh); });
     CopyDatabase(copy, fresh);
-    try {
-        MakeCopy(programFolder, now);
-    } catch (const CorruptStoreError&) {
-        PutAside(database, CopiesFolder(programFolder), now);
-    }
+    KeepPresentState(programFolder, now);
     // A log of the old file must never meet the new one.
     for (const QString& ending : kJournalEndings)
         QFile::remove(database + ending);

@@ -38,10 +38,10 @@ std::vector<ShowCopy> ListCopies(const QString& programFolder, bool checked);
 /// What came, went and changed from one database file to another, in sentences.
 QStringList CompareDatabases(const QString& earlier, const QString& later);
 
-/// Makes the copy the show's database. The present file is copied first (a damaged one is put aside
-/// as it is); the copy is checked before and after; data.mdb is replaced in one step when the new
-/// file is whole and synced. Nobody else may have the database open. Raises as MakeCopy does;
-/// data.mdb is then as it was.
+/// Makes the copy the show's database. The present file is copied first (one that is
+/// damaged or no show is put aside as it is, and it may be missing); the copy is checked before and
+/// after; data.mdb is replaced in one step when the new file is whole and synced. Nobody else may
+/// have the database open. Raises as MakeCopy does; data.mdb is then as it was.
 void PutCopyBack(const QString& programFolder, const QString& copy, DateValue now);
 
 } // namespace lorvo

@@ -116,6 +116,20 @@ TEST_F(ShowCopiesTest, ADamagedDatabaseGoesAsideWhenACopyIsPutBack) {
     EXPECT_EQ(Files().filter(u"poškozená"_s).size(), 1);
 }
 
+TEST_F(ShowCopiesTest, ACopyIsPutBackInThePlaceOfADatabaseThatIsGoneOrEmpty) {
+    AddOwner("Eva");
+    const QString copy = Copy();
+    TheDataModule().Conn1.Close();
+    ASSERT_TRUE(QFile::remove(DatabasePath(Folder())));
+    PutCopyBack(Folder(), copy, now);
+    EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 1);
+    EXPECT_EQ(Files().size(), 1);
+    ASSERT_TRUE(QFile::resize(DatabasePath(Folder()), 0));
+    PutCopyBack(Folder(), copy, now);
+    EXPECT_EQ(FiguresOfDatabase(DatabasePath(Folder())).owners, 1);
+    EXPECT_EQ(Files().filter(u"poškozená"_s).size(), 1);
+}
+
 TEST_F(ShowCopiesTest, ADamagedCopyIsRefusedAndNothingChanges) {
     AddOwner("Eva");
     const QString copy = Copy();
