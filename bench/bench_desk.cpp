@@ -102,7 +102,9 @@ QStringList Keys(const char* kind) {
     return keys;
 }
 
-/// Marks what showing another node changes: the tree, the panel, and the lists on it.
+/// Marks what showing another node changes: the tree, the title, and the lists on the panel. The
+/// texts of a panel lie in a scrolling area that covers its own ground, and stay unpainted: the
+/// limit is lower than a window can come that shows other texts.
 void MarkChanges(OpenWindow& open) {
     open.Viewport().update();
     auto& panels = *open.window.findChild<QWidget*>(u"picDetails"_s);
