@@ -80,8 +80,7 @@ TEST_F(ManagerTest, CopiesAreComparedAndPutBackByCommands) {
 }
 
 TEST_F(ManagerTest, ACopyThatIsNotThereIsNamedSo) {
-    const QString missing = u"Databáze %1: soubor neexistuje."_s.arg(
-        CopiesFolder(platform.ProgramFolder()) + u"/žádná.mdb"_s);
+    const QString missing = u"Databáze %1: soubor neexistuje."_s.arg(Shown(u"Zálohy/žádná.mdb"_s));
     platform.ExpectMessage(missing, MessageAnswer::Ok, MessageIcon::Stop);
     EXPECT_EQ(RunCommand({u"porovnat"_s, u"žádná.mdb"_s, u"data.mdb"_s}).first, 1);
     platform.ExpectMessage(missing, MessageAnswer::Ok, MessageIcon::Stop);
