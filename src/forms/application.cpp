@@ -83,16 +83,19 @@ int Application::Run(const std::function<void()>& start) {
 
 int Application::Tell(const QString& text, MessageIcon icon) {
     bool told = false;
-    Later(this, [&] {
-        ThePlatform().messages->Show(text, icon, MessageButtons::Ok, u"Lorvo"_s);
+    const auto tell = [&] {
         told = true;
+        ThePlatform().messages->Show(text, icon, MessageButtons::Ok, u"Lorvo"_s);
+    };
+    Later(this, [&] {
+        tell();
         exit(1);
     });
     removePostedEvents(this, QEvent::Quit); // of windows that closed while the failure rose
     exec();
-    if (!told) // a timer that failed again came before it
-        sendPostedEvents(this, QEvent::MetaCall);
     static_cast<void>(TakeFailure()); // what failed beside the last message is told by nobody
+    if (!told)                        // a timer that failed again came before it
+        tell();
     return 1;
 }
 
