@@ -19,4 +19,4 @@ lines() { sed 's|^\./||; s|/|\\|g; s|.*|  '"$1"' "$INSTDIR\\&"|'; }
 } > "$removed"
 
 makensis -V2 -INPUTCHARSET UTF8 "-DVERSION=$2" "-DSTAGE=$stage" "-DREMOVED=$removed" "-DOUT=$4" \
-  "-DICON=$here/../../build/windows/packaging/lorvo.ico" "$here/../../packaging/windows/lorvo.nsi"
+  "-DICON=$windows/stage/lorvo.ico" "$here/../../packaging/windows/lorvo.nsi"

@@ -15,6 +15,7 @@ cmake --preset windows -DLORVO_TESTS=OFF
 cmake --build --preset windows --parallel
 rm -rf "$stage"
 cmake --install build/windows --prefix "$stage" --strip
+cp build/windows/packaging/lorvo.ico "$windows/stage/" # for the installer
 
 # Only these plug-ins are asked for: the platform and the look of the system.
 mkdir -p "$stage"/{platforms,styles,translations}
