@@ -37,9 +37,8 @@ QString WhatBecameOfTheEntry(const std::exception_ptr& failure) {
     } catch (const DiskError&) {
         return u"\n\nPoslední zadání se neuložilo. Všechno, co bylo zadáno před ním, je uloženo."_s;
     } catch (...) {
-        return u"\n\nZda se uložilo poslední zadání, zkontrolujte po novém spuštění. Všechno, co "
-               u"bylo "
-               "zadáno před ním, je uloženo."_s;
+        return u"\n\nZda se uložilo poslední zadání, zkontrolujte po novém spuštění. "
+               "Všechno, co bylo zadáno před ním, je uloženo."_s;
     }
 }
 
@@ -87,12 +86,17 @@ int Application::Tell(const QString& text, MessageIcon icon) {
         told = true;
         ThePlatform().messages->Show(text, icon, MessageButtons::Ok, u"Lorvo"_s);
     };
-    Later(this, [&] {
-        tell();
-        exit(1);
-    });
-    removePostedEvents(this, QEvent::Quit); // of windows that closed while the failure rose
-    exec();
+    {
+        // What still waits when the loop has ended goes with this: else the message's own loop
+        // would carry it out, tell once more and close the message.
+        QObject untilTheLoopEnds;
+        Later(&untilTheLoopEnds, [&] {
+            tell();
+            exit(1);
+        });
+        removePostedEvents(this, QEvent::Quit); // of windows that closed while the failure rose
+        exec();
+    }
     static_cast<void>(TakeFailure()); // what failed beside the last message is told by nobody
     if (!told)                        // a timer that failed again came before it
         tell();

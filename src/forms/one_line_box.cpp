@@ -1,7 +1,7 @@
 #include "forms/one_line_box.h"
 
 #include "platform/failure_guard.h"
-#include "platform/values/one_line.h"
+#include "platform/values/joined_lines.h"
 
 #include <QLineEdit>
 #include <algorithm>
@@ -25,7 +25,7 @@ void ChangeTo(QLineEdit& box, const QString& text) {
 
 void KeepOnOneLine(QLineEdit& box) {
     Connect(&box, &QLineEdit::textEdited, &box, [&box](const QString& text) {
-        const QString line = OneLine(text);
+        const QString line = JoinedLines(text);
         if (line == text)
             return;
         box.undo(); // else taking the paste back would bring its breaks back first

@@ -7,6 +7,6 @@ namespace lorvo {
 
 /// The text as one line: line breaks and tabs at its ends go, those within become one blank each
 /// run, and what is no character of a text (control characters, half of a character) goes.
-QString OneLine(const QString& text);
+QString JoinedLines(const QString& text);
 
 } // namespace lorvo

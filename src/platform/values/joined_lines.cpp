@@ -1,4 +1,4 @@
-#include "platform/values/one_line.h"
+#include "platform/values/joined_lines.h"
 
 #include <utility>
 
@@ -25,7 +25,7 @@ bool BelongsIn(const QString& text, qsizetype place) {
 
 } // namespace
 
-QString OneLine(const QString& text) {
+QString JoinedLines(const QString& text) {
     QString line;
     bool isBroken = false;
     for (qsizetype place = 0; place < text.size(); ++place) {
