@@ -78,8 +78,9 @@ void BareWindow::Load(BareDatabase& database) {
 
 void WaitForPaint(QWidget& painted) {
     PaintWatch watch(painted);
+    // Without sleeping: the offscreen platform for Windows sleeps over a paint that waits already.
     while (!watch.painted)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents();
 }
 
 void PaintChanges(QWidget& window) {

@@ -14,6 +14,12 @@
 #include <cstdio>
 #include <stdexcept>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+// After what it builds on.
+#include <psapi.h>
+#endif
+
 namespace lorvo::bench {
 
 using namespace Qt::StringLiterals;
@@ -22,6 +28,11 @@ namespace {
 
 /// Peak of the resident memory in kB.
 int PeakMemory() {
+#ifdef Q_OS_WIN
+    PROCESS_MEMORY_COUNTERS counters{};
+    K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+    return static_cast<int>(counters.PeakWorkingSetSize / 1024);
+#else
     QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly))
         return 0;
@@ -30,6 +41,7 @@ int PeakMemory() {
             return line.mid(6).replace("kB", "").trimmed().toInt();
     }
     return 0;
+#endif
 }
 
 [[noreturn]] void Report() {

@@ -23,7 +23,8 @@ class FailureListener : public ::testing::EmptyTestEventListener {
 
 int main(int argc, char** argv) {
     lorvo::test::PrepareEnvironment();
-    const lorvo::Application application(argc, argv);
+    lorvo::Application application(argc, argv);
+    lorvo::test::KeepAwake(application);
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(&argc, argv);
     ::testing::UnitTest::GetInstance()->listeners().Append(new FailureListener);

@@ -7,7 +7,8 @@
 
 int main(int argc, char** argv) {
     lorvo::test::PrepareEnvironment();
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    lorvo::test::KeepAwake(application);
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
