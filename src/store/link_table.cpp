@@ -17,6 +17,12 @@ LinkTable::LinkTable(Rows rows) {
     }
 }
 
+std::vector<int> LinkTable::Owners() const {
+    std::vector<int> owners(places_.keyBegin(), places_.keyEnd());
+    std::ranges::sort(owners);
+    return owners;
+}
+
 std::span<const int> LinkTable::Of(int owner) const {
     const Place place = places_.value(owner);
     return std::span(targets_).subspan(static_cast<std::size_t>(place.first),

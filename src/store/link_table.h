@@ -16,6 +16,8 @@ class LinkTable {
     using Rows = std::vector<std::pair<int, int>>;
     explicit LinkTable(Rows rows);
 
+    /// Those with a row, each once, rising.
+    std::vector<int> Owners() const;
     /// Empty for an owner without a row; good as long as the table is.
     std::span<const int> Of(int owner) const;
 

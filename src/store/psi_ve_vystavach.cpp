@@ -46,12 +46,8 @@ int CountDogsInShow(int vystavaID) {
                      "SELECT COUNT (*) FROM PsiVeVystavach WHERE VystavaID = " + Number(vystavaID));
 }
 
-std::unordered_map<int, std::vector<int>> ShowsByDog() {
-    return ReadLinks("SELECT PesID, VystavaID FROM PsiVeVystavach");
-}
-
 LinkTable ShowLinks() {
-    return LinkTable(ReadPairs("SELECT PesID, VystavaID FROM PsiVeVystavach"));
+    return ReadLinks("SELECT PesID, VystavaID FROM PsiVeVystavach");
 }
 
 void AddDogToShows(int psiID, const std::vector<int>& vystavaIDs) {

@@ -4,7 +4,6 @@
 
 #include "store/link_table.h"
 
-#include <unordered_map>
 #include <vector>
 
 namespace lorvo {
@@ -15,9 +14,7 @@ std::vector<int> ShowsOfDog(int psiID);
 std::vector<int> ShowsOfOtherDogs(int psiID);
 /// Rows of a show.
 int CountDogsInShow(int vystavaID);
-/// VystavaID of each row by the dog's ID, in row order.
-std::unordered_map<int, std::vector<int>> ShowsByDog();
-/// The same for readers who look up many dogs.
+/// VystavaID of all rows by the dog's ID.
 LinkTable ShowLinks();
 
 /// Adds a row per show; the dog's rows before are left.

@@ -112,15 +112,9 @@ std::unordered_map<int, int> CountEach(const std::string& statement) {
     return counts;
 }
 
-std::vector<std::pair<int, int>> ReadPairs(const std::string& statement) {
-    return ReadMany(statement, [](const Query& row) { return std::pair(row.Int(0), row.Int(1)); });
-}
-
-std::unordered_map<int, std::vector<int>> ReadLinks(const std::string& statement) {
-    std::unordered_map<int, std::vector<int>> links;
-    for (Query query(TheDataModule().Conn1, statement); query.Next();)
-        links[query.Int(0)].push_back(query.Int(1));
-    return links;
+LinkTable ReadLinks(const std::string& statement) {
+    return LinkTable(
+        ReadMany(statement, [](const Query& row) { return std::pair(row.Int(0), row.Int(1)); }));
 }
 
 std::optional<int> IntOrNull(const Query& row, int column) {

@@ -2,6 +2,7 @@
 // What the routines of all tables share: reading and writing rows. For src/store alone.
 
 #include "store/data_module.h"
+#include "store/link_table.h"
 #include "store/query.h"
 
 #include <optional>
@@ -96,10 +97,8 @@ void DeleteAllRows(RecordSet& set, const std::string& table);
 int CountNamed(RecordSet& set, const std::string& table, const QString& nazev);
 /// How often each number stands in column 0 of the rows.
 std::unordered_map<int, int> CountEach(const std::string& statement);
-/// Columns 0 and 1 of each row, for a LinkTable.
-std::vector<std::pair<int, int>> ReadPairs(const std::string& statement);
-/// Column 1 of the rows by column 0, in row order.
-std::unordered_map<int, std::vector<int>> ReadLinks(const std::string& statement);
+/// Column 1 of the rows by column 0.
+LinkTable ReadLinks(const std::string& statement);
 
 /// A cell of the current row; Null is nullopt.
 [[nodiscard]] std::optional<int> IntOrNull(const Query& row, int column);

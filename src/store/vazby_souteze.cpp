@@ -21,12 +21,8 @@ int CountDogsInCompetition(int soutezID) {
                      "SELECT COUNT(*) FROM Vazby_Souteze WHERE ID_Souteze = " + Number(soutezID));
 }
 
-std::unordered_map<int, std::vector<int>> CompetitionsByDog() {
-    return ReadLinks("SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze");
-}
-
 LinkTable CompetitionLinks() {
-    return LinkTable(ReadPairs("SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze"));
+    return ReadLinks("SELECT ID_Psa, ID_Souteze FROM Vazby_Souteze");
 }
 
 void AddDogToCompetitions(int psiID, const std::vector<int>& soutezIDs) {

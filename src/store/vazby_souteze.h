@@ -4,7 +4,6 @@
 
 #include "store/link_table.h"
 
-#include <unordered_map>
 #include <vector>
 
 namespace lorvo {
@@ -14,9 +13,7 @@ std::vector<int> CompetitionsOfDog(int psiID);
 
 /// Rows of a competition.
 int CountDogsInCompetition(int soutezID);
-/// ID_Souteze of each row by the dog's ID, in row order.
-std::unordered_map<int, std::vector<int>> CompetitionsByDog();
-/// The same for readers who look up many dogs.
+/// ID_Souteze of all rows by the dog's ID.
 LinkTable CompetitionLinks();
 
 /// Adds a row per competition; the dog's rows before are left.

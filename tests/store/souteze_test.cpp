@@ -3,6 +3,8 @@
 #include "store/routines_fixture.h"
 #include "store/vazby_souteze.h"
 
+#include <algorithm>
+
 namespace lorvo::test {
 
 namespace {
@@ -83,10 +85,10 @@ TEST_F(SoutezeTest, EntriesAreReadByDogAndByCompetition) {
     AddDogToCompetitions(2, {5});
     EXPECT_EQ(CompetitionsOfDog(1), (Numbers{5, 3}));
     EXPECT_TRUE(CompetitionsOfDog(9).empty());
-    const auto byDog = CompetitionsByDog();
-    EXPECT_EQ(byDog.size(), 2u);
-    for (const auto& [psiID, competitions] : byDog)
-        EXPECT_EQ(competitions, CompetitionsOfDog(psiID));
+    const LinkTable links = CompetitionLinks();
+    EXPECT_EQ(links.Owners(), (Numbers{1, 2}));
+    for (const int psiID : links.Owners())
+        EXPECT_TRUE(std::ranges::equal(links.Of(psiID), CompetitionsOfDog(psiID)));
     EXPECT_EQ(CountDogsInCompetition(5), 2);
     EXPECT_EQ(CountDogsInCompetition(3), 1);
 }

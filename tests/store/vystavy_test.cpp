@@ -143,10 +143,10 @@ TEST_F(VystavyTest, ADogStandsInTheShowsThatWereAdded) {
     AddDogToShows(2, {5});
     EXPECT_EQ(ShowsOfDog(1), (Numbers{5, 3, 4}));
     EXPECT_EQ(CountDogsInShow(5), 2);
-    const auto byDog = ShowsByDog();
-    EXPECT_EQ(byDog.size(), 2u);
-    for (const auto& [psiID, shows] : byDog)
-        EXPECT_EQ(shows, ShowsOfDog(psiID));
+    const LinkTable links = ShowLinks();
+    EXPECT_EQ(links.Owners(), (Numbers{1, 2}));
+    for (const int psiID : links.Owners())
+        EXPECT_TRUE(std::ranges::equal(links.Of(psiID), ShowsOfDog(psiID)));
     DeleteShowsOfDog(1);
     EXPECT_TRUE(ShowsOfDog(1).empty());
     EXPECT_EQ(ShowsOfDog(2), Numbers{5});

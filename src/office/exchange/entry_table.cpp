@@ -23,8 +23,8 @@ namespace {
 struct References {
     std::unordered_map<int, Majitele> owners = OwnersByID();
     std::unordered_map<int, Plemena> breeds = BreedsByID();
-    std::unordered_map<int, std::vector<int>> showsByDog = ShowsByDog();
-    std::unordered_map<int, std::vector<int>> competitionsByDog = CompetitionsByDog();
+    LinkTable showsByDog = ShowLinks();
+    LinkTable competitionsByDog = CompetitionLinks();
     std::unordered_map<int, Currency> paid = PaidByDog();
     std::unordered_map<int, QString> shows;
     std::unordered_map<int, QString> competitions;
@@ -37,7 +37,7 @@ struct References {
     }
 };
 
-QString Names(const std::vector<int>& ids, const std::unordered_map<int, QString>& names) {
+QString Names(std::span<const int> ids, const std::unordered_map<int, QString>& names) {
     QStringList found;
     for (const int id : ids)
         if (const auto name = names.find(id); name != names.end())
@@ -93,11 +93,12 @@ void SetOwner(EntryRow& row, const Majitele& owner) {
 }
 
 void SetEntries(EntryRow& row, const Psi& dog, References& known) {
-    const QString shows = Names(known.showsByDog[dog.ID], known.shows);
+    const QString shows = Names(known.showsByDog.Of(dog.ID), known.shows);
     row.Set(EntryField::Show, shows.isEmpty() ? u"žádná"_s : shows);
     row.Set(EntryField::Closing, ClosingText(dog.PrvniUzaverka));
     row.Set(EntryField::FirstDog, YesNo(dog.PrvniPes));
-    row.Set(EntryField::Competitions, Names(known.competitionsByDog[dog.ID], known.competitions));
+    row.Set(EntryField::Competitions,
+            Names(known.competitionsByDog.Of(dog.ID), known.competitions));
     if (const auto paid = known.paid.find(dog.ID); paid != known.paid.end())
         row.Set(EntryField::Paid, paid->second);
 }

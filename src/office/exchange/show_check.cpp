@@ -73,12 +73,12 @@ void LookAtBreeds(ShowCheck& check) {
 }
 
 /// Rows of a dog that tie it to something else.
-void LookAtTies(ShowCheck& check, const std::unordered_map<int, std::vector<int>>& ties,
-                const std::set<int>& dogs, const std::set<int>& others, const QString& name) {
+void LookAtTies(ShowCheck& check, const LinkTable& ties, const std::set<int>& dogs,
+                const std::set<int>& others, const QString& name) {
     Lost withoutDog(check, name + u" psů, kteří v databázi nejsou"_s);
     Lost withoutOther(check, name + u", které vedou k něčemu, co v databázi není"_s);
-    for (const auto& [dog, ids] : ties)
-        for (const int id : ids) {
+    for (const int dog : ties.Owners())
+        for (const int id : ties.Of(dog)) {
             withoutDog.LookFor(dog, dogs);
             withoutOther.LookFor(id, others);
         }
@@ -116,9 +116,8 @@ ShowCheck CheckShow() {
     check.figures << u"Psi: "_s + QString::number(dogs.size());
     LookAtDogs(check, dogs);
     LookAtBreeds(check);
-    LookAtTies(check, ShowsByDog(), dogIDs, IDsOf(Shows()), u"Přihlášky na výstavy"_s);
-    LookAtTies(check, CompetitionsByDog(), dogIDs, IDsOf(Competitions()),
-               u"Přihlášky do soutěží"_s);
+    LookAtTies(check, ShowLinks(), dogIDs, IDsOf(Shows()), u"Přihlášky na výstavy"_s);
+    LookAtTies(check, CompetitionLinks(), dogIDs, IDsOf(Competitions()), u"Přihlášky do soutěží"_s);
     LookAtPayments(check, dogIDs);
     return check;
 }
