@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace lorvo {
 
@@ -42,15 +43,11 @@ void LinkLabel::leaveEvent(QEvent* event) {
 }
 
 // What can have the keyboard is a whole document for the toolkit's label, laid out for each text
-// and each painting of it. A link that is as high as its line needs none of that.
-void LinkLabel::paintEvent(QPaintEvent* event) {
-    if (contentsRect().height() == fontMetrics().height()) {
-        QPainter painter(this);
-        painter.setPen(palette().color(isEnabled() ? foregroundRole() : QPalette::Text));
-        painter.drawText(contentsRect(), static_cast<int>(alignment()), text());
-    } else {
-        QLabel::paintEvent(event);
-    }
+// and each painting of it, and bears no mark of its access key. A link's one line needs none of it.
+void LinkLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
+                          isEnabled(), text(), isEnabled() ? foregroundRole() : QPalette::Text);
     PaintFocusFrame(*this);
 }
 

@@ -129,6 +129,20 @@ TEST_F(AccessKeysTest, ACaptionIsUnderlinedToo) {
     label->setStyle(nullptr);
 }
 
+TEST_F(AccessKeysTest, ALinkIsUnderlinedTooWhateverItsHeight) {
+    LinkLabel link(u"Seznam"_s, &window);
+    AccessKeyStyle style;
+    link.setStyle(&style);
+    for (const int height : {link.fontMetrics().height(), 40}) {
+        link.resize(100, height);
+        link.setProperty("accessKey", u'S');
+        const QImage marked = link.grab().toImage();
+        link.setProperty("accessKey", QChar());
+        EXPECT_NE(link.grab().toImage(), marked) << height;
+    }
+    link.setStyle(nullptr);
+}
+
 TEST_F(AccessKeysTest, FollowTextsAndWhatIsShown) {
     add->setText(u"Start"_s);
     QCoreApplication::processEvents();
