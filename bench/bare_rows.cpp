@@ -29,16 +29,15 @@ constexpr const char* kCardStatements[] = {
     "SELECT * FROM Vystavy ORDER BY ID",
     "SELECT * FROM PsiVeVystavach WHERE PesID = ?1",
     "SELECT ID, Nazev, PoplatkyIClass1D1 FROM Vystavy WHERE ID = 1",
-    "SELECT ID FROM Vystavy v WHERE EXISTS (SELECT 1 FROM PsiVeVystavach p WHERE p.VystavaID = "
-    "v.ID "
-    "AND p.PesID <> ?1)",
+    ("SELECT ID FROM Vystavy v WHERE EXISTS "
+     "(SELECT 1 FROM PsiVeVystavach p WHERE p.VystavaID = v.ID AND p.PesID <> ?1)"),
     "SELECT ID, Nazev, PoplatkyIClass1D1 FROM Vystavy WHERE ID = 2",
     "SELECT ID, Nazev, PoplatkyIClass1D1 FROM Vystavy WHERE ID = 3",
     "SELECT * FROM Souteze ORDER BY Nazev",
     "SELECT * FROM Vazby_Souteze WHERE ID_Psa = ?1",
     "SELECT * FROM Psi WHERE MajitelID = (SELECT MajitelID FROM Psi WHERE ID = ?1) ORDER BY Jmeno",
-    "SELECT * FROM Psi WHERE MajitelID = (SELECT MajitelID FROM Psi WHERE ID = ?1) ORDER BY Jmeno "
-    "DESC",
+    ("SELECT * FROM Psi WHERE MajitelID = (SELECT MajitelID FROM Psi WHERE ID = ?1) "
+     "ORDER BY Jmeno DESC"),
 };
 
 } // namespace

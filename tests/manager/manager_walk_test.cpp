@@ -82,7 +82,7 @@ class ManagerWalk : public ::testing::TestWithParam<DesktopLook> {
 };
 
 TEST_P(ManagerWalk, EachPageIsInOrderEmptyAndFilledAndIsLeft) {
-    Open([this](QWidget& window) {
+    Open([](QWidget& window) {
         LookAtEachPage(window, GetParam());
         ShowPage(window, 0);
         FillPages(window);
