@@ -1,6 +1,7 @@
 // Reading spreadsheets through liborcus.
 
 #include "office/exchange/csv_text.h"
+#include "office/exchange/scratch_folder.h"
 #include "office/exchange/sheet_files.h"
 #include "platform/values/errors.h"
 #include "platform/whole_file.h"
@@ -11,9 +12,7 @@
 #include <orcus/spreadsheet/document.hpp>
 #include <orcus/spreadsheet/factory.hpp>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include <stdexcept>
 #endif
 
 namespace lorvo {
@@ -42,16 +41,23 @@ void Import(const QString& path, orcus::spreadsheet::document& document) {
         orcus::orcus_xlsx(&factory).read_stream(stream);
 }
 
-/// The library puts each sheet into a file of its own; the first one is read back.
+QString NameOf(const orcus::spreadsheet::document& document, std::size_t sheet) {
+    const std::string_view name =
+        document.get_sheet_name(static_cast<orcus::spreadsheet::sheet_t>(sheet));
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+/// The library puts each sheet into a file that bears its name; the first one is read back. No
+/// office program lets a sheet have a name that leads into another folder.
 QString FirstSheetAsCsv(const orcus::spreadsheet::document& document) {
+    for (std::size_t i = 0; i < document.get_sheet_count(); ++i)
+        if (const QString name = NameOf(document, i); name.contains(u'/'))
+            throw std::runtime_error("list „" + name.toStdString() + "“");
     if (document.get_sheet_count() == 0)
         return {};
-    const QTemporaryDir folder;
+    const ScratchFolder folder;
     document.dump_csv(folder.path().toStdString());
-    const std::string_view name = document.get_sheet_name(0);
-    QFile file(folder.filePath(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())) +
-                               u".csv"_s));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(ReadWholeFile(folder.filePath(NameOf(document, 0) + u".csv"_s)));
 }
 
 } // namespace
@@ -61,9 +67,10 @@ bool CanReadSheets() {
 }
 
 std::vector<QStringList> SheetRows(const QString& path) {
-    orcus::spreadsheet::document document(kLargestSheet);
     try {
+        orcus::spreadsheet::document document(kLargestSheet);
         Import(path, document);
+        return CsvRows(FirstSheetAsCsv(document), u',');
     } catch (const PlatformError&) {
         throw;
     } catch (const std::exception& failure) {
@@ -71,7 +78,6 @@ std::vector<QStringList> SheetRows(const QString& path) {
                             "“ není tabulka, kterou by šlo přečíst. Uložte ji jako CSV. (" +
                             failure.what() + ")");
     }
-    return CsvRows(FirstSheetAsCsv(document), u',');
 }
 
 #else

@@ -1,13 +1,14 @@
 // Writing spreadsheets through libxlsxwriter.
 
+#include "office/exchange/scratch_folder.h"
 #include "office/exchange/sheet_files.h"
 #include "platform/values/errors.h"
+#include "platform/whole_file.h"
 
 #ifdef LORVO_WRITES_SHEETS
 #include <xlsxwriter.h>
 
 #include <QFile>
-#include <QTemporaryDir>
 #include <algorithm>
 #endif
 
@@ -115,13 +116,10 @@ bool CanWriteSheets() {
 }
 
 QByteArray SheetBytes(const ListTable& table) {
-    const QTemporaryDir folder;
+    const ScratchFolder folder;
     const QString path = folder.filePath(u"tabulka.xlsx"_s);
     WriteBook(table, QFile::encodeName(path));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw PlatformError("Tabulku nejde uložit.");
-    return file.readAll();
+    return ReadWholeFile(path);
 }
 
 #else
