@@ -26,6 +26,17 @@ QRect BelowLetter(const QPainter& painter, const QRect& place, const QString& te
     return {left, top, metrics.horizontalAdvance(text.at(letter)), metrics.descent()};
 }
 
+/// Where the label's letter stands in the text that is painted for it, the whole one or as much of
+/// it as there is room for; -1 for nowhere.
+qsizetype PlaceOfLetter(const QLabel& label, const QString& painted) {
+    const QString whole = label.text();
+    const qsizetype letter = PlaceOfAccessKey(whole, AccessKeyOf(label));
+    const qsizetype kept = painted == whole ? whole.size() : painted.size() - 1; // an ellipsis
+    const bool isLeft = letter < kept && kept <= whole.size() &&
+                        QStringView(whole).first(kept) == QStringView(painted).first(kept);
+    return isLeft ? letter : -1;
+}
+
 } // namespace
 
 void AccessKeyStyle::drawControl(ControlElement element, const QStyleOption* option,
@@ -52,8 +63,7 @@ void AccessKeyStyle::drawItemText(QPainter* painter, const QRect& rect, int flag
             ? qobject_cast<const QLabel*>(static_cast<const QWidget*>(painter->device()))
             : nullptr;
     QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
-    const QChar key = label && text == label->text() ? AccessKeyOf(*label) : QChar();
-    const qsizetype letter = PlaceOfAccessKey(text, key);
+    const qsizetype letter = label ? PlaceOfLetter(*label, text) : -1;
     if (letter < 0)
         return;
     // A letter that is marked in the text stands alone for the toolkit, farther from its neighbour

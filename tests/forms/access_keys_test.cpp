@@ -2,6 +2,7 @@
 
 #include "forms/access_key_style.h"
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 #include "support/recording_platform.h"
 
 #include <QImage>
@@ -140,6 +141,21 @@ TEST_F(AccessKeysTest, ALinkIsUnderlinedTooWhateverItsHeight) {
         link.setProperty("accessKey", QChar());
         EXPECT_NE(link.grab().toImage(), marked) << height;
     }
+    link.setStyle(nullptr);
+}
+
+TEST_F(AccessKeysTest, ATextThatIsCutShowsTheLettersThatAreLeft) {
+    Elided<LinkLabel> link(u"Seznam přijatých plateb"_s, &window);
+    AccessKeyStyle style;
+    link.setStyle(&style);
+    link.resize(80, 20);
+    const auto picture = [&link](QChar key) {
+        link.setProperty("accessKey", key);
+        return link.grab().toImage();
+    };
+    const QImage plain = picture(QChar());
+    EXPECT_NE(picture(u'S'), plain);
+    EXPECT_EQ(picture(u'B'), plain) << "the letter has been cut off";
     link.setStyle(nullptr);
 }
 
