@@ -141,8 +141,4 @@ std::optional<DateValue> ToOptionalDate(const Value& value) {
     return value.IsNull() ? std::nullopt : std::optional(value.ToDate());
 }
 
-std::optional<QString> ToOptionalText(const Value& value) {
-    return value.IsNull() ? std::nullopt : std::optional(value.ToText());
-}
-
 } // namespace lorvo

@@ -109,7 +109,6 @@ LinkTable ReadLinks(const std::string& statement);
 [[nodiscard]] std::optional<int> ToOptionalInt(const Value& value);
 std::optional<Currency> ToOptionalCurrency(const Value& value);
 [[nodiscard]] std::optional<DateValue> ToOptionalDate(const Value& value);
-std::optional<QString> ToOptionalText(const Value& value);
 
 /// Nullopt becomes Null.
 template<class T> Value FromOptional(const std::optional<T>& value) {
