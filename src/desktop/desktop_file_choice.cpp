@@ -3,8 +3,22 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QRegularExpression>
 
 namespace lorvo {
+
+QString WithEnding(const QString& path, const QString& filter) {
+    static const QRegularExpression endings(QStringLiteral("\\*(\\.\\w+)"));
+    QString first;
+    for (const QRegularExpressionMatch& match : endings.globalMatch(filter)) {
+        if (path.endsWith(match.captured(1), Qt::CaseInsensitive))
+            return path;
+        if (first.isEmpty())
+            first = match.captured(1);
+    }
+    return path + first;
+}
 
 QString DesktopFileChoice::Open(const QString& title, const QString& filter) {
     const QString path =
@@ -15,10 +29,16 @@ QString DesktopFileChoice::Open(const QString& title, const QString& filter) {
 
 QString DesktopFileChoice::Save(const QString& title, const QString& suggestedPath,
                                 const QString& filter) {
-    const QString path =
-        QFileDialog::getSaveFileName(QApplication::activeWindow(), title, suggestedPath, filter);
-    RethrowFailure();
-    return path;
+    QString suggested = suggestedPath;
+    while (true) {
+        const QString typed =
+            QFileDialog::getSaveFileName(QApplication::activeWindow(), title, suggested, filter);
+        RethrowFailure();
+        const QString path = typed.isEmpty() ? typed : WithEnding(typed, filter);
+        if (path == typed || !QFileInfo::exists(path))
+            return path;
+        suggested = path; // chosen again, so that it is asked about
+    }
 }
 
 } // namespace lorvo

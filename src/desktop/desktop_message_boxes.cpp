@@ -4,6 +4,7 @@
 #include "platform/failure_guard.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -72,6 +73,16 @@ QString Bounded(const QString& text) {
     return shown.size() < text.size() ? shown + u'…' : text;
 }
 
+/// A key that is still held from what raised the box answers nothing: the text has not been read.
+class HeldKeys : public QObject {
+  public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* event) override {
+        return event->type() == QEvent::KeyPress &&
+               static_cast<const QKeyEvent*>(event)->isAutoRepeat();
+    }
+};
+
 QPushButton* AddButton(QMessageBox& box, const ButtonKind& kind) {
     QPushButton* button = box.addButton(kind.standard);
     button->setText(QString::fromUtf16(kind.text));
@@ -97,6 +108,10 @@ MessageAnswer DesktopMessageBoxes::Show(const QString& text, MessageIcon icon,
     box.setDefaultButton(kinds.front().standard);
     box.setEscapeButton(kinds.back().standard);
     const AccessKeys accessKeys(box);
+    HeldKeys heldKeys;
+    for (QAbstractButton* button : box.buttons())
+        button->installEventFilter(&heldKeys);
+    box.installEventFilter(&heldKeys);
     box.exec();
     RethrowFailure();
     if (below && below->isVisible())

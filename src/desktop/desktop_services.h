@@ -19,6 +19,10 @@ class DesktopPopupMenus : public PopupMenus {
     int TrackPopup(const std::vector<MenuEntry>& entries) override;
 };
 
+/// The path with the first ending of a filter as "CSV (*.csv)", unless it has one of these; what is
+/// saved never takes the place of a file of another kind, as the database is.
+QString WithEnding(const QString& path, const QString& filter);
+
 class DesktopFileChoice : public FileChoice {
   public:
     QString Open(const QString& title, const QString& filter) override;

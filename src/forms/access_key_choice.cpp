@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QSet>
 #include <algorithm>
+#include <map>
 
 namespace lorvo {
 
@@ -68,6 +69,15 @@ class Pairing {
     QHash<QChar, std::size_t> owners_;
 };
 
+/// The letters given to what can show together with that page.
+QSet<QChar> LettersBeside(int page, const std::map<int, QSet<QChar>>& given) {
+    QSet<QChar> letters;
+    for (const auto& [other, ofOther] : given)
+        if (page == 0 || other == 0 || other == page)
+            letters.unite(ofOther);
+    return letters;
+}
+
 } // namespace
 
 QChar MarkedKey(const QString& text) {
@@ -95,24 +105,22 @@ QString WithoutMark(const QString& text) {
 
 std::vector<QChar> ChooseAccessKeys(const std::vector<KeyedText>& texts) {
     std::vector<QChar> keys(texts.size());
-    QSet<int> pages;
+    std::map<int, QSet<QChar>> given; // what shows with every page comes first
     for (const KeyedText& text : texts)
-        pages.insert(text.page);
-    QList<int> order(pages.begin(), pages.end());
-    std::sort(order.begin(), order.end()); // what shows with every page comes first
-    QSet<QChar> common;
-    for (const int page : order) {
-        Pairing pairing(texts, common);
-        for (const bool wishes : {true, false})
-            for (std::size_t i = 0; i < texts.size(); ++i)
-                if (texts[i].page == page && !texts[i].wish.isNull() == wishes)
-                    pairing.Place(i);
-        for (auto pair = pairing.Owners().cbegin(); pair != pairing.Owners().cend(); ++pair) {
-            keys[pair.value()] = pair.key();
-            if (page == 0)
-                common.insert(pair.key());
+        given[text.page];
+    for (const bool isUsers : {false, true})
+        for (auto& [page, letters] : given) {
+            Pairing pairing(texts, LettersBeside(page, given));
+            for (const bool wishes : {true, false})
+                for (std::size_t i = 0; i < texts.size(); ++i)
+                    if (texts[i].page == page && texts[i].isUsers == isUsers &&
+                        !texts[i].wish.isNull() == wishes)
+                        pairing.Place(i);
+            for (const auto& [letter, text] : pairing.Owners().asKeyValueRange()) {
+                keys[text] = letter;
+                letters.insert(letter);
+            }
         }
-    }
     return keys;
 }
 

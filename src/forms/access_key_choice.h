@@ -11,6 +11,7 @@ struct KeyedText {
     QString text;
     QChar wish = {}; ///< the letter that its window would like it to have
     int page = 0; ///< texts of different pages never show together; page 0 shows with every other
+    bool isUsers = false; ///< a user's text, which changes; it leaves the letters to the others
 };
 /// A letter for each text, no two alike, for as many of the texts as can have one; a null character
 /// for the rest. After the letter wished for, first letters of words are preferred to others, and

@@ -19,6 +19,7 @@ namespace {
 
 constexpr char kKeyProperty[] = "accessKey";
 constexpr char kWishProperty[] = "accessKeyWish";
+constexpr char kLastProperty[] = "accessKeyLast";
 constexpr char kTargetProperty[] = "accessKeyTarget";
 
 /// Parts that other controls are made of, such as the arrows of a tab bar.
@@ -143,7 +144,8 @@ void AccessKeys::Refresh() {
         const QWidget* page = PageOf(*control);
         if (!pages.contains(page))
             pages.insert(page, static_cast<int>(pages.size()));
-        texts.push_back({TextOf(*control), WishOf(*control), pages.value(page)});
+        texts.push_back({TextOf(*control), WishOf(*control), pages.value(page),
+                         control->property(kLastProperty).toBool()});
     }
     Give(controls, ChooseAccessKeys(texts));
 }
@@ -192,6 +194,10 @@ void AccessKeys::RefreshLater() {
 
 QChar AccessKeyOf(const QWidget& control) {
     return LetterIn(control, kKeyProperty);
+}
+
+void GiveAccessKeyLast(QWidget& control) {
+    control.setProperty(kLastProperty, true);
 }
 
 void LeadByAccessKey(QWidget& control, QWidget& target) {

@@ -49,6 +49,9 @@ class AccessKeys : public QObject {
 
 /// The letter that leads to the control, a null character for none.
 QChar AccessKeyOf(const QWidget& control);
+/// The control bears a user's text: commands are given their letters before it, and keep them
+/// whatever the text is.
+void GiveAccessKeyLast(QWidget& control);
 /// The control's letter leads the keyboard to the target instead of pressing the control, as long
 /// as the target is in sight.
 void LeadByAccessKey(QWidget& control, QWidget& target);

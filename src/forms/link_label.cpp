@@ -64,6 +64,8 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
 
 void LinkLabel::keyPressEvent(QKeyEvent* event) {
     Guarded([&] {
+        if (event->isAutoRepeat()) // a key held too long asks for nothing twice
+            return;
         switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:

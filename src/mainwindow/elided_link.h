@@ -1,6 +1,7 @@
 #pragma once
 // A link whose text is a user's.
 
+#include "forms/access_keys.h"
 #include "forms/controls.h"
 #include "forms/elided_label.h"
 #include "forms/one_line.h"
@@ -11,7 +12,7 @@ namespace lorvo {
 class ElidedLink : public Elided<LinkLabel> {
     Q_OBJECT
   public:
-    explicit ElidedLink(QWidget* parent) : Elided(QString(), parent) {}
+    explicit ElidedLink(QWidget* parent) : Elided(QString(), parent) { GiveAccessKeyLast(*this); }
 
     /// As any link's; kept here too, since the link is measured here.
     void SetReach(int width) {

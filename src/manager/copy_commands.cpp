@@ -3,6 +3,7 @@
 #include "manager/show_access.h"
 #include "office/copies/show_copies.h"
 
+#include <QDir>
 #include <QTextStream>
 
 namespace lorvo {
@@ -14,8 +15,9 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 
+/// A copy by its name or by the path that making it told; "data.mdb" is the database itself.
 QString PathOf(const QString& name, const QString& folder) {
-    return name == u"data.mdb" ? DatabasePath(folder) : CopiesFolder(folder) + u'/' + name;
+    return name == u"data.mdb" ? DatabasePath(folder) : QDir(CopiesFolder(folder)).filePath(name);
 }
 
 } // namespace

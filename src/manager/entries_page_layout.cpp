@@ -1,6 +1,7 @@
 // How the page of entries is laid out: the file above, its letters and columns, the lines, the
 // commands.
 #include "forms/controls.h"
+#include "forms/elided_label.h"
 #include "forms/report_list.h"
 #include "manager/entries_page.h"
 #include "office/exchange/csv_text.h"
@@ -27,12 +28,12 @@ EntriesPage::EntriesPage(const ShowAccess& show, QWidget* parent)
       lvwLines(new ReportList(
           "lvwLines", {u"Řádek"_s, u"Stav"_s, u"Pes"_s, u"Plemeno"_s, u"Majitel"_s, u"Důvod"_s},
           this)),
-      lblFile(Named(new QLabel(u"Není vybrán žádný soubor."_s, this), u"lblFile"_s)),
+      lblFile(Named(new ElidedLabel(this), u"lblFile"_s)),
       lblCounts(Named(new QLabel(this), u"lblCounts"_s)), show_(show) {
     lvwLines->SetCheckBoxes(true);
     lvwLines->setAccessibleName(u"Řádky souboru"_s);
     lvwLines->SetColumnWidths({60, 90, 170, 170, 170, 420});
-    lblFile->setTextFormat(Qt::PlainText);
+    lblFile->setText(u"Není vybrán žádný soubor."_s);
     FillCombos();
     LayOut();
     ConnectControls();

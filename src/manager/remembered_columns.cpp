@@ -40,10 +40,14 @@ ColumnChoice RememberedColumns(const QStringList& headings) {
 }
 
 void RememberColumns(const QStringList& headings, const ColumnChoice& columns) {
+    const ColumnChoice byHeading = ColumnsByHeading(headings);
     for (int i = 0; i < kEntryFields; ++i) {
-        const std::optional<int>& column = columns[static_cast<std::size_t>(i)];
-        WriteRegValue(kSection, NameOf(static_cast<EntryField>(i)),
-                      column ? FoldedText(headings.value(*column)) : kNone);
+        const auto at = static_cast<std::size_t>(i);
+        const QString name = NameOf(static_cast<EntryField>(i));
+        if (columns[at])
+            WriteRegValue(kSection, name, FoldedText(headings.value(*columns[at])));
+        else if (byHeading[at]) // a column that isn't there has not been taken away by anybody
+            WriteRegValue(kSection, name, kNone);
     }
 }
 

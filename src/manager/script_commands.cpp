@@ -33,6 +33,11 @@ bool IsTextName(const QString& path) {
     return path.endsWith(u".csv"_s, Qt::CaseInsensitive);
 }
 
+/// Of the spreadsheets that are read, one kind is written.
+bool IsWorkbookName(const QString& path) {
+    return path.endsWith(u".xlsx"_s, Qt::CaseInsensitive);
+}
+
 using Run = int (*)(const ShowAccess& show, const QStringList& arguments, QTextStream& out);
 
 int SaveList(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
@@ -40,11 +45,11 @@ int SaveList(const ShowAccess& show, const QStringList& arguments, QTextStream& 
     const auto* const list = std::ranges::find_if(kOfficeLists, [&](const OfficeListName& name) {
         return arguments[0] == QLatin1String(name.command);
     });
-    if (list == kOfficeLists.end() || !(IsTextName(path) || IsSheetName(path)))
+    if (list == kOfficeLists.end() || !(IsTextName(path) || IsWorkbookName(path)))
         return kNotUnderstood;
     const bool saved = show.OnShow([&] {
         const ListTable table = ReadOfficeList(list->list);
-        ReplaceFile(path, IsSheetName(path) ? SheetBytes(table) : CsvBytes(TextRows(table)));
+        ReplaceFile(path, IsWorkbookName(path) ? SheetBytes(table) : CsvBytes(TextRows(table)));
         out << QString::fromUtf16(list->title) << ": " << table.rows.size() << '\n';
     });
     return saved ? kDone : kFailed;

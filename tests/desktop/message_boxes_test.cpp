@@ -51,6 +51,27 @@ TEST(MessageBoxesTest, HasExactlyTheButtonsAskedForTheFirstOneDefault) {
     check(MessageButtons::YesNoCancel, "Ano Ne Storno", "Ano");
 }
 
+TEST(MessageBoxesTest, AKeyStillHeldFromBeforeAnswersNothing) {
+    Answer(MessageButtons::YesNoCancel, [](QMessageBox& box) {
+        for (const int key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape})
+            for (QWidget* target :
+                 {static_cast<QWidget*>(box.defaultButton()), static_cast<QWidget*>(&box)}) {
+                QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+                QApplication::sendEvent(target, &held);
+                EXPECT_TRUE(box.isVisible());
+            }
+        QTest::keyClick(box.defaultButton(), Qt::Key_Return);
+        EXPECT_FALSE(box.isVisible());
+    });
+}
+
+TEST(FileChoice, WhatIsSavedHasAnEndingOfItsKind) {
+    EXPECT_EQ(WithEnding(u"/d/psi.CSV"_s, u"CSV (*.csv)"_s), u"/d/psi.CSV"_s);
+    EXPECT_EQ(WithEnding(u"/d/data.mdb"_s, u"CSV (*.csv)"_s), u"/d/data.mdb.csv"_s);
+    EXPECT_EQ(WithEnding(u"/d/psi"_s, u"Tabulky (*.xlsx *.ods)"_s), u"/d/psi.xlsx"_s);
+    EXPECT_EQ(WithEnding(u"/d/psi"_s, QString()), u"/d/psi"_s);
+}
+
 TEST(MessageBoxesTest, ReturnsTheAnswerOfEachButton) {
     EXPECT_EQ(Answer(MessageButtons::YesNoCancel, [](auto& box) { Press(box, "cmdYes"); }),
               MessageAnswer::Yes);

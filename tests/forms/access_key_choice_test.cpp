@@ -45,6 +45,18 @@ TEST(AccessKeyChoice, AMarkIsOneAmpersandAndTwoAreNone) {
     EXPECT_EQ(WithoutMark(u"Zpě&t"_s), u"Zpět"_s);
 }
 
+TEST(AccessKeyChoice, CommandsKeepTheirLettersWhateverAUserIsCalled) {
+    const auto keysBeside = [](const QString& name) {
+        return ChooseAccessKeys({{name, {}, 0, true}, {u"Platba"_s, {}, 1}, {u"Seznam"_s}});
+    };
+    for (const QString& name : {u"Petr Šimek"_s, u"Sára"_s, u"P"_s}) {
+        EXPECT_EQ(keysBeside(name)[1], u'P');
+        EXPECT_EQ(keysBeside(name)[2], u'S');
+    }
+    EXPECT_EQ(keysBeside(u"Petr Šimek"_s)[0], u'E');
+    EXPECT_TRUE(keysBeside(u"P"_s)[0].isNull());
+}
+
 TEST(AccessKeyChoice, TextsOfDifferentPagesMayShareALetterButNotWithWhatIsCommon) {
     const auto keys =
         ChooseAccessKeys({{u"OK"_s, {}, 0}, {u"O"_s, {}, 1}, {u"Psi"_s, {}, 1}, {u"Psi"_s, {}, 2}});

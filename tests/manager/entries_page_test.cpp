@@ -1,6 +1,7 @@
 // The page that takes entries in: a file chosen, its lines judged, the ticked ones taken.
 
 #include "manager/manager_fixture.h"
+#include "manager/remembered_columns.h"
 #include "store/plemena.h"
 
 namespace lorvo::test {
@@ -127,6 +128,18 @@ TEST_F(EntriesPageTest, AChosenColumnHoldsAndIsRememberedForHeadingsLikeThese) {
     next.tabSpravce->setCurrentIndex(1);
     QTest::mouseClick(&Control<QPushButton>(next, "cmdFile"), Qt::LeftButton);
     EXPECT_EQ(Control<ReportList>(next, "lvwLines").CellText(0, 1), u"nová"_s);
+}
+
+TEST_F(EntriesPageTest, AColumnThatOneFileLacksIsReadFromTheNext) {
+    const QStringList few{u"Jméno psa"_s};
+    const QStringList more{u"Jméno psa"_s, u"Uhrazeno"_s};
+    constexpr auto kPaid = static_cast<std::size_t>(EntryField::Paid);
+    RememberColumns(few, ColumnsByHeading(few));
+    EXPECT_EQ(RememberedColumns(more)[kPaid], 1);
+    ColumnChoice takenAway = ColumnsByHeading(more);
+    takenAway[kPaid].reset();
+    RememberColumns(more, takenAway);
+    EXPECT_EQ(RememberedColumns(more)[kPaid], std::nullopt);
 }
 
 TEST_F(EntriesPageTest, TabGoesAsThePageReads) {

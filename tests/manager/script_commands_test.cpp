@@ -65,6 +65,7 @@ TEST_F(ManagerTest, EveryListIsACommand) {
     }
     EXPECT_EQ(RunCommand({u"seznam"_s, u"psi"_s, Path(u"psi.xlsx"_s)}).first, 0);
     EXPECT_TRUE(Read(Path(u"psi.xlsx"_s)).startsWith("PK"));
+    EXPECT_EQ(RunCommand({u"seznam"_s, u"psi"_s, Path(u"psi.ods"_s)}).first, 2);
 }
 
 TEST_F(ManagerTest, CopiesAreComparedAndPutBackByCommands) {
@@ -77,6 +78,13 @@ TEST_F(ManagerTest, CopiesAreComparedAndPutBackByCommands) {
     EXPECT_TRUE(text.contains(u"Psi: přibylo 2, ubylo 0, změnilo se 0."_s)) << text.toStdString();
     EXPECT_EQ(RunCommand({u"vratit"_s, copy}), (std::pair{0, u"Vráceno: "_s + copy + u'\n'}));
     EXPECT_EQ(Figures().dogs, 0);
+}
+
+TEST_F(ManagerTest, ACopyIsFoundByThePathThatMakingItTold) {
+    const QString copy = RunCommand({u"zaloha"_s}).second.trimmed();
+    EXPECT_TRUE(copy.startsWith(u'/'));
+    EXPECT_EQ(RunCommand({u"porovnat"_s, copy, u"data.mdb"_s}).first, 0);
+    EXPECT_EQ(RunCommand({u"vratit"_s, copy}).first, 0);
 }
 
 TEST_F(ManagerTest, ACopyThatIsNotThereIsNamedSo) {

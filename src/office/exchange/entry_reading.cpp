@@ -1,5 +1,7 @@
 #include "office/exchange/entry_reading.h"
 
+#include <QRegularExpression>
+
 namespace lorvo {
 
 using namespace Qt::StringLiterals;
@@ -35,10 +37,10 @@ QString InQuotes(const QString& text) {
 }
 
 std::optional<DateValue> DayFromCell(const QString& text, DateValue today, YearWindow window) {
-    bool isCount = false;
-    const int count = text.toInt(&isCount);
-    if (isCount && text.size() == 5)
-        return DateValue::FromDays(count);
+    // A spreadsheet counts days; behind the point stands the time of day.
+    static const QRegularExpression count(u"^(\\d{5})(\\.\\d+)?$"_s);
+    if (const auto match = count.match(text); match.hasMatch())
+        return DateValue::FromDays(match.captured(1).toInt());
     return DateFromText(text.toStdString(), DateOrder::DayFirst, today, window);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/values/errors.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 namespace lorvo {
 
@@ -17,6 +18,12 @@ QStringList NamesIn(const QString& text, const std::map<QString, int>& known) {
     if (text.isEmpty() || known.contains(FoldedText(text)))
         return text.isEmpty() ? QStringList() : QStringList(text);
     return text.split(text.contains(u';') ? u';' : u',', Qt::SkipEmptyParts);
+}
+
+/// A dog enters a show once, however often a cell names it.
+void AddOnce(std::vector<int>& ids, int id) {
+    if (std::ranges::find(ids, id) == ids.end())
+        ids.push_back(id);
 }
 
 /// The day of a moment as forms on the web write it, with or without a time of day behind.
@@ -47,7 +54,7 @@ void ReadShow(EntryReading& reading, const EntryTables& tables) {
         if (found == tables.shows.end())
             reading.Refuse(u"Výstava "_s + InQuotes(name.trimmed()) + u" neexistuje."_s);
         else
-            shows.push_back(found->second);
+            AddOnce(shows, found->second);
     }
 }
 
@@ -73,7 +80,7 @@ void ReadCompetitions(EntryReading& reading, const EntryTables& tables) {
         if (found == tables.competitions.end())
             reading.Refuse(u"Soutěž "_s + InQuotes(name.trimmed()) + u" neexistuje."_s);
         else
-            reading.line.entry.competitions.push_back(found->second);
+            AddOnce(reading.line.entry.competitions, found->second);
     }
 }
 

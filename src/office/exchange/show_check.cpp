@@ -2,6 +2,7 @@
 
 #include "app/common_routines.h"
 #include "office/fees/owner_accounts.h"
+#include "platform/values/errors.h"
 #include "store/data_module.h"
 #include "store/kruhy.h"
 #include "store/majitele.h"
@@ -84,6 +85,24 @@ void LookAtTies(ShowCheck& check, const LinkTable& ties, const std::set<int>& do
         }
 }
 
+/// An entry in a show that is gone, or a class without a fee, leaves the accounts unreckoned.
+void LookAtAccounts(ShowCheck& check, Currency paid) {
+    try {
+        const OwnerAccounts accounts;
+        Currency paidByOwners;
+        for (const Majitele& owner : OwnersByName())
+            paidByOwners += accounts.Of(owner.ID).paid;
+        if (paid != paidByOwners)
+            check.faults << u"V seznamu vystavovatelů je uhrazeno "_s + AmountText(paidByOwners) +
+                                u", plateb je ale za "_s + AmountText(paid) + u'.';
+    } catch (const DiskError&) {
+        throw;
+    } catch (const Error& failure) {
+        check.faults << u"Poplatky vystavovatelů nejdou spočítat: "_s +
+                            QString::fromUtf8(failure.what());
+    }
+}
+
 void LookAtPayments(ShowCheck& check, const std::set<int>& dogs) {
     Lost withoutDog(check, u"Psi s platbou, kteří v databázi nejsou"_s);
     Currency paid;
@@ -91,15 +110,9 @@ void LookAtPayments(ShowCheck& check, const std::set<int>& dogs) {
         withoutDog.LookFor(dog, dogs);
         paid += amount;
     }
-    const OwnerAccounts accounts;
-    Currency paidByOwners;
-    for (const Majitele& owner : OwnersByName())
-        paidByOwners += accounts.Of(owner.ID).paid;
     check.figures << u"Platby: "_s + QString::number(CountPayments()) + u", celkem "_s +
                          AmountText(paid);
-    if (paid != paidByOwners)
-        check.faults << u"V seznamu vystavovatelů je uhrazeno "_s + AmountText(paidByOwners) +
-                            u", plateb je ale za "_s + AmountText(paid) + u'.';
+    LookAtAccounts(check, paid);
 }
 
 } // namespace

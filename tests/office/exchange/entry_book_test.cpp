@@ -136,6 +136,18 @@ TEST_F(EntryBookTest, TheClosingFollowsTheDayOnWhichTheEntryCame) {
 TEST_F(EntryBookTest, DaysMayComeAsSpreadsheetsCountThem) {
     EXPECT_EQ(Judged({{"Datum narození", "45448"}}).entry.dog.DatumNar,
               DateValue::FromCalendar(2024, 6, 5));
+    EXPECT_EQ(Judged({{"Datum narození", "45448.75"}}).entry.dog.DatumNar,
+              DateValue::FromCalendar(2024, 6, 5));
+    EXPECT_EQ(Verdict({{"Uzávěrka", "46498.5242592593"}, {"Jméno psa", "E"}}),
+              "look: Přihláška došla po druhé uzávěrce.");
+}
+
+TEST_F(EntryBookTest, AShowOrCompetitionNamedTwiceIsEnteredOnce) {
+    const NewEntry entry = Judged({{"Výstava", "Hlavní výstava, hlavni vystava"},
+                                   {"Soutěže", "Dítě a pes; Dítě a pes"}})
+                               .entry;
+    EXPECT_EQ(entry.shows.size(), 1u);
+    EXPECT_EQ(entry.competitions.size(), 1u);
 }
 
 using namespace Qt::StringLiterals;

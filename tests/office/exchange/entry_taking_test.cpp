@@ -136,6 +136,16 @@ TEST_F(EntryTakingTest, TheCheckNamesWhatPointsNowhere) {
         << faults.toStdString();
 }
 
+TEST_F(EntryTakingTest, TheCheckGoesOnWhereAccountsCanNotBeReckoned) {
+    TakeEntries(Lines({{"A", "Eva"}}), All, today);
+    DeleteShow(show);
+    const QString faults = CheckShow().faults.join(u' ');
+    EXPECT_TRUE(faults.contains(u"které vedou k něčemu, co v databázi není: 1."_s))
+        << faults.toStdString();
+    EXPECT_TRUE(faults.contains(u"Poplatky vystavovatelů nejdou spočítat: "_s))
+        << faults.toStdString();
+}
+
 /// A generated show without awards, numbers and entries in more than one show: what a table of
 /// entries can tell.
 class RoundTripTest : public ::testing::Test {
