@@ -8,8 +8,10 @@
 
 namespace lorvo {
 
+using namespace Qt::StringLiterals;
+
 QString WithEnding(const QString& path, const QString& filter) {
-    static const QRegularExpression endings(QStringLiteral("\\*(\\.\\w+)"));
+    static const QRegularExpression endings(u"\\*(\\.\\w+)"_s);
     QString first;
     for (const QRegularExpressionMatch& match : endings.globalMatch(filter)) {
         if (path.endsWith(match.captured(1), Qt::CaseInsensitive))

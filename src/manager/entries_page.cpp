@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <algorithm>
+#include <map>
 
 namespace lorvo {
 
@@ -90,6 +91,20 @@ void EntriesPage::Judge() {
     if (!show_.OnShow([this] { lines_ = JudgedNow(); }))
         lines_.clear();
     ShowLines();
+}
+
+void EntriesPage::JudgeForShow() {
+    std::map<int, std::pair<LineState, bool>> before;
+    for (const EntryLine& line : lines_)
+        before[line.number] = {line.state, IsTicked(line)};
+    Judge();
+    for (const EntryLine& line : lines_) {
+        const auto [state, ticked] = before[line.number];
+        const int position = lvwLines->FindRow(u'C' + QString::number(line.number));
+        if (state == line.state && line.canBeTaken && position >= 0)
+            lvwLines->SetChecked(position, ticked);
+    }
+    ShowCounts();
 }
 
 void EntriesPage::ShowLines() {

@@ -46,6 +46,8 @@ class EntriesPage : public QWidget {
     void FillShows();
     bool IsShowThere() const;
     void Judge();
+    /// What the clerk ticked or cleared stays so where the line is judged as before.
+    void JudgeForShow();
     std::vector<EntryLine> JudgedNow() const;
     void ShowLines();
     void ShowCounts();

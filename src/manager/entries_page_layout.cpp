@@ -93,7 +93,7 @@ void EntriesPage::ConnectControls() {
         source_.SetSeparator(cmbSeparator->currentData().toChar());
         ReadAnew();
     });
-    Connect(cmbShow, &QComboBox::activated, this, &EntriesPage::Judge);
+    Connect(cmbShow, &QComboBox::activated, this, &EntriesPage::JudgeForShow);
     Connect(lvwLines, &ReportList::ItemCheck, this, &EntriesPage::KeepTick);
 }
 

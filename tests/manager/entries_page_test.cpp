@@ -70,6 +70,14 @@ TEST_F(EntriesPageTest, ALineWithoutATickStaysAndGoesIntoTheRest) {
         << rest.toStdString();
 }
 
+TEST_F(EntriesPageTest, AnotherShowLeavesTheTicksAsTheClerkSetThem) {
+    OpenEntries(kEntries);
+    Tick(1);
+    ChooseByKeys("cmbShow", Qt::Key_Down);
+    EXPECT_EQ(Control<QComboBox>(window, "cmbShow").currentText(), u"(žádnou)"_s);
+    EXPECT_TRUE(LabelText("lblCounts").endsWith(u"zaškrtnuto: 1"_s));
+}
+
 TEST_F(EntriesPageTest, TheRestNeverTakesThePlaceOfTheEntries) {
     OpenEntries(kEntries);
     Tick(1);
