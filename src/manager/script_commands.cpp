@@ -65,6 +65,16 @@ int Check(const ShowAccess& show, const QStringList&, QTextStream& out) {
 }
 
 /// The lines that nobody has to look at are taken, the others go into the file of the rest.
+/// Which column is which. A file without one that is known holds no entries.
+ColumnChoice ColumnsOf(const EntrySource& source) {
+    ColumnChoice columns = RememberedColumns(source.Headings());
+    if (std::ranges::none_of(columns, &std::optional<int>::has_value))
+        throw PlatformError("Soubor „" + source.Path().toStdString() +
+                            "“ nemá v prvním řádku žádný nadpis, podle kterého by šlo přihlášky "
+                            "převzít.");
+    return columns;
+}
+
 int Take(const ShowAccess& show, const QStringList& arguments, QTextStream& out) {
     if (!IsTextName(arguments[1]))
         return kNotUnderstood;
@@ -78,7 +88,7 @@ int Take(const ShowAccess& show, const QStringList& arguments, QTextStream& out)
         const std::vector<Vystavy> shows = Shows();
         const DateValue today = show.Today();
         EntryBook book(shows.empty() ? 0 : shows.front().ID, today);
-        const auto lines = JudgedLines(source.Rows(), RememberedColumns(source.Headings()), book);
+        const auto lines = JudgedLines(source.Rows(), ColumnsOf(source), book);
         ReplaceFile(arguments[1], CsvBytes(RestOfTable(source.Headings(), lines, isNew)));
         show.CopyNow();
         out << TakingReportText(TakeEntries(lines, isNew, today), source.Path()) << '\n';

@@ -80,6 +80,17 @@ TEST_F(ManagerTest, CopiesAreComparedAndPutBackByCommands) {
     EXPECT_EQ(Figures().dogs, 0);
 }
 
+TEST_F(ManagerTest, AFileWithoutAKnownHeadingIsRefused) {
+    for (const char* junk : {"", "x;y\n1;2\n", "\xff\xfe\x01"}) {
+        const QString path = Write(junk);
+        platform.ExpectMessage(u"Soubor „%1“ nemá v prvním řádku žádný nadpis, podle kterého by "
+                               "šlo přihlášky převzít."_s.arg(path),
+                               MessageAnswer::Ok, MessageIcon::Stop);
+        EXPECT_EQ(RunCommand({u"prevzit"_s, path, Path(u"zbytek.csv"_s)}).first, 1);
+        EXPECT_FALSE(QFile::exists(Path(u"zbytek.csv"_s)));
+    }
+}
+
 TEST_F(ManagerTest, ACopyIsFoundByThePathThatMakingItTold) {
     const QString copy = RunCommand({u"zaloha"_s}).second.trimmed();
     EXPECT_TRUE(copy.startsWith(u'/'));
