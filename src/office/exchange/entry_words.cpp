@@ -51,8 +51,8 @@ std::optional<bool> SexFromText(const QString& text) {
 }
 
 std::optional<bool> YesFromText(const QString& text) {
-    return ByWords(text, {u"ano"_s, u"a"_s, u"1"_s, u"true"_s, u"yes"_s},
-                   {u"ne"_s, u"n"_s, u"0"_s, u"false"_s, u"no"_s});
+    return ByWords(text, {u"ano"_s, u"a"_s, u"1"_s, u"true"_s, u"pravda"_s, u"yes"_s},
+                   {u"ne"_s, u"n"_s, u"0"_s, u"false"_s, u"nepravda"_s, u"no"_s});
 }
 
 std::optional<bool> FirstClosingFromText(const QString& text) {

@@ -32,10 +32,13 @@ std::optional<DateValue> DayOfMoment(QString text, DateValue today) {
     return DayFromCell(text.remove(timeOfDay).trimmed(), today, YearWindow::Around);
 }
 
-/// An amount that isn't negative; nullopt for any other text.
+/// An amount that isn't negative, as people write it ("650 Kč", "650,-"); nullopt for any other
+/// text.
 std::optional<Currency> AmountFromCell(const QString& text) {
+    static const QRegularExpression behind(u"(?<=\\d)([.,]?[-–]+)?\\s*(Kč|CZK)?$"_s,
+                                           QRegularExpression::CaseInsensitiveOption);
     try {
-        const Currency amount = AmountFromText(text);
+        const Currency amount = AmountFromText(QString(text).remove(behind));
         return amount.IsNegative() ? std::nullopt : std::optional(amount);
     } catch (const RangeError&) {
         return std::nullopt;
@@ -75,6 +78,8 @@ void ReadClosing(EntryReading& reading, const EntryTables& tables) {
 
 void ReadCompetitions(EntryReading& reading, const EntryTables& tables) {
     const QString text = reading.Text(EntryField::Competitions);
+    if (FoldedText(text) == u"zadna")
+        return;
     for (const QString& name : NamesIn(text, tables.competitions)) {
         const auto found = tables.competitions.find(FoldedText(name));
         if (found == tables.competitions.end())

@@ -81,6 +81,7 @@ TEST_F(EntryBookTest, MissingAndUnreadableCellsAreNamed) {
     EXPECT_EQ(Verdict({{"PSČ", "6020"}}), "no: PSČ „6020“ nemá pět číslic.");
     EXPECT_EQ(Verdict({{"Uhrazeno", "moc"}}), "no: Uhrazeno: „moc“ není částka.");
     EXPECT_EQ(Verdict({{"Uhrazeno", "-5"}}), "no: Uhrazeno: „-5“ není částka.");
+    EXPECT_EQ(Verdict({{"Uhrazeno", "Kč"}}), "no: Uhrazeno: „Kč“ není částka.");
     EXPECT_EQ(Verdict({{"Výstava", "Jiná"}}), "no: Výstava „Jiná“ neexistuje.");
     EXPECT_EQ(Verdict({{"Soutěže", "Dítě a pes, Jiná"}}), "no: Soutěž „Jiná“ neexistuje.");
     EXPECT_EQ(Verdict({{"Město", "\xEF\xBF\xBD"}}),
@@ -140,6 +141,19 @@ TEST_F(EntryBookTest, DaysMayComeAsSpreadsheetsCountThem) {
               DateValue::FromCalendar(2024, 6, 5));
     EXPECT_EQ(Verdict({{"Uzávěrka", "46498.5242592593"}, {"Jméno psa", "E"}}),
               "look: Přihláška došla po druhé uzávěrce.");
+}
+
+TEST_F(EntryBookTest, AmountsAreReadAsPeopleWriteThem) {
+    for (const char* text : {"650 Kč", "650,-", "650.- kč", "650,– Kč", "650,00 CZK", "650"})
+        EXPECT_EQ(Judged({{"Uhrazeno", text}, {"Jméno psa", text}}).entry.paid,
+                  Currency::FromUnits(650))
+            << text;
+}
+
+TEST_F(EntryBookTest, NoCompetitionAndTheWordsOfSpreadsheetsAreUnderstood) {
+    const NewEntry entry = Judged({{"Soutěže", "žádná"}, {"První pes", "NEPRAVDA"}}).entry;
+    EXPECT_TRUE(entry.competitions.empty());
+    EXPECT_EQ(entry.firstDog, false);
 }
 
 TEST_F(EntryBookTest, AShowOrCompetitionNamedTwiceIsEnteredOnce) {
