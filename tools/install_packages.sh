@@ -11,7 +11,7 @@ packages=(
   ca-certificates ccache cmake g++ git ninja-build pkg-config
   qt6-base-dev libgl-dev
   libsqlitecpp-dev libsqlite3-dev libicu-dev libzip-dev
-  liborcus-dev libixion-dev libxlsxwriter-dev
+  libxlsxwriter-dev
   librsvg2-bin         # rsvg-convert, which draws the icons
   fp-utils             # chmcmd, which compiles the help file
   qt6-translations-l10n # Czech texts of the toolkit's own menus

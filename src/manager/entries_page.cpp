@@ -7,7 +7,6 @@
 #include "manager/taking_report_text.h"
 #include "office/exchange/csv_text.h"
 #include "office/exchange/entry_book.h"
-#include "office/exchange/sheet_files.h"
 #include "platform/failure_guard.h"
 #include "platform/whole_file.h"
 #include "store/vystavy.h"
@@ -26,8 +25,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString Filter() {
-    return CanReadSheets() ? u"Tabulky (*.csv *.txt *.tsv *.xlsx *.ods)"_s
-                           : u"Tabulky (*.csv *.txt *.tsv)"_s;
+    return u"Tabulky (*.csv *.txt *.tsv *.xlsx *.ods)"_s;
 }
 
 QString Beside(const QString& path, const QString& ending) {

@@ -1,6 +1,6 @@
 #pragma once
-// Spreadsheets: reading what others sent (.xlsx, .ods) and handing lists out (.xlsx). Both stand on
-// libraries that not every system has; where one is missing, tables go in and out as CSV alone.
+// Spreadsheets: reading what others sent (.xlsx, .ods) and handing lists out (.xlsx). Writing
+// stands on a library that not every system has; where it is missing, tables go out as CSV alone.
 
 #include "office/exchange/list_table.h"
 
@@ -8,15 +8,16 @@
 
 namespace lorvo {
 
-/// Whether this build reads .xlsx and .ods, and writes .xlsx.
-[[nodiscard]] bool CanReadSheets();
+/// Whether this build writes .xlsx.
 bool CanWriteSheets();
 
 /// Whether the name ends as a spreadsheet's does.
 bool IsSheetName(const QString& path);
 
-/// The first sheet as text: dates as the count of days, amounts with a decimal point. Raises
-/// PlatformError when the file is no spreadsheet or can't be read here.
+/// The first sheet as text, blank rows left out: dates as days since 30.12.1899, numbers with a
+/// decimal point, truths as "true" and "false", formulas by their last result, line breaks as \n.
+/// Raises PlatformError when the file is no spreadsheet, or a cell holds an error or a formula
+/// without a result.
 std::vector<QStringList> SheetRows(const QString& path);
 
 /// The table as a workbook with one sheet: amounts, counts and dates are numbers, the heading stays
