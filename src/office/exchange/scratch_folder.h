@@ -1,5 +1,5 @@
 #pragma once
-// Room for what the libraries of spreadsheets write and read by files alone.
+// Room for what the library of spreadsheets writes by files alone.
 
 #include "platform/file_failure.h"
 
