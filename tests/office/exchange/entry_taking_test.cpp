@@ -230,6 +230,21 @@ TEST_F(RoundTripTest, ASheetHoldsWhatTheTextHolds) {
     EXPECT_EQ(SheetBytes(table), SheetBytes(table)) << "equal tables give equal bytes";
 }
 
+TEST_F(RoundTripTest, WithoutATemporaryFolderASheetIsNotWritten) {
+    const QString file = database_.Folder() + u"/file"_s;
+    ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(file));
+    try {
+        static_cast<void>(SheetBytes({}));
+        ADD_FAILURE() << "no failure";
+    } catch (const PlatformError& failure) {
+        EXPECT_NE(std::string(failure.what()).find(file.toStdString()), std::string::npos)
+            << failure.what();
+    }
+    before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+}
+
 TEST_F(RoundTripTest, ASheetThatIsNoneIsRefusedByName) {
     for (const QString& name : {u"list.xlsx"_s, u"list.ods"_s}) {
         QFile file(database_.Folder() + u'/' + name);
