@@ -1,4 +1,5 @@
-// Reading spreadsheets by their endings.
+// Reading spreadsheets by their endings. The library at hand lost line breaks, merged cells and the
+// results of formulas without a word.
 
 #include "office/exchange/sheet_files.h"
 #include "office/exchange/sheet_formats.h"
