@@ -93,7 +93,7 @@ TEST_F(ManagerTest, AFileWithoutAKnownHeadingIsRefused) {
 
 TEST_F(ManagerTest, ACopyIsFoundByThePathThatMakingItTold) {
     const QString copy = RunCommand({u"zaloha"_s}).second.trimmed();
-    EXPECT_TRUE(copy.startsWith(u'/'));
+    EXPECT_TRUE(QDir::isAbsolutePath(copy)) << copy.toStdString();
     EXPECT_EQ(RunCommand({u"porovnat"_s, copy, u"data.mdb"_s}).first, 0);
     EXPECT_EQ(RunCommand({u"vratit"_s, copy}).first, 0);
 }
